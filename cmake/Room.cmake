@@ -1,0 +1,36 @@
+# tabulon_room(NAME DIR [WINDOWS] LINKS...): the static library of one room. It holds every source file of its folder
+# and links only the rooms and modules that are named, so that an include against the direction of the arrows cannot
+# link. WINDOWS: the room has forms and shares the precompiled header.
+function(tabulon_room name dir)
+  cmake_parse_arguments(ROOM "WINDOWS" "" "" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h ${dir}/*.qrc ${dir}/*.rc)
+  if(NOT sources MATCHES "\\.cpp")
+    add_library(${name} INTERFACE)
+    target_include_directories(${name} INTERFACE ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${name} INTERFACE tabulon_flags ${ROOM_UNPARSED_ARGUMENTS})
+    return()
+  endif()
+  add_library(${name} STATIC ${sources})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
+  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC tabulon_flags ${ROOM_UNPARSED_ARGUMENTS})
+  if(ROOM_WINDOWS)
+    target_precompile_headers(${name} REUSE_FROM windows_pch)
+  endif()
+endfunction()
+
+# tabulon_test(NAME DIR LINKS...): one test program for each room, all *Test.cpp of its folder.
+function(tabulon_test name dir)
+  file(GLOB sources CONFIGURE_DEPENDS ${dir}/*.cpp ${dir}/*.h)
+  if(NOT sources MATCHES "\\.cpp")
+    return()
+  endif()
+  add_executable(${name} ${sources})
+  set_target_properties(${name} PROPERTIES AUTOMOC ON)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+  target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest Qt6::Test)
+  target_precompile_headers(${name} REUSE_FROM windows_pch)
+  target_compile_definitions(${name} PRIVATE TABULON_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
+                             TABULON_BINARY_DIR="${CMAKE_BINARY_DIR}")
+  add_test(NAME ${name} COMMAND ${name})
+endfunction()

@@ -1,0 +1,7 @@
+#pragma once
+
+class frmTabulon;
+
+// Fills the shell's table of tabs and the registry of dialogs: the one place that knows every screen.
+void RegisterTabs(frmTabulon& shell);
+void RegisterDialogs();

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include "platform/desktop/Prompts.h"
+
+// The one message box of the system. Style: MessageStyle bits (16 stop, 36 question with Yes and No, 48 warning,
+// 64 information). An empty title is the application's; without an owner it is the form that has the focus. The
+// answer is the platform's code (6 Yes, 7 No).
+int ShowMessage(const QString& text, int style, const QString& title = {}, const QString& icon = {},
+                QWidget* owner = nullptr);
+
+// Closing texts that several screens share, letter for letter.
+namespace Texts {
+inline const QString DatabaseError =
+    "A database error has occurred.  Please verify your data entry\nand your Database structure.";
+inline const QString NotifySupport = "An error has occurred.  Please Notify Support.";
+inline const QString DeleteFailed = "An error has occurred while attempting to delete the record.";
+inline const QString Referenced = "The Code is referenced by another table in the database.";
+inline const QString Persists = "If the error persists notify support.";
+inline const QString NoAccess = "You do not have access to this function";
+inline const QString DeleteQuestion = "Are you sure you wish to Delete this record?";
+}  // namespace Texts
+
+class AdoError;
+// DeleteFailed, two line breaks, and Referenced or Persists, by the error's number.
+QString DeleteFailureText(const AdoError& error);

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <functional>
+
+#include "platform/ado/AdoError.h"
+
+// The frame of every event procedure and the one place where failures end. On a failure: an open transaction is
+// rolled back, one message is shown, and two log lines are written: "L" the procedure's log name with
+// gstrErrorMessage as detail, "S" "Error: " number " - " description. Nothing crosses into the event loop.
+class Procedure {
+ public:
+  // `form` gives caption and owner of the message; without it nothing is shown.
+  explicit Procedure(QString logName, QWidget* form = nullptr);
+
+  // What is shown instead of gstrErrorMessage: this procedure's closing text.
+  Procedure& OnFailure(const QString& closingText);
+  Procedure& OnFailure(std::function<QString(const AdoError&)> closingText);
+  // Runs after message and log lines: focus, pointer.
+  Procedure& Finally(std::function<void()> after);
+  // Style of the failure message; 16 when not set.
+  Procedure& Style(int style);
+
+  // Clears gstrErrorMessage and runs the body. False when it failed. Leaving the body early is success.
+  bool Run(const std::function<void()>& body);
+
+  // The silent form, for the shell and for fill-only procedures: logs a failure, shows nothing, and the caller goes on
+  // with its next step. May be called many times.
+  bool Step(const std::function<void()>& statement);
+
+  const QString& LogName() const { return logName_; }
+
+ private:
+  void Fail(const AdoError& error, bool show);
+  bool Guard(const std::function<void()>& body, bool show);
+
+  QString logName_;
+  QWidget* form_;
+  std::function<QString(const AdoError&)> closingText_;
+  std::function<void()> after_;
+  int style_ = 16;
+};

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QDialog>
+
+// Base of the dialogs. Life of one: Load, Activate, QueryUnload, Unload, in that order. Escape and the window's close
+// button unload like the Close command; no button is a default button unless the screen makes it one.
+class Screen : public QDialog {
+  Q_OBJECT
+
+ public:
+  explicit Screen(const QString& formName, const QString& caption, QWidget* parent = nullptr);
+
+  QString Caption() const { return windowTitle(); }
+  void SetCaption(const QString& caption) { setWindowTitle(caption); }
+
+  // Load, show, Activate, nested event loop until unloaded.
+  void ShowModal();
+  // Load and show without a loop of its own (for the splash screen and for tests).
+  void ShowModeless();
+  // Asks QueryUnload, then Unload; closes when neither cancels. True when the screen is gone.
+  bool Unload();
+  bool Loaded() const { return loaded_; }
+
+  void done(int result) override;
+  void reject() override { Unload(); }
+
+ protected:
+  virtual void Form_Load() {}
+  // When the screen is shown, and again when a modal screen it opened has closed. Not after a message box.
+  virtual void Form_Activate() {}
+  // True cancels the unload.
+  virtual bool Form_QueryUnload() { return false; }
+  virtual bool Form_Unload() { return false; }
+  // The user pressed the window's own close button or Escape; unloads unless overridden (Cancel where there is one).
+  virtual void CloseRequested() { Unload(); }
+
+  void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  friend void ShowModal(const QString& formName, QWidget* owner);
+  void Begin();
+  void Activate();
+
+  bool loaded_ = false;
+  bool unloading_ = false;
+  bool gone_ = false;
+};
+
+// The hourglass pointer, as long as it lives.
+class Hourglass {
+ public:
+  Hourglass();
+  ~Hourglass();
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+};

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <memory>
+
+class QWidget;
+class Screen;
+
+// Screens by name: a room opens a screen of another room without knowing it.
+using ScreenMaker = std::function<std::unique_ptr<Screen>(QWidget* owner)>;
+
+void RegisterScreen(const QString& formName, ScreenMaker maker);
+template <class Form>
+void RegisterScreen(const QString& formName) {
+  RegisterScreen(formName, [](QWidget* owner) { return std::make_unique<Form>(owner); });
+}
+std::unique_ptr<Screen> MakeScreen(const QString& formName, QWidget* owner);
+QStringList RegisteredScreens();
+
+// Opens the screen as a modal dialog over `owner` (the active window when null) and returns when the user has closed
+// it and every successor it named. An unknown name is a std::logic_error.
+void ShowModal(const QString& formName, QWidget* owner = nullptr);
+// For a screen that hands its record on: it unloads itself and names what is shown next, in its place.
+void ShowNext(const QString& formName);

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QDateTime>
+#include <QString>
+#include <QStringList>
+#include <memory>
+#include <vector>
+
+#include "platform/ado/AdoError.h"
+#include "platform/ado/ConnectionSettings.h"
+#include "platform/ado/Recordset.h"
+
+class QSqlDatabase;
+class QSqlError;
+
+// What one engine needs otherwise than the shared words of the system. One class for each engine, no state.
+class Dialect {
+ public:
+  virtual ~Dialect() = default;
+
+  virtual Engine engine() const = 0;
+  // 1 SQLite, 2 PostgreSQL, 3 MariaDB, 5 SQL Server.
+  virtual int DatabaseType() const = 0;
+  // Name of the Qt driver and of the Debian package that holds it.
+  virtual QString DriverName() const = 0;
+  virtual QString DriverPackage() const = 0;
+
+  // Puts the settings on the database object. False with a reason for the user when they cannot be used (an absent
+  // file of SQLite is never created).
+  virtual bool Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const = 0;
+  // Statements that every session begins with.
+  virtual QStringList SessionSetup(const ConnectionSettings& settings) const = 0;
+  // A SELECT that verifies the set-up: its one value must equal "1". Empty where there is nothing to verify.
+  virtual QString SessionCheck() const { return {}; }
+  virtual QString BeginStatement() const = 0;
+
+  // One statement in the words of this engine. What stands inside a literal is never touched; carrying a carried text
+  // again changes nothing.
+  virtual QString Carry(const QString& statement, const ConnectionSettings& settings) const = 0;
+
+  virtual QString DateLiteral(const QDate& date) const = 0;
+  virtual QString DateTimeLiteral(const QDateTime& moment) const = 0;
+  // Doubles each single quote; a backslash is an ordinary character on every engine.
+  virtual QString Escape(const QString& text) const;
+
+  virtual AdoError Translate(const QSqlError& error, const QString& source) const = 0;
+  // True when the error says that the server is gone.
+  virtual bool IsConnectionLost(const QSqlError& error) const = 0;
+
+  virtual std::vector<ColumnInfo> ReadColumns(QSqlDatabase& database, const QString& table) const = 0;
+  virtual QStringList ReadTables(QSqlDatabase& database) const = 0;
+
+  static const Dialect& For(Engine engine);
+};

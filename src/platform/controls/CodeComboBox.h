@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QComboBox>
+#include <vector>
+
+// A list of descriptions that keeps the code behind each entry. The entry "(none)" (in the letters the screen uses)
+// stands for NULL: its code is a null QString. Equal descriptions are entries of their own. The box never picks an
+// entry by itself; -1 is "nothing chosen", and a text that is no entry can be shown (SetText).
+class CodeComboBox : public QComboBox {
+  Q_OBJECT
+
+ public:
+  CodeComboBox(QWidget* parent, const QString& name);
+
+  void Clear();
+  void AddNone(const QString& text = QStringLiteral("(none)"));
+  // Without a code the text is its own code.
+  void Add(const QString& description);
+  void Add(const QString& description, const QString& code);
+
+  int Count() const { return count(); }
+  int Index() const { return currentIndex(); }
+  void SetIndex(int index);
+  // The text on show, which may be no entry of the list.
+  QString Text() const;
+  // Chooses the first entry with this text (exact); shows the text without an entry when there is none.
+  void SetText(const QString& text);
+  // Null when the chosen entry is "(none)" or nothing is chosen.
+  QString Code() const;
+  QString CodeAt(int index) const;
+  QString TextAt(int index) const { return itemText(index); }
+  // First entry with that description or code; null when there is none.
+  QString CodeOf(const QString& description) const;
+  QString DescriptionOf(const QString& code) const;
+  // Chooses the entry of the code (exact). False when there is none; the box is then left alone.
+  bool SetCode(const QString& code);
+  int IndexOfCode(const QString& code) const;
+  int IndexOfText(const QString& text) const;
+  // True on the first entry added by AddNone, whatever its letters; also on a shown text that equals it but for case.
+  bool IsNone() const;
+  bool IsEmptyOrNone() const { return Text().trimmed().isEmpty() || IsNone(); }
+
+ Q_SIGNALS:
+  // The user picked an entry, the one already chosen included. Choosing by code emits nothing.
+  void Click();
+  void GotFocus();
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;  // scrolls the page, never the choice, unless focused
+
+ private:
+  std::vector<QString> codes_;
+  int noneIndex_ = -1;
+  QString shown_;
+};

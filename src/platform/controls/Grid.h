@@ -1,0 +1,97 @@
+#pragma once
+
+#include <QTableView>
+#include <vector>
+
+class GridModel;
+
+// A grid of strings in the vocabulary the screens speak. Row 0 is the heading, data rows count from 1; column 0 is the
+// narrow marker column. Row() is 0 when no row is current, whatever the view's own current index is. Rows stand in the
+// order of the screen: a sort by a heading moves them for good, and a filter only hides them.
+class Grid : public QTableView {
+  Q_OBJECT
+
+ public:
+  Grid(QWidget* parent, const QString& name, int columns = 1);
+
+  int Rows() const;                       // heading included: 1 for an empty grid
+  int Cols() const;
+  // Drops all rows and widths when the count changes.
+  void SetCols(int count);
+  // Empties the grid to its heading. Row() becomes 0; no event.
+  void Clear();
+
+  int Row() const { return row_; }
+  // Makes a row current; 0 is "no row". Emits SelChange when the row changes to another one or from another one.
+  void SetRow(int row);
+  // As SetRow without any event.
+  void SetRowQuietly(int row);
+
+  QString Text(int row, int col) const;   // row 0: the heading's caption
+  void SetText(int row, int col, const QString& text);
+  // Adds a row at the end, or before row `at`; column 0 stays empty when `cells` begins at column 1. Returns its number.
+  int AddRow(const QStringList& cellsFromColumn1, int at = 0);
+  // As AddRow for a long load: no repaint and no count until EndLoad.
+  void BeginLoad(int expectedRows = 0);
+  void LoadRow(const QStringList& cellsFromColumn1);
+  void EndLoad();
+  // The current row stays on its record; when it is removed itself there is no current row.
+  void RemoveRow(int row);
+  // First data row whose cell equals the text exactly, searching from `from`; 0 when there is none.
+  int FindRow(const QString& text, int col, int from = 1) const;
+  // First data row whose cells equal all texts: {{1, "AB"}, {7, "12"}}.
+  int FindRow(const std::vector<std::pair<int, QString>>& cells, int from = 1) const;
+
+  void SetHeading(int col, const QString& caption) { SetText(0, col, caption); }
+  // Width in twips (1440 an inch). The last visible column takes the room that is left.
+  void SetColWidth(int col, int twips);
+  void HideCol(int col, bool hidden);
+  bool ColHidden(int col) const;
+  // Numbers to the right instead of left.
+  void AlignRight(int col);
+
+  // Cells of this column can be edited in place; an empty list is a text editor of maxLength characters, otherwise a
+  // drop-down of these entries.
+  void SetEditable(int col, int maxLength, const QStringList& choices = {});
+  void EditCell(int row, int col);
+
+  // A number the screen keeps beside a row (it moves with the row on a sort); 0 when never set.
+  void SetRowData(int row, qint64 data);
+  qint64 RowData(int row) const;
+
+  // Sorts by a column. Numeric compares as numbers where both cells are numbers. Emits BeforeSort and AfterSort.
+  void Sort(int col, Qt::SortOrder order, bool numeric = false);
+
+  // Hides rows that do not hold the text in any visible cell (letter case ignored); an empty text shows all.
+  void SetFilter(const QString& text);
+  bool RowHidden(int row) const;
+
+ Q_SIGNALS:
+  // Another row became current, by hand or by SetRow. Not emitted for row 0 on clearing a grid.
+  void SelChange();
+  // A click on a data cell, after SelChange where the row changed.
+  void CellClick(int row, int col);
+  void CellDoubleClick(int row, int col);
+  void BeforeSort(int col);
+  void AfterSort(int col);
+  // A cell was edited by hand; `old` is what stood there.
+  void AfterEdit(int row, int col, const QString& old);
+
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  friend class GridModel;
+  void ShowCurrent();
+  void HeadingClicked(int col);
+  void StretchLast();
+
+  GridModel* model_;
+  int row_ = 0;
+  bool quiet_ = false;
+  QString filter_;
+};
