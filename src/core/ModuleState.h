@@ -34,6 +34,7 @@ inline QString gstrDecimalSeparator = ".";       // of the machine's locale, "."
 inline char16_t gintDecimalSeparatorKey = 46;    // its character code, 46 or 44
 inline QStringList gcolLanguageCode;             // language codes, in the order of their descriptions
 inline QStringList gcolLanguageDesc;             // their descriptions, index by index
+inline QString gstrDefaultLanguageCode;          // the code marked as default; empty when none is
 
 inline bool gbSkipGridEvents = false;            // code moves a grid's selection; grid events ignore the move
 inline bool gbSkipActivate = false;              // the next Form_Activate does nothing but clear it
