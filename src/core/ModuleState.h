@@ -55,6 +55,7 @@ inline qint32 glngNCIPLibraryId = 0;             // owner of the NCIP connection
 inline qint32 glngFoundLibraryId = 0;            // library found by the contact screen's look-up
 inline bool gbSettingsChanged = false;           // the profile list differs from its table
 inline QString gstrISO18626ConnectionId;         // hand-over of the connection picker, both ways
+inline bool gbISO18626SelectionMode = true;      // the connection screen is opened as a picker
 
 // True while code moves a grid's selection; the former value comes back on leaving.
 class SkipGridEvents {

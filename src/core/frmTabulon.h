@@ -3,7 +3,7 @@
 #include <QMainWindow>
 #include <array>
 #include <functional>
-#include <vector>
+#include <type_traits>
 
 #include "core/CommandLine.h"
 #include "core/Screen.h"
@@ -28,8 +28,9 @@ struct TabRow {
 
 // The row of a page class: entry, Add, Update, Delete, Clear; nullptr where the button does nothing.
 template <class Page>
-TabRow MakeTab(void (Page::*entry)(), bool (Page::*add)(), bool (Page::*update)(), bool (Page::*remove)(),
-               bool (Page::*clear)()) {
+TabRow MakeTab(void (Page::*entry)(), std::type_identity_t<bool (Page::*)()> add,
+               std::type_identity_t<bool (Page::*)()> update, std::type_identity_t<bool (Page::*)()> remove,
+               std::type_identity_t<bool (Page::*)()> clear) {
   const auto bind = [](bool (Page::*operation)()) -> std::function<bool(TabPage&)> {
     if (!operation) return {};
     return [operation](TabPage& page) { return (static_cast<Page&>(page).*operation)(); };
