@@ -355,6 +355,13 @@ QString Desk::Focus() const {
   return focus ? focus->objectName() : QString();
 }
 
+void Desk::Picture(const QString& name) const {
+  const QDir gallery(QString(TABULON_BINARY_DIR) + "/gallery");
+  gallery.mkpath(".");
+  QApplication::processEvents();
+  EXPECT_TRUE(Window()->grab().save(gallery.filePath(name + ".png")));
+}
+
 // --- Watching ---
 
 QStringList Desk::Statements() { return std::exchange(statements_, {}); }

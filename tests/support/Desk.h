@@ -71,6 +71,9 @@ class Desk : public testing::Test {
   bool IsShown(const QString& name) const;
   QString Focus() const;                                    // object name of the control that has the focus
 
+  // Leaves a picture of the window in front in the folder "gallery" of the build.
+  void Picture(const QString& name) const;
+
   // --- Watching ---
   Script& Prompt() { return *script_; }
   // Statements the program ran since the last call, as composed. Writing() leaves the SELECTs out.
