@@ -34,10 +34,10 @@ bool Load(const QString& path, IniText& text, QString* reason) {
 
 bool Store(const QString& path, const QByteArray& bytes, QString* reason) {
   QSaveFile file(path);
-  if (file.open(QIODevice::WriteOnly)) {
-    file.write(bytes);
-    if (file.commit()) return true;
-  }
+  // Committing alone does not notice that the last buffer found no room.
+  const bool stored =
+      file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
+  if (stored) return true;
   if (reason) *reason = QStringLiteral("The file '%1' cannot be written: %2.").arg(path, file.errorString());
   return false;
 }
