@@ -77,14 +77,12 @@ TEST_F(NumericFieldsTest, SeparatorIsThatOfTheLocale) {
 }
 
 TEST_F(NumericFieldsTest, DigitsBackspaceAndEnterPass) {
-  for (const char16_t key : u"0123456789\b\r")
-    if (key) EXPECT_EQ(Filtered(key, true, true), key);
+  for (const QChar key : QString("0123456789\b\r")) EXPECT_EQ(Filtered(key.unicode(), true, true), key.unicode());
   EXPECT_EQ(script.Beeps(), 0);
 }
 
 TEST_F(NumericFieldsTest, OtherKeysBeep) {
-  for (const char16_t key : u"aZ +*/;'\t\x1b\u0661\u00e9")
-    if (key) ExpectRefused(key);
+  for (const QChar key : QString::fromUtf8("aZ +*/;'\t\x1b١é")) ExpectRefused(key.unicode());
 }
 
 TEST_F(NumericFieldsTest, MinusPassesInAnEmptyBoxOnly) {

@@ -90,6 +90,10 @@ TEST(SecretMask, StatementThatWasCutIsMasked) {
   EXPECT_FALSE(MaskSecrets("INSERT INTO T (A, PASSWORD) VALUES ('a', 'secr").contains("secr"));
 }
 
+TEST(SecretMask, CommentsAreMaskedWhole) {
+  EXPECT_FALSE(MaskSecrets("UPDATE T SET A = 1 -- PASSWORD = 'secret'").contains("secret"));
+}
+
 TEST(SecretMask, TextsWithoutSecretsComeBackAsTheyAre) {
   ExpectUnchanged("");
   ExpectUnchanged("It's a quarter past 'nine");

@@ -34,7 +34,7 @@ class SiteSettingsTest : public WorkFolder {
     return error;
   }
 
-  QString Home() const { return QDir::toNativeSeparators(Path("")); }
+  QString Home() const { return QDir::toNativeSeparators(Path("") + "/"); }
   const QByteArray database = "[Database]\nEngine=SQLITE\nName=ostana.db\n";
 };
 
