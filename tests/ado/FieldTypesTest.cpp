@@ -121,6 +121,12 @@ TEST_F(FieldTypes, DatesAreTextAndNullStaysNull) {
   EXPECT_TRUE(rows.Fields("PRICE").IsNull());
 }
 
+TEST_F(FieldTypes, AMomentInADateColumnIsADate) {
+  Insert("1, 'a', NULL, '2024-02-29 12:00:00', '2024-02-29'");
+  EXPECT_EQ(Value("SELECT BORN FROM ID_TYPES"), "2024-02-29");
+  EXPECT_EQ(Value("SELECT CHANGED FROM ID_TYPES"), "2024-02-29 00:00:00");
+}
+
 // The hour that the clocks leap over in spring and the one that comes twice in autumn, on a machine in central Europe.
 TEST_F(FieldTypes, MomentsDoNotDependOnTheClockOfTheMachine) {
   const QByteArray before = qgetenv("TZ");

@@ -96,6 +96,22 @@ TEST_F(LostConnectionTest, TheNewSessionIsSetUpAsTheFirst) {
   EXPECT_EQ(Run(R"(UPDATE ID_A SET B = 'a\b\')"), 1);
 }
 
+// It would go on in a new session, outside of the transaction, and commit what came after the loss.
+TEST_F(LostConnectionTest, TheDriversOwnReconnectionIsNotAllowed) {
+  if (TestEngine() != Engine::MariaDb) GTEST_SKIP() << "an option of MariaDB's driver";
+  connection.Close();
+  ConnectionSettings settings = database.Settings();
+  settings.options = "MYSQL_OPT_RECONNECT=1;MYSQL_OPT_CONNECT_TIMEOUT=5";
+  Connection stubborn(settings);
+  stubborn.Open();
+  Transaction transaction(stubborn);
+  stubborn.Execute("INSERT INTO ID_A VALUES(1, 'x')");
+  KillSession();
+  EXPECT_TRUE(ErrorOf([&] { stubborn.Execute("INSERT INTO ID_A VALUES(2, 'x')"); }).ConnectionLost());
+  ErrorOf([&] { transaction.Commit(); });
+  EXPECT_EQ(Count("ID_A"), 0);
+}
+
 TEST_F(LostConnectionTest, ARecordsetReadBeforeKeepsItsRows) {
   Run("INSERT INTO ID_A VALUES(1, 'x')");
   Recordset rows;

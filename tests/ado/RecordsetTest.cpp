@@ -103,6 +103,17 @@ TEST_F(RecordsetTest, AFailedOpenLeavesItClosed) {
   EXPECT_FALSE(rows.IsOpen());
 }
 
+// The second of three rows cannot be computed: half a result must not pass for a whole one.
+TEST_F(RecordsetTest, AReadingThatBreaksOffIsAnError) {
+  const QString broken = TestEngine() == Engine::Sqlite
+                             ? "CASE WHEN A = 2 THEN abs(-9223372036854775807 - 1) ELSE A END"
+                             : "CASE WHEN A = 2 THEN (SELECT X.A FROM ID_A X) ELSE A END";
+  Recordset rows;
+  ErrorOf([&] { rows.Open(connection, "SELECT " + broken + " FROM ID_A ORDER BY A"); });
+  EXPECT_FALSE(rows.IsOpen());
+  EXPECT_EQ(connection.State(), 1);
+}
+
 TEST_F(RecordsetTest, OnlyASelectIsItsSource) {
   Recordset rows;
   EXPECT_EQ(ErrorOf([&] { rows.Open(connection, "DELETE FROM ID_A"); }).Number(), AdoNumber::TextRefused);

@@ -61,6 +61,13 @@ TEST_F(ValuesTest, PatternsIgnoreLetterCase) {
   EXPECT_EQ(Count("ID_V WHERE (B LIKE '%x%') OR B LIKE 'ABC _IBRARY'"), 1);
 }
 
+TEST_F(ValuesTest, PatternsOfTheServersIgnoreTheCaseOfAllLetters) {
+  if (TestEngine() == Engine::Sqlite) GTEST_SKIP() << "its LIKE knows the case of ASCII letters only";
+  Store(1, "\u00c9COLE \u017d");
+  EXPECT_EQ(Count("ID_V WHERE B LIKE N'\u00e9cole \u017e'"), 1);
+  EXPECT_EQ(Count("ID_V WHERE B LIKE N'%\U0001f600%'"), 0);
+}
+
 TEST_F(ValuesTest, ABackslashInAPatternIsAnOrdinaryCharacter) {
   Store(1, R"(C:\Temp)");
   Store(2, "C:%Temp");
