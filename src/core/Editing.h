@@ -21,6 +21,7 @@ struct BoundField {
   std::function<QString()> get;
   std::function<void(const QString&)> set;
   std::function<void()> trim;
+  std::function<void()> clear;
 };
 
 class FieldList {

@@ -34,6 +34,7 @@ inline QString gstrDecimalSeparator = ".";       // of the machine's locale, "."
 inline char16_t gintDecimalSeparatorKey = 46;    // its character code, 46 or 44
 inline QStringList gcolLanguageCode;             // language codes, in the order of their descriptions
 inline QStringList gcolLanguageDesc;             // their descriptions, index by index
+inline QString gstrDefaultLanguageCode;          // the code marked as default; empty when none is
 
 inline bool gbSkipGridEvents = false;            // code moves a grid's selection; grid events ignore the move
 inline bool gbSkipActivate = false;              // the next Form_Activate does nothing but clear it
@@ -54,6 +55,7 @@ inline qint32 glngNCIPLibraryId = 0;             // owner of the NCIP connection
 inline qint32 glngFoundLibraryId = 0;            // library found by the contact screen's look-up
 inline bool gbSettingsChanged = false;           // the profile list differs from its table
 inline QString gstrISO18626ConnectionId;         // hand-over of the connection picker, both ways
+inline bool gbISO18626SelectionMode = true;      // the connection screen is opened as a picker
 
 // True while code moves a grid's selection; the former value comes back on leaving.
 class SkipGridEvents {

@@ -3,6 +3,7 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "platform/ado/AdoError.h"
 
@@ -29,11 +30,14 @@ class Procedure {
   // with its next step. May be called many times.
   bool Step(const std::function<void()>& statement);
 
+  // Runs the body and hands its failure out, neither shown nor logged, with an open transaction rolled back.
+  static std::optional<AdoError> Try(const std::function<void()>& body);
+
   const QString& LogName() const { return logName_; }
 
  private:
-  void Fail(const AdoError& error, bool show);
   bool Guard(const std::function<void()>& body, bool show);
+  void Report(const AdoError& error, bool show);
 
   QString logName_;
   QWidget* form_;

@@ -2,9 +2,17 @@
 
 #include <QDialog>
 
+// A form that is told when it comes to the front: when it is shown, and again when a modal screen that it opened has
+// closed. Not after a message box.
+class ActivatedForm {
+ public:
+  virtual ~ActivatedForm() = default;
+  virtual void Form_Activate() {}
+};
+
 // Base of the dialogs. Life of one: Load, Activate, QueryUnload, Unload, in that order. Escape and the window's close
 // button unload like the Close command; no button is a default button unless the screen makes it one.
-class Screen : public QDialog {
+class Screen : public QDialog, public ActivatedForm {
   Q_OBJECT
 
  public:
@@ -26,8 +34,6 @@ class Screen : public QDialog {
 
  protected:
   virtual void Form_Load() {}
-  // When the screen is shown, and again when a modal screen it opened has closed. Not after a message box.
-  virtual void Form_Activate() {}
   // True cancels the unload.
   virtual bool Form_QueryUnload() { return false; }
   virtual bool Form_Unload() { return false; }
@@ -38,9 +44,7 @@ class Screen : public QDialog {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  friend void ShowModal(const QString& formName, QWidget* owner);
   void Begin();
-  void Activate();
 
   bool loaded_ = false;
   bool unloading_ = false;

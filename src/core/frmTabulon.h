@@ -3,8 +3,10 @@
 #include <QMainWindow>
 #include <array>
 #include <functional>
-#include <vector>
+#include <type_traits>
 
+#include "core/CommandLine.h"
+#include "core/Screen.h"
 #include "core/TabPage.h"
 
 class QAction;
@@ -12,7 +14,6 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class QTabWidget;
-class QToolBar;
 
 // One row of the shell's table of tabs. An empty operation is a button that does nothing there. Operations answer
 // True when they went through; a refused or failed one leaves gbRecordModified set, so that the user can correct.
@@ -27,8 +28,9 @@ struct TabRow {
 
 // The row of a page class: entry, Add, Update, Delete, Clear; nullptr where the button does nothing.
 template <class Page>
-TabRow MakeTab(void (Page::*entry)(), bool (Page::*add)(), bool (Page::*update)(), bool (Page::*remove)(),
-               bool (Page::*clear)()) {
+TabRow MakeTab(void (Page::*entry)(), std::type_identity_t<bool (Page::*)()> add,
+               std::type_identity_t<bool (Page::*)()> update, std::type_identity_t<bool (Page::*)()> remove,
+               std::type_identity_t<bool (Page::*)()> clear) {
   const auto bind = [](bool (Page::*operation)()) -> std::function<bool(TabPage&)> {
     if (!operation) return {};
     return [operation](TabPage& page) { return (static_cast<Page&>(page).*operation)(); };
@@ -40,7 +42,7 @@ TabRow MakeTab(void (Page::*entry)(), bool (Page::*add)(), bool (Page::*update)(
 
 // The main screen: twelve tabs, one row of buttons for all of them, the menu that mirrors the buttons, the guard
 // against losing a changed record, start-up and closing. It knows no tab; the table of tabs is filled from outside.
-class frmTabulon : public QMainWindow {
+class frmTabulon : public QMainWindow, public ActivatedForm {
   Q_OBJECT
 
  public:
@@ -54,10 +56,10 @@ class frmTabulon : public QMainWindow {
 
   void SetTab(int index, TabRow row);
 
-  // Start-up: everything up to the first tab.
+  // Start-up: everything up to the first tab. Names are those of the log.
   void Form_Initialize();
   void Form_Load();
-  void Form_Activate();
+  void Form_Activate() override;
 
   int Tab() const;
   // Sets the tab by code; raises sstabtables_Click like a user's click.
@@ -73,6 +75,8 @@ class frmTabulon : public QMainWindow {
   // Shows the button and its menu entry whatever the mode letter says.
   void ShowAdd(bool shown);
   bool CloseButtonUpdate();
+  // User, database, working language and rights in the status bar.
+  void ShowStatus();
 
   void cmdAdd_Click();
   void cmdUpdate_Click();
@@ -84,15 +88,45 @@ class frmTabulon : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
-  void changeEvent(QEvent* event) override;
 
  private:
+  struct Command {
+    QPushButton* button = nullptr;
+    QAction* entry = nullptr;
+  };
+
   void BuildControls();
   void BuildMenu();
+  void BuildStatusBar();
+  QAction* HelpEntry(QMenu* menu, const QString& name, const QString& caption, const QString& formName);
+
+  // The stages of Form_Load. False: the process is ending.
+  bool LoadSettings();
+  bool Logon();
+  bool RefuseSecondCopy();
+  void NameTabs();
+  void FinishLoad();
+
+  void TabChanged(int index);
   void sstabtables_Click(int previousTab);
+  void Enter(int index);
+  void ReturnSilently(int index);
+  void RunOperation(const QString& logName, int tab, std::function<bool(TabPage&)> TabRow::*operation);
+  bool UpdateIsPossible() const;
   bool Form_Unload();
 
-  struct Private;
-  std::unique_ptr<Private> d_;
+  QString commandLine_;
+  AppArguments arguments_;
+  std::array<TabRow, TabCount> rows_;
   std::array<TabPage*, TabCount> pages_{};
+  QTabWidget* sstabtables_;
+  Command add_, update_, delete_, clear_;
+  QPushButton* cmdClose_ = nullptr;
+  QMenu* mnuOptions_ = nullptr;
+  QLabel* status_ = nullptr;
+  int tab_ = 0;                // the tab on screen
+  int recordTab_ = 0;          // the tab that was set up last: it owns the record on screen
+  bool mbFormLoaded = false;   // Form_Load has gone all the way through
+  bool mbGuardActed = false;   // the answer was Yes: the next leaving of an unsaved record returns in silence
+  bool movingBack_ = false;
 };

@@ -181,7 +181,7 @@ void Recordset::Open(Connection& connection) {
     }
     opened->connection = &connection;
     opened->tables = StatementWords::TablesOfSelect(Source);
-    QSqlQuery query = session.session.Run(Source, OpenSource);
+    QSqlQuery query = session.session.Run(StatementWords::WithTop(Source, MaxRecords), OpenSource);
     opened->TakeShape(query.record());
     opened->ReadRows(query);
     session.session.CheckEnd(query, OpenSource);

@@ -55,6 +55,7 @@ class Recordset {
   int CursorType = Static;
   int LockType = ReadOnly;
   int CursorLocation = Client;
+  int MaxRecords = 0;  // rows read at the most; 0 reads all
 
   // Reopens the connection when it is closed, runs Source and stands on the first row. An open recordset is closed
   // first.

@@ -1,0 +1,80 @@
+#include "core/Screen.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QPushButton>
+
+Screen::Screen(const QString& formName, const QString& caption, QWidget* parent) : QDialog(parent) {
+  setObjectName(formName);
+  setWindowTitle(caption);
+  setModal(true);
+  setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+}
+
+void Screen::Begin() {
+  Form_Load();
+  loaded_ = true;
+}
+
+void Screen::ShowModeless() {
+  Begin();
+  if (gone_) return;
+  show();
+  Form_Activate();
+}
+
+void Screen::ShowModal() {
+  Begin();
+  if (gone_) return;
+  QEventLoop loop;
+  connect(this, &QDialog::finished, &loop, &QEventLoop::quit);
+  show();
+  raise();
+  activateWindow();
+  Form_Activate();
+  if (!gone_) loop.exec();
+}
+
+bool Screen::Unload() {
+  if (gone_ || unloading_) return gone_;
+  unloading_ = true;
+  const bool cancelled = Form_QueryUnload() || Form_Unload();
+  unloading_ = false;
+  if (cancelled) return false;
+  gone_ = true;
+  QDialog::done(0);
+  return true;
+}
+
+void Screen::done(int result) {
+  Q_UNUSED(result);
+  Unload();
+}
+
+void Screen::closeEvent(QCloseEvent* event) {
+  if (!gone_) CloseRequested();
+  event->setAccepted(gone_);
+}
+
+void Screen::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Escape && event->modifiers() == Qt::NoModifier) {
+    CloseRequested();
+    return;
+  }
+  // Enter presses the button that has the focus, or one the screen has made its default; it never closes by itself.
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    if (auto* const button = qobject_cast<QPushButton*>(focusWidget())) {
+      button->click();
+    } else {
+      for (QPushButton* candidate : findChildren<QPushButton*>())
+        if (candidate->isDefault() && candidate->isEnabled() && candidate->isVisible()) return candidate->click();
+    }
+    return;
+  }
+  QDialog::keyPressEvent(event);
+}
+
+Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+Hourglass::~Hourglass() { QApplication::restoreOverrideCursor(); }

@@ -1,0 +1,522 @@
+#include "editors/CodeTables.h"
+
+#include <QHBoxLayout>
+#include <algorithm>
+
+#include "core/Editing.h"
+#include "core/FindLibrary.h"
+#include "core/GridTable.h"
+#include "core/Languages.h"
+#include "core/Messages.h"
+#include "core/ModuleState.h"
+#include "core/NumericFields.h"
+#include "core/OstanaFunctions.h"
+#include "core/Procedure.h"
+#include "core/Screen.h"
+#include "core/SqlText.h"
+#include "core/frmTabulon.h"
+#include "platform/ado/Recordset.h"
+
+CodeTables::CodeTables(frmTabulon& shell) : TabPage(shell) {
+  BuildControls();
+  ConnectControls();
+  ShowSpecialControls();
+}
+
+void CodeTables::BuildControls() {
+  auto* const choices = new QWidget(this);
+  Form::Rows rows(choices);
+  rows.Add("lbl0Tables", "Code &Table:", cmb0Tables);
+  rows.Add("lbl0Code", "C&ode:", txt0Code);
+  rows.Add("lbl0Description", "D&escription:", txt0Description);
+  rows.Add(lbl0CurrentLanguage, cmb0CurrentLanguage, chk0DefaultLanguage);
+
+  (new QHBoxLayout(fra0Display))->addWidget(opt0Display->Row());
+  (new QHBoxLayout(fra0aDisplay))->addWidget(opt0DeliveryType->Row());
+  auto* const library = new QHBoxLayout(fra0bDisplay);
+  library->addWidget(txt0LibrarySymbol);
+  library->addWidget(cmd0FindLibrary);
+  txt0LibrarySymbol->setAccessibleName("Library Symbol");
+  grd0TableDesc->setAccessibleName("Rows of the code table");
+  auto* const frames = new QHBoxLayout;
+  for (QWidget* frame : {fra0aDisplay, fra0Display, fra0bDisplay}) frames->addWidget(frame);
+  frames->addStretch();
+
+  QVBoxLayout* const column = Form::Column(this, {choices});
+  column->addLayout(frames);
+  column->addWidget(grd0TableDesc, 1);
+}
+
+void CodeTables::ConnectControls() {
+  connect(cmb0Tables, &CodeComboBox::Click, this, &CodeTables::cmb0Tables_Click);
+  connect(cmb0CurrentLanguage, &CodeComboBox::Click, this, &CodeTables::cmb0CurrentLanguage_Click);
+  connect(cmd0FindLibrary, &QPushButton::clicked, this, &CodeTables::cmd0FindLibrary_Click);
+  connect(grd0TableDesc, &Grid::SelChange, this, &CodeTables::grd0TableDesc_SelChange);
+  WatchField(txt0Code, grd0TableDesc, Code);
+  WatchField(txt0Description, grd0TableDesc, Description);
+  WatchField(txt0LibrarySymbol, grd0TableDesc, LibrarySymbol);
+  connect(opt0Display, &OptionGroup::Click, this, [this](int index) { Compare(WebFlag, index == 0 ? "Y" : ""); });
+  connect(opt0DeliveryType, &OptionGroup::Click, this,
+          [this](int index) { Compare(DeliveryType, index == 0 ? "C" : "L"); });
+  connect(chk0DefaultLanguage, &QCheckBox::clicked, this,
+          [this](bool checked) { Compare(DefaultLanguage, checked ? "Y" : ""); });
+  KeepRowOnSort(grd0TableDesc);
+}
+
+bool CodeTables::Compare(int column, const QString& value) {
+  gstrErrorMessage.clear();
+  const int row = grd0TableDesc->Row();
+  gbRecordModified = row == 0 || grd0TableDesc->Text(row, column) != value;
+  return gbRecordModified;
+}
+
+// --- Entering the tab and choosing a table ---
+
+void CodeTables::CodeTables_Tab() {
+  Procedure procedure("frmTabulon.CodeTables_Tab", this);
+  procedure.Run([this] {
+    gstrButtonMode = "O";
+    gbSkipGridEvents = true;
+    grd0TableDesc->SetRow(0);
+    const QString description = "TABLES_DESC" + gclsOF->LanguageSuffix();
+    gstrTableNames = gstrTableDescriptions = gstrViewOnlyFlags = QStringList{QString()};
+    cmb0Tables->Clear();
+    cmb0Tables->AddNone("(none)");
+    OpenRows(*grsTable, "SELECT   * FROM " + Sql::Table("ID_TABLES") + " ORDER BY " + description,
+             "***** SQL error on OSTANA.ID_TABLES (SELECT) *****");
+    for (; !grsTable->EOF_(); grsTable->MoveNext()) {
+      cmb0Tables->Add(Value(*grsTable, description), Value(*grsTable, "TABLES"));
+      gstrTableNames.append(Value(*grsTable, "TABLES"));
+      gstrTableDescriptions.append(Value(*grsTable, description));
+      gstrViewOnlyFlags.append(Value(*grsTable, "VIEW_ONLY_FLAG"));
+    }
+    grsTable->Close();
+  });
+  FillLanguages();
+  shell().EnableButtons(gstrButtonMode);
+  cmb0Tables->SetIndex(0);
+  special_ = {};
+  ShowSpecialControls();
+  const FillingFields filling;
+  txt0Code->SetText({});
+  txt0Description->SetText({});
+  grd0TableDesc->Clear();
+}
+
+void CodeTables::cmb0Tables_Click() {
+  CodeTables_Clear();
+  shell().ConfigureGrdTable();
+  shell().LoadDataInGrid();
+  shell().EnableButtons(gstrButtonMode);
+  gbSkipGridEvents = false;
+  if (grd0TableDesc->Rows() > 1) {
+    grd0TableDesc->SetRowQuietly(1);
+    grd0TableDesc_SelChange();
+  }
+  txt0Code->setFocus();
+}
+
+QString CodeTables::TableName() const { return gstrTableNames.value(cmb0Tables->Index()); }
+
+void CodeTables::ConfigureGrid() {
+  gstrButtonMode = "O";
+  special_ = {};
+  TabPage::ConfigureGrid();
+  if (TableSelected()) {
+    const FillingFields filling;
+    txt0Code->SetText({});
+    txt0Description->SetText({});
+    ReadTable();
+  }
+  ShowSpecialControls();
+}
+
+void CodeTables::ReadTable() {
+  const QString table = TableName();
+  Recordset rows;
+  rows.MaxRecords = 1;
+  OpenRows(rows, "SELECT   * FROM    " + Sql::Table(table), "***** SQL error on " + table + " (Select) *****");
+  special_.ackStatement = table == "ID_ACK_STATEMENT";
+  const Field code = rows.Fields(0);
+  const Field description = rows.Fields(special_.ackStatement ? 2 : 1);
+  gstrCodeColumn = code.Name();
+  gintCodeColumnType = code.Type();
+  baseDescColumn_ = description.Name();
+  gstrDescColumn = baseDescColumn_ + gclsOF->LanguageSuffix();
+  special_.webFlag =
+      QStringList{"PUBLICATION_TYPE", "SERVICE_LEVEL", "SERVICE_TYPE"}.contains(gstrCodeColumn);
+  special_.deliveryType = gstrCodeColumn == "SERVICE_TYPE";
+  special_.catalogLibrary = gstrCodeColumn == "CATALOG_CODE";
+  special_.language = gstrCodeColumn == "LANGUAGE_CODE";
+  special_.exception = gstrCodeColumn == "EXCEPTION_CODE";
+  const auto limit = [](const Field& field) { return field.DefinedSize() > 0 ? field.DefinedSize() : 32767; };
+  txt0Code->setMaxLength(limit(code));
+  txt0Description->setMaxLength(limit(description));
+  grd0TableDesc->SetHeading(Code, "Code");
+  grd0TableDesc->SetHeading(Description, special_.ackStatement ? "Statement" : "Description");
+}
+
+void CodeTables::ShowSpecialControls() {
+  const bool library = special_.catalogLibrary || special_.ackStatement;
+  fra0Display->setVisible(special_.webFlag);
+  fra0aDisplay->setVisible(special_.deliveryType);
+  fra0bDisplay->setVisible(library);
+  for (QWidget* control : std::initializer_list<QWidget*>{lbl0CurrentLanguage, cmb0CurrentLanguage,
+                                                          chk0DefaultLanguage})
+    control->setVisible(special_.language);
+  grd0TableDesc->HideCol(DeliveryType, !special_.deliveryType);
+  grd0TableDesc->HideCol(WebFlag, !special_.webFlag);
+  grd0TableDesc->HideCol(LibrarySymbol, !library);
+  grd0TableDesc->HideCol(DefaultLanguage, !special_.language);
+  grd0TableDesc->HideCol(LibraryId, true);
+}
+
+void CodeTables::LoadGrid() {
+  if (!TableSelected()) return;
+  const QString table = TableName();
+  const QString order = special_.ackStatement ? "LIBRARY_ID, ACK_CODE " : gstrCodeColumn;
+  FillGrid(*grd0TableDesc, "SELECT * FROM " + Sql::Table(table) + " ORDER BY " + order,
+           "***** SQL error on" + table + " (Select) *****", [this](Recordset& rows) { return CellsOf(rows); });
+  if (special_.catalogLibrary || special_.ackStatement) {
+    // Many rows share few libraries; each is asked for once.
+    QMap<QString, QString> symbols;
+    for (int row = 1; row < grd0TableDesc->Rows(); ++row) {
+      const QString id = grd0TableDesc->Text(row, LibraryId);
+      if (id.isEmpty()) continue;
+      if (!symbols.contains(id))
+        symbols[id] = FirstValue("SELECT   LIBRARY_SYMBOL FROM " + Sql::Table("ID_LIBRARY") +
+                                     " WHERE    LIBRARY_ID = " + id,
+                                 "***** SQL error on ID_LIBRARY  (Select) *****");
+      grd0TableDesc->SetText(row, LibrarySymbol, symbols[id]);
+    }
+  }
+  gstrButtonMode = gstrViewOnlyFlags.value(cmb0Tables->Index());
+}
+
+QStringList CodeTables::CellsOf(Recordset& rows) const {
+  QStringList cells(LibraryId);
+  cells[Code - 1] = Value(rows, 0);
+  cells[Description - 1] = Value(rows, gstrDescColumn);
+  if (special_.deliveryType) cells[DeliveryType - 1] = Value(rows, "DELIVERY_TYPE");
+  if (special_.webFlag) cells[WebFlag - 1] = Value(rows, "WEB_FLAG");
+  if (special_.catalogLibrary) cells[LibraryId - 1] = Value(rows, "CATALOG_LIBRARY_ID");
+  if (special_.ackStatement) cells[LibraryId - 1] = Value(rows, "LIBRARY_ID");
+  if (special_.language) cells[DefaultLanguage - 1] = Value(rows, "LANGUAGE_CODE_DEFAULT");
+  return cells;
+}
+
+void CodeTables::grd0TableDesc_SelChange() {
+  const int row = grd0TableDesc->Row();
+  if (gbSkipGridEvents || row == 0) return;
+  {
+    const FillingFields filling;
+    txt0Code->SetText(grd0TableDesc->Text(row, Code));
+    txt0Description->SetText(grd0TableDesc->Text(row, Description));
+    opt0DeliveryType->Select(grd0TableDesc->Text(row, DeliveryType) == "C" ? 0 : 1);
+    opt0Display->Select(grd0TableDesc->Text(row, WebFlag) == "Y" ? 0 : 1);
+    txt0LibrarySymbol->SetText(grd0TableDesc->Text(row, LibrarySymbol));
+    chk0DefaultLanguage->setChecked(grd0TableDesc->Text(row, DefaultLanguage) == "Y");
+  }
+  gbRecordModified = false;
+  txt0Code->setFocus();
+}
+
+// --- Values and keys ---
+
+bool CodeTables::CodeIsNumeric() const {
+  switch (gintCodeColumnType) {
+    case AdoType::VarChar:
+    case AdoType::VarWChar:
+    case AdoType::Char:
+    case AdoType::WChar:
+      return false;
+    default:
+      return true;
+  }
+}
+
+QString CodeTables::QuotedCode(const QString& code) const {
+  return CodeQuote() + gclsOF->SqlEscape(code) + CodeQuote();
+}
+
+int CodeTables::RowOfCode(const QString& code) const {
+  // Two libraries may share a code: the row on screen goes before the first one found.
+  const int current = grd0TableDesc->Row();
+  if (current > 0 && grd0TableDesc->Text(current, Code) == code) return current;
+  return grd0TableDesc->FindRow(code, Code);
+}
+
+QString CodeTables::WebFlagValue() const { return opt0Display->IsSet(0) ? "'Y'" : "Null"; }
+QString CodeTables::DefaultFlagValue() const { return chk0DefaultLanguage->isChecked() ? "'Y'" : "Null"; }
+QString CodeTables::DeliveryTypeValue() const { return opt0DeliveryType->IsSet(0) ? "'C'" : "'L'"; }
+
+// --- Add ---
+
+bool CodeTables::CodeTables_Add() {
+  bool done = false;
+  Procedure procedure("frmTabulon.CodeTables_Add", this);
+  procedure.OnFailure(Texts::DatabaseError).Run([&] {
+    QString code;
+    if (!CodeIsValid(code)) return;
+    qint32 libraryId = 0;
+    if (special_.ackStatement && !gclsOF->FindLibraryId(txt0LibrarySymbol->Trimmed(), libraryId)) {
+      Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt0LibrarySymbol);
+      return;
+    }
+    if (IsDuplicate(code, libraryId)) {
+      Tell("This record already exists", MessageStyle::Warning);
+      grd0TableDesc->SetRowQuietly(0);
+      const FillingFields filling;
+      txt0Code->SetText({});
+      txt0Description->SetText({});
+      txt0Code->setFocus();
+      return;
+    }
+    Execute(InsertStatement(code, libraryId), "***** SQL error on OSTANA." + TableName() + " (INSERT INTO) *****");
+    ReloadAndSelect(code, libraryId);
+    Tell("Record Added", MessageStyle::Information);
+    gbRecordModified = false;
+    txt0Code->setFocus();
+    done = true;
+  });
+  return done;
+}
+
+bool CodeTables::CodeIsValid(QString& code) {
+  if (txt0Code->Trimmed().isEmpty()) return Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt0Code);
+  code = txt0Code->TrimUpperInPlace();
+  txt0Description->TrimInPlace();
+  if (!CodeIsNumeric()) return true;
+  if (!Numbers::IsNumeric(code)) return Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt0Code);
+  const double value = Numbers::Val(code);
+  if (value != static_cast<double>(static_cast<qint64>(value)))
+    return Refuse("Please enter a valid Code.", MessageStyle::Warning, txt0Code);
+  // The number goes bare into the statement, so it is written out: "+7" and "7E0" are 7.
+  code = QString::number(static_cast<qint64>(value));
+  return true;
+}
+
+bool CodeTables::IsDuplicate(const QString& code, qint32 libraryId) const {
+  if (special_.ackStatement)
+    return grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}}) > 0;
+  return grd0TableDesc->FindRow(code, Code) > 0;
+}
+
+QString CodeTables::InsertStatement(const QString& code, qint32 libraryId) const {
+  const QString description = Sql::PlainOr(txt0Description->Text(), "NULL");
+  const Sql::LanguagePieces languages = Sql::LanguageColumns(baseDescColumn_ + "_", description);
+  const QString into = "INSERT INTO " + Sql::Table(TableName()) + " ";
+  const QString quoted = QuotedCode(code);
+  QString extraColumns, extraValues;
+  if (special_.webFlag) {
+    extraColumns = ", WEB_FLAG";
+    extraValues = ", " + WebFlagValue();
+  } else if (special_.language) {
+    extraColumns = ", LANGUAGE_CODE_DEFAULT";
+    extraValues = ", " + DefaultFlagValue();
+  }
+  if (special_.ackStatement)
+    return into + "(ACK_CODE, LIBRARY_ID, " + baseDescColumn_ + languages.columns + ") VALUES(" + quoted + "," +
+           Sql::Number(libraryId) + "," + description + languages.values + ")";
+  if (special_.exception || special_.catalogLibrary)
+    return into + (special_.exception ? "(EXCEPTION_CODE, " : "(CATALOG_CODE, ") + baseDescColumn_ +
+           languages.columns + extraColumns + ") VALUES(" + quoted + "," + description + languages.values +
+           extraValues + ")";
+  const QString deliveryColumn = special_.deliveryType ? ", DELIVERY_TYPE" : "";
+  const QString deliveryValue = special_.deliveryType ? ", " + DeliveryTypeValue() : "";
+  return into + "(" + gstrCodeColumn + ", " + baseDescColumn_ + languages.columns + deliveryColumn + extraColumns +
+         ") VALUES(" + quoted + ", " + description + languages.values + deliveryValue + extraValues + ")";
+}
+
+void CodeTables::ReloadAndSelect(const QString& code, qint32 libraryId) {
+  shell().LoadDataInGrid();
+  const SkipGridEvents skip;
+  grd0TableDesc->SetRowQuietly(
+      special_.ackStatement ? grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}})
+                            : grd0TableDesc->FindRow(code, Code));
+}
+
+// --- Update ---
+
+bool CodeTables::CodeTables_Update() {
+  bool done = false;
+  Procedure procedure("frmTabulon.CodeTables_Update", this);
+  procedure.OnFailure("An error has occurred updating the table.\n\nIf the error persists notify support.").Run([&] {
+    const QString code = txt0Code->TrimInPlace();
+    txt0Description->TrimInPlace();
+    const int row = grd0TableDesc->Row();
+    const bool codeOfRow = row > 0 && grd0TableDesc->Text(row, Code) == code;
+    if (codeOfRow && RowIsUnchanged(row)) {
+      Refuse("Nothing has been changed", MessageStyle::Warning, txt0Description);
+      return;
+    }
+    if (!codeOfRow) {
+      Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Warning,
+             txt0Code);
+      return;
+    }
+    // Taking the default away is refused; a second default is not.
+    if (special_.language && !chk0DefaultLanguage->isChecked() && grd0TableDesc->Text(row, DefaultLanguage) == "Y") {
+      Tell("Only 1 language can be selected as the default.", MessageStyle::Warning);
+      chk0DefaultLanguage->setChecked(true);
+      txt0Description->setFocus();
+      return;
+    }
+    qint32 libraryId = 0;
+    const QString symbol = txt0LibrarySymbol->TrimInPlace();
+    if (special_.catalogLibrary && !symbol.isEmpty() && !gclsOF->FindLibraryId(symbol, libraryId)) {
+      Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt0LibrarySymbol);
+      return;
+    }
+    if (special_.ackStatement && !gclsOF->FindLibraryId(symbol, libraryId)) {
+      Refuse("Please enter a Valid Library Symbol. (Make sure the Library Symbol entered exists as a registered "
+             "Library)",
+             MessageStyle::Warning, txt0LibrarySymbol);
+      return;
+    }
+    ExecuteInTransaction(UpdateStatement(code, row, libraryId),
+                         "***** SQL error on OSTANA." + TableName() + " (Update) *****");
+    WriteBack(row, libraryId);
+    Tell("Record Updated", MessageStyle::Information);
+    gbRecordModified = false;
+    done = true;
+  });
+  return done;
+}
+
+bool CodeTables::RowIsUnchanged(int row) const {
+  const auto cell = [&](int column) { return grd0TableDesc->Text(row, column); };
+  if (txt0Description->Text() != cell(Description)) return false;
+  if (special_.webFlag && opt0Display->IsSet(0) != (cell(WebFlag) == "Y")) return false;
+  if (special_.deliveryType && opt0DeliveryType->IsSet(0) != (cell(DeliveryType) == "C")) return false;
+  if (special_.language && chk0DefaultLanguage->isChecked() != (cell(DefaultLanguage) == "Y")) return false;
+  const bool library = special_.catalogLibrary || special_.ackStatement;
+  return !library || txt0LibrarySymbol->Trimmed() == cell(LibrarySymbol);
+}
+
+QString CodeTables::UpdateStatement(const QString& code, int row, qint32 libraryId) const {
+  const QString description = gstrDescColumn + " = " + Sql::PlainOr(txt0Description->Text(), "NULL");
+  const QString update = "UPDATE " + Sql::Table(TableName()) + " ";
+  const QString quoted = QuotedCode(code);
+  if (special_.catalogLibrary)
+    return update + "SET  " + description + ", " + "         CATALOG_LIBRARY_ID = " +
+           (libraryId > 0 ? Sql::Number(libraryId) : QString("Null")) + " " + "WHERE    CATALOG_CODE = " + quoted;
+  if (special_.ackStatement)
+    return update + "SET  " + description + ", " + "         LIBRARY_ID = " + Sql::Number(libraryId) + " " +
+           "WHERE ACK_CODE = " + quoted + " AND LIBRARY_ID = " + grd0TableDesc->Text(row, LibraryId);
+  if (special_.webFlag)
+    return update + "SET    " + description + ", " + "           WEB_FLAG = " + WebFlagValue() +
+           (special_.deliveryType ? ", DELIVERY_TYPE = " + DeliveryTypeValue() : QString()) + " " + "WHERE " +
+           gstrCodeColumn + " = " + quoted;
+  if (special_.language)
+    return update + "SET    " + description + ", " + "         LANGUAGE_CODE_DEFAULT = " + DefaultFlagValue() + " " +
+           "WHERE    LANGUAGE_CODE = " + Sql::Plain(code);
+  return update + "SET " + description + " " + "WHERE " + gstrCodeColumn + " = " + quoted;
+}
+
+void CodeTables::WriteBack(int row, qint32 libraryId) {
+  grd0TableDesc->SetText(row, Description, txt0Description->Text());
+  if (special_.webFlag) grd0TableDesc->SetText(row, WebFlag, opt0Display->IsSet(0) ? "Y" : "");
+  if (special_.deliveryType) grd0TableDesc->SetText(row, DeliveryType, opt0DeliveryType->IsSet(0) ? "C" : "L");
+  if (special_.language) grd0TableDesc->SetText(row, DefaultLanguage, chk0DefaultLanguage->isChecked() ? "Y" : "");
+  if (special_.catalogLibrary || special_.ackStatement) {
+    grd0TableDesc->SetText(row, LibrarySymbol, txt0LibrarySymbol->Text());
+    grd0TableDesc->SetText(row, LibraryId, libraryId > 0 ? QString::number(libraryId) : QString());
+  }
+}
+
+// --- Delete and Clear ---
+
+bool CodeTables::CodeTables_Delete() {
+  bool done = false;
+  Procedure procedure("frmTabulon.CodeTables_Delete", this);
+  procedure
+      .OnFailure([](const AdoError& error) {
+        const bool refused = error.RefusedByReference() || error.Number() == AdoNumber::TextRefused;
+        return Texts::DeleteFailed + "\n\n" + (refused ? Texts::Referenced : Texts::Persists);
+      })
+      .Run([&] {
+        const QString code = txt0Code->Trimmed();
+        if (code.isEmpty()) {
+          Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt0Code);
+          return;
+        }
+        const int row = RowOfCode(code);
+        if (row == 0) {
+          Tell("Please select a valid record from the table.", MessageStyle::Warning);
+          return;
+        }
+        if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) {
+          txt0Code->setFocus();
+          return;
+        }
+        const QString from = QString("DELETE ") + "FROM " + Sql::Table(TableName()) + " ";
+        // The code is quoted here even in a numeric column.
+        const QString where = special_.ackStatement
+                                  ? "WHERE ACK_CODE = " + Sql::Plain(code) +
+                                        " AND LIBRARY_ID= " + grd0TableDesc->Text(row, LibraryId)
+                                  : "WHERE " + gstrCodeColumn + " = " + Sql::Plain(code);
+        ExecuteInTransaction(from + where, "***** SQL error on " + TableName() + " (Delete) *****");
+        shell().LoadDataInGrid();
+        CodeTables_Clear();
+        Tell("Record Deleted", MessageStyle::Information);
+        done = true;
+      });
+  return done;
+}
+
+bool CodeTables::CodeTables_Clear() {
+  gbSkipGridEvents = true;
+  grd0TableDesc->Clear();
+  grd0TableDesc->SetHeading(Description, "Description");
+  {
+    const FillingFields filling;
+    txt0Code->SetText({});
+    txt0Description->SetText({});
+    txt0LibrarySymbol->SetText({});
+    opt0DeliveryType->Unset();
+    opt0Display->Unset();
+  }
+  txt0Code->setFocus();
+  gbRecordModified = false;
+  return true;
+}
+
+// --- Language and library ---
+
+void CodeTables::FillLanguages() {
+  cmb0CurrentLanguage->Clear();
+  for (int index = 0; index < gcolLanguageCode.size(); ++index)
+    cmb0CurrentLanguage->Add(gcolLanguageDesc[index], gcolLanguageCode[index]);
+  // Without a suffix the default language is on show; the suffix itself stays empty.
+  const QString suffix = gclsOF->LanguageSuffix();
+  cmb0CurrentLanguage->SetCode(suffix.isEmpty() ? gstrDefaultLanguageCode : suffix.mid(1));
+}
+
+void CodeTables::cmb0CurrentLanguage_Click() {
+  Procedure procedure("frmTabulon.cmb0CurrentLanguage_Click");
+  procedure.Step([this] {
+    const QString suffix = "_" + cmb0CurrentLanguage->Code();
+    if (gclsOF->LanguageSuffix() == suffix) return;
+    gclsOF->SetLanguageSuffix(suffix);
+    if (!gbFillingFields) {
+      cmb0Tables_Click();
+      const QString table = TableName();
+      CodeTables_Tab();
+      // The order of the list follows the language: the table is found again by its name.
+      cmb0Tables->SetIndex(std::max(0, static_cast<int>(gstrTableNames.indexOf(table, 1))));
+      cmb0Tables_Click();
+    }
+    LoadLanguageCodes(suffix);
+    FillLanguages();
+    shell().ShowStatus();
+  });
+}
+
+void CodeTables::cmd0FindLibrary_Click() {
+  Procedure procedure("frmTabulon.cmd0FindLibrary_Click", this);
+  procedure.Run([this] {
+    const FoundLibrary found = FindLibrary(this, MessageStyle::Warning);
+    if (found.id > 0) txt0LibrarySymbol->SetText(found.symbol);
+  });
+}

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "core/TabPage.h"
+#include "platform/controls/FormLayout.h"
+
+// Tab "Loans": the button that opens the loan policies and loan statuses.
+class LoansTab : public TabPage {
+  Q_OBJECT
+
+ public:
+  explicit LoansTab(frmTabulon& shell);
+  void Loans_Tab();
+
+ private:
+  QPushButton* const cmdLoans = Form::Button(this, "cmdLoans", "&Loans", "Loan policies and loan statuses");
+};

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "core/TabPage.h"
+#include "platform/controls/FormLayout.h"
+
+// Tab "Miscellaneous": the buttons of the reference screens and of the ISO 18626 connections.
+class Miscellaneous : public TabPage {
+  Q_OBJECT
+
+ public:
+  explicit Miscellaneous(frmTabulon& shell);
+  void Miscellaneous_Tab();
+
+ private:
+  // The button opens the screen as a modal dialog and does nothing else.
+  void Opens(QPushButton* button, const QString& formName);
+
+  QPushButton* const cmdPatronMessages = Form::Button(this, "cmdPatronMessages", "&Patron Messages");
+  QPushButton* const cmdGeneralMessages = Form::Button(this, "cmdGeneralMessages", "&General Messages");
+  QPushButton* const cmdISO18626Connection = Form::Button(this, "cmdISO18626Connection", "&ISO 18626 Connection");
+  QPushButton* const cmdServiceCode = Form::Button(this, "cmdServiceCode", "&Service Code");
+  QPushButton* const cmdSuppliedItemType = Form::Button(this, "cmdSuppliedItemType", "Supplied Item &Type");
+  QPushButton* const cmd11LevelsOfService = Form::Button(this, "cmd11LevelsOfService", "ISO &Levels of Service");
+  QPushButton* const cmd11Namespace = Form::Button(this, "cmd11Namespace", "ISO &Namespace");
+  QPushButton* const cmd11CurrencyCode = Form::Button(this, "cmd11CurrencyCode", "Currenc&y Code");
+};
