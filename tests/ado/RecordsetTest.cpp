@@ -135,6 +135,24 @@ TEST_F(RecordsetTest, TopGivesTheFirstRows) {
   EXPECT_EQ(Column("SELECT A FROM ID_A WHERE A IN (SELECT A FROM ID_A WHERE A < 3) ORDER BY A"), "1,2");
 }
 
+TEST_F(RecordsetTest, MaxRecordsLimitsTheRows) {
+  QStringList seen;
+  connection.AddObserver([&](const StatementRecord& record) { seen += record.text; });
+  Recordset rows;
+  rows.MaxRecords = 2;
+  for (const char* const select : {"SELECT   A FROM ID_A ORDER BY A", "SELECT DISTINCT A FROM ID_A ORDER BY A"}) {
+    rows.Open(connection, select);
+    EXPECT_EQ(rows.RecordCount(), 2);
+    EXPECT_EQ(rows.Fields(0).Value(), "1");
+    EXPECT_EQ(seen.last(), select);
+  }
+  rows.Open(connection, "SELECT TOP 1 A FROM ID_A ORDER BY A");
+  EXPECT_EQ(rows.RecordCount(), 1);
+  rows.MaxRecords = 0;
+  rows.Open(connection, "SELECT A FROM ID_A");
+  EXPECT_EQ(rows.RecordCount(), 3);
+}
+
 TEST_F(RecordsetTest, ManyRowsComeWhole) {
   Run("CREATE TABLE ID_B (A INTEGER NOT NULL PRIMARY KEY, B VARCHAR(40))");
   for (int block = 0; block < 10; ++block) {
