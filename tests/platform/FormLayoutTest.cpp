@@ -68,6 +68,8 @@ TEST_F(FormLayoutTest, LabelIsTheBuddyAndLendsItsName) {
   EXPECT_EQ(charge->accessibleName(), "Service charge:");
   EXPECT_EQ(page.findChild<QLabel*>("lblAddress")->buddy(), address);
   EXPECT_EQ(date->findChild<QDateEdit*>()->accessibleName(), "Start:");
+  EXPECT_EQ(date->findChild<QCheckBox*>()->accessibleName(), "Start:");
+  EXPECT_EQ(active->Button(0)->accessibleName(), "");
 }
 
 TEST_F(FormLayoutTest, MnemonicOfTheLabelGoesToItsField) {
@@ -75,6 +77,29 @@ TEST_F(FormLayoutTest, MnemonicOfTheLabelGoesToItsField) {
   note->setFocus();
   QTest::keyClick(note, Qt::Key_H, Qt::AltModifier);
   EXPECT_TRUE(charge->hasFocus());
+}
+
+TEST_F(FormLayoutTest, MnemonicOfARowOfOptionsChoosesNothing) {
+  page.findChild<QLabel*>("lblActive")->setText("&Zone:");
+  Show(800, 500);
+  code->setFocus();
+  QTest::keyClick(code, Qt::Key_Z, Qt::AltModifier);
+  EXPECT_TRUE(active->Button(0)->hasFocus());
+  QTest::qWait(150);
+  EXPECT_EQ(active->Selected(), -1);
+  active->Select(1);
+  code->setFocus();
+  QTest::keyClick(code, Qt::Key_Z, Qt::AltModifier);
+  EXPECT_TRUE(active->Button(1)->hasFocus());
+}
+
+TEST_F(FormLayoutTest, MnemonicOfADateDoesNotSetIt) {
+  page.findChild<QLabel*>("lblDate")->setText("Da&y:");
+  Show(800, 500);
+  QTest::keyClick(code, Qt::Key_Y, Qt::AltModifier);
+  QTest::qWait(150);
+  EXPECT_TRUE(date->findChild<QCheckBox*>()->hasFocus());
+  EXPECT_TRUE(date->IsNone());
 }
 
 TEST_F(FormLayoutTest, FieldsAreAsWideAsTheirLimit) {
