@@ -29,7 +29,9 @@ bool WantsChangesApplied(QWidget* form) {
   return Confirms(form, "This record has been modified.\nDo you wish to apply the updates before continuing?");
 }
 
-QString UnableToAdd(const AdoError& error) { return "Unable to Add a new record.\n\n" + error.Description(); }
+QString UnableToAdd(const AdoError& error) {
+  return "Unable to Add a new record.\n\n" + error.Description();
+}
 
 QString LoadingFormFailed(const AdoError& error) {
   return "An error has occurred loading the form.  Please Notify Support.\n\n" + error.Description();
@@ -37,6 +39,10 @@ QString LoadingFormFailed(const AdoError& error) {
 
 QString LoadingFieldsFailed(const AdoError& error) {
   return "An error has occurred loading the fields.  Please Notify Support.\n\n" + error.Description();
+}
+
+QString NotifySupport(const AdoError& error) {
+  return Texts::NotifySupport + "\n\n" + error.Description();
 }
 
 bool StandsElsewhere(const Grid& grid, const QString& text, int col, int row) {

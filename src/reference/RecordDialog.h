@@ -24,6 +24,8 @@ inline const QString NothingChanged = "Nothing has been changed.";
 inline const QString DeleteQuestion = "Are you sure you want to delete this record?";
 inline const QString NoSuchCode = "This code does not exist in the table. Please select a valid code to update.";
 inline const QString SameDescription = "Description already exists in table.";
+inline const QString KeyIsFixed =
+    "To change the Code or Library Symbol you must delete the current record and add it back in with the new code.";
 inline const QString UpdateFailed =
     "An error has occurred while attempting to update the record.\n\nIf the error persists notify support.";
 // Dialogs with two tabs, about each of them.
@@ -44,6 +46,7 @@ bool WantsChangesApplied(QWidget* form);
 QString UnableToAdd(const AdoError& error);
 QString LoadingFormFailed(const AdoError& error);
 QString LoadingFieldsFailed(const AdoError& error);
+QString NotifySupport(const AdoError& error);
 
 // Whether a data row other than `row` holds the text in the column.
 bool StandsElsewhere(const Grid& grid, const QString& text, int col, int row);
@@ -58,8 +61,7 @@ void MarkEdits(bool& changed, MemoBox* box);
 void MarkEdits(bool& changed, CodeComboBox* box);
 void MarkEdits(bool& changed, OptionGroup* pair);
 template <class... Controls>
-  requires(sizeof...(Controls) > 1)
-void MarkEdits(bool& changed, Controls*... controls) {
+requires(sizeof...(Controls) > 1) void MarkEdits(bool& changed, Controls*... controls) {
   (MarkEdits(changed, controls), ...);
 }
 

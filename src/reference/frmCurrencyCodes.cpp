@@ -20,7 +20,9 @@ const QString UpdateFailed = "***** SQL error on ID_CURRENCY_CODE (Update) *****
 // The load names a table that does not exist; log readers know the line in these letters.
 const QString SelectFailed = "***** SQL error on ID_ISO_CURRENCY_CODE (Select) *****";
 
-QString UpdateOf() { return "UPDATE " + Sql::Table("ID_CURRENCY_CODE") + " "; }
+QString UpdateOf() {
+  return "UPDATE " + Sql::Table("ID_CURRENCY_CODE") + " ";
+}
 
 // A rate as the grid shows it; NULL stays empty.
 QString RateOnScreen(const QString& rate) {
@@ -90,9 +92,12 @@ void frmCurrencyCodes::PopulateForm() {
     FillGrid(*grdCurrencyCode,
              QString("SELECT   * ") + "FROM " + Sql::Table("ID_CURRENCY_CODE") + " " + "ORDER BY " + description,
              SelectFailed, [&](Recordset& rows) {
-               return QStringList{Value(rows, "CURRENCY_CODE"),    Value(rows, description),
-                                  Value(rows, "CURRENCY_COUNTRY"), Value(rows, "CURRENCY_BASE"),
-                                  RateOnScreen(Value(rows, "CURRENCY_EXCHANGE")), Value(rows, "CURRENCY_SYMBOL")};
+               return QStringList{Value(rows, "CURRENCY_CODE"),
+                                  Value(rows, description),
+                                  Value(rows, "CURRENCY_COUNTRY"),
+                                  Value(rows, "CURRENCY_BASE"),
+                                  RateOnScreen(Value(rows, "CURRENCY_EXCHANGE")),
+                                  Value(rows, "CURRENCY_SYMBOL")};
              });
     cmbSymbol->Clear();
     for (const char* symbol : {"$", "€", "£", "¥", "¢"}) cmbSymbol->Add(QString::fromUtf8(symbol));
@@ -168,7 +173,9 @@ bool frmCurrencyCodes::IsKnownRecord() {
 
 // --- Add, Update, Close ---
 
-QString frmCurrencyCodes::RateInSql() const { return Sql::WithPoint(txtExchangeRate->Text()); }
+QString frmCurrencyCodes::RateInSql() const {
+  return Sql::WithPoint(txtExchangeRate->Text());
+}
 
 void frmCurrencyCodes::cmdAdd_Click() {
   Procedure procedure("frm.CurrencyCodes.cmdAdd_Click", this);
@@ -210,8 +217,8 @@ void frmCurrencyCodes::cmdUpdate_Click() {
     Transaction transaction(gclsOF->Connection());
     if (mbBaseChanged) {
       ClearStoredBase();
-      UpdateRecord(UpdateOf() + "SET      CURRENCY_BASE = N'*' " + "WHERE    CURRENCY_CODE = " +
-                       Sql::National(grdCurrencyCode->Text(BaseRow(), Code)),
+      UpdateRecord(UpdateOf() + "SET      CURRENCY_BASE = N'*' " +
+                       "WHERE    CURRENCY_CODE = " + Sql::National(grdCurrencyCode->Text(BaseRow(), Code)),
                    UpdateFailed);
     }
     if (mbRecordChanged) UpdateRecord(NationalUpdate(), UpdateFailed);
@@ -265,7 +272,9 @@ void frmCurrencyCodes::cmdClose_Click() {
 
 // --- The base ---
 
-int frmCurrencyCodes::BaseRow() const { return grdCurrencyCode->FindRow(BaseMark, Base); }
+int frmCurrencyCodes::BaseRow() const {
+  return grdCurrencyCode->FindRow(BaseMark, Base);
+}
 
 void frmCurrencyCodes::MarkBase(int row) {
   for (int other = 1; other < grdCurrencyCode->Rows(); ++other) grdCurrencyCode->SetText(other, Base, {});

@@ -14,7 +14,9 @@ namespace {
 
 const QString UpdateLine = "***** SQL error on ID_ISO_NAMESPACE (Update) *****";
 
-QString UpdateOf() { return "UPDATE " + Sql::Table("ID_ISO_NAMESPACE") + " "; }
+QString UpdateOf() {
+  return "UPDATE " + Sql::Table("ID_ISO_NAMESPACE") + " ";
+}
 
 // Digits, letters and the underscore enter a namespace; Backspace and Enter keep their meaning.
 char16_t NamespaceKey(char16_t key) {
@@ -51,8 +53,7 @@ void frmISONamespace::BuildControls() {
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdNameSpace, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder(
-      {txtNameSpace, txtDescription, txtFieldName, grdNameSpace, cmdAdd, cmdUpdate, cmdDelete, cmdClose});
+  Form::TabOrder({txtNameSpace, txtDescription, txtFieldName, grdNameSpace, cmdAdd, cmdUpdate, cmdDelete, cmdClose});
   resize(600, 440);
 }
 
@@ -233,8 +234,8 @@ void frmISONamespace::cmdDelete_Click() {
     const int row = mintCurrentRow;
     if (row == 0 || !Confirms(this, Words::DeleteQuestion)) return;
     ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_ISO_NAMESPACE") + " " +
-                             "WHERE      ISO_NAMESPACE = '" +
-                             gclsOF->SqlEscape(grdNameSpace->Text(row, Namespace)) + "'",
+                             "WHERE      ISO_NAMESPACE = '" + gclsOF->SqlEscape(grdNameSpace->Text(row, Namespace)) +
+                             "'",
                          "***** SQL error on ID_ISO_NAMESPACE (Delete) *****");
     grdNameSpace->RemoveRow(row);
     ShowRow(grdNameSpace->Rows() > 1 ? 1 : 0);

@@ -22,9 +22,10 @@ frmISOServiceLevels::frmISOServiceLevels(QWidget* parent)
 }
 
 void frmISOServiceLevels::BuildControls() {
-  ShapeGrid(*grdServiceLevel, {"",
-                               "grdServiceLevel",
-                               {{"", 195}, {"Symbol", 705}, {"Handling", 1425}, {"Search", 900}, {"Service Level", 960}}});
+  ShapeGrid(*grdServiceLevel,
+            {"",
+             "grdServiceLevel",
+             {{"", 195}, {"Symbol", 705}, {"Handling", 1425}, {"Search", 900}, {"Service Level", 960}}});
   grdServiceLevel->setAccessibleName("ISO service symbols");
   auto* const entry = new QWidget(this);
   Form::Rows(entry).Add("lblServiceLevel", "&Service Level:", cmbServiceLevel);
@@ -41,8 +42,8 @@ void frmISOServiceLevels::PopulateForm() {
     const QString description = "SERVICE_LEVEL_DESC" + gclsOF->LanguageSuffix();
     // No entry stands for NULL: a level can be changed, not taken away.
     FillCombo(*cmbServiceLevel, {},
-              "SELECT   SERVICE_LEVEL, " + description + " " + "FROM " + Sql::Table("ID_SERVICE_LEVEL") +
-                  " ORDER BY " + description,
+              "SELECT   SERVICE_LEVEL, " + description + " " + "FROM " + Sql::Table("ID_SERVICE_LEVEL") + " ORDER BY " +
+                  description,
               "***** SQL error on ID_SERVICE_LEVEL (Select) *****", 1, 0);
     FillGrid(*grdServiceLevel,
              QString("SELECT   ISO_SERVICE_SYMBOL, ISO_SERVICE_HANDLING, ISO_SERVICE_SEARCH, SERVICE_LEVEL ") +
@@ -108,9 +109,8 @@ void frmISOServiceLevels::RewriteTable() {
   Execute(QString("DELETE ") + "FROM " + table, "***** SQL error on ID_ISO_SERVICE_LEVEL (Delete) *****");
   for (int row = 1; row < grdServiceLevel->Rows(); ++row) {
     const auto cell = [&](int column) { return gclsOF->SqlEscape(grdServiceLevel->Text(row, column)); };
-    Execute(QString("INSERT ") + "INTO " + table + " " + "VALUES   ('" + cell(ServiceSymbol) + "', '" +
-                cell(Handling) + "', '" + cell(Search) + "', " +
-                Sql::PlainOr(grdServiceLevel->Text(row, ServiceLevel), "NULL") + ")",
+    Execute(QString("INSERT ") + "INTO " + table + " " + "VALUES   ('" + cell(ServiceSymbol) + "', '" + cell(Handling) +
+                "', '" + cell(Search) + "', " + Sql::PlainOr(grdServiceLevel->Text(row, ServiceLevel), "NULL") + ")",
             "***** SQL error on ID_ISO_SERVICE_LEVEL (Insert) *****");
   }
   transaction.Commit();
