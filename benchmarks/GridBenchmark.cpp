@@ -37,8 +37,10 @@ QString File() {
   return path;
 }
 
+// Closed before main returns: QtSql is gone when statics end.
+std::optional<Connection> connection;
+
 Connection& Opened() {
-  static std::optional<Connection> connection;
   if (!connection) {
     ConnectionSettings settings;
     settings.name = File();
@@ -136,5 +138,6 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
+  connection.reset();
   return 0;
 }
