@@ -1,5 +1,7 @@
 #include "reference/frmCurrencyCodes.h"
 
+#include <QShortcut>
+
 #include "core/GridTable.h"
 #include "core/Messages.h"
 #include "core/ModuleState.h"
@@ -47,6 +49,8 @@ void frmCurrencyCodes::BuildControls() {
                                 {"Exchange", 810},
                                 {"Symbol", 495}}});
   grdCurrencyCode->setAccessibleName("Currencies");
+  grdCurrencyCode->setAccessibleDescription("Space makes the selected currency the base currency");
+  grdCurrencyCode->setToolTip("A click on the Base column, or Space, makes a currency the base currency");
   grdCurrencyCode->AlignRight(Exchange);
 
   auto* const entry = new QWidget(this);
@@ -79,6 +83,11 @@ void frmCurrencyCodes::ConnectControls() {
   connect(cmdClose, &QPushButton::clicked, this, &frmCurrencyCodes::cmdClose_Click);
   connect(grdCurrencyCode, &Grid::SelChange, this, &frmCurrencyCodes::grdCurrencyCode_SelChange);
   connect(grdCurrencyCode, &Grid::CellClick, this, &frmCurrencyCodes::grdCurrencyCode_Click);
+  // The click on the Base column for those who work without the mouse.
+  connect(new QShortcut(Qt::Key_Space, grdCurrencyCode, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated,
+          this, [this] {
+            if (grdCurrencyCode->Row() > 0) grdCurrencyCode_Click(grdCurrencyCode->Row(), Base);
+          });
   KeepRowOnSort(grdCurrencyCode);
   connect(grdCurrencyCode, &Grid::AfterSort, this, [this] { mintCurrentRow = grdCurrencyCode->Row(); });
 }

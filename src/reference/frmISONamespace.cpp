@@ -113,7 +113,9 @@ void frmISONamespace::ShowRow(int row) {
 
 void frmISONamespace::grdNameSpace_SelChange() {
   const int row = grdNameSpace->Row();
-  if (!gbSkipGridEvents && row > 0) ShowRow(row);
+  if (gbSkipGridEvents || row == 0) return;
+  if (mbRecordChanged && WantsChangesApplied(this)) cmdUpdate_Click();
+  ShowRow(row);
 }
 
 // --- Tests of an entry ---
