@@ -8,6 +8,13 @@
 #include "editors/CodeTables.h"
 #include "editors/LoansTab.h"
 #include "editors/Miscellaneous.h"
+#include "reference/frmCurrencyCodes.h"
+#include "reference/frmGeneralMessages.h"
+#include "reference/frmISONamespace.h"
+#include "reference/frmISOServiceLevels.h"
+#include "reference/frmItemType.h"
+#include "reference/frmNotifyPatronMessages.h"
+#include "reference/frmServiceCode.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
@@ -22,4 +29,11 @@ void RegisterDialogs() {
   RegisterScreen<frmSplash>("frmSplash");
   RegisterScreen<frmAboutOstana>("frmAboutOstana");
   RegisterScreen<frmAboutApp>("frmAboutApp");
+  RegisterScreen<frmCurrencyCodes>("frmCurrencyCodes");
+  RegisterScreen<frmISOServiceLevels>("frmISOServiceLevels");
+  RegisterScreen<frmISONamespace>("frmISONamespace");
+  RegisterScreen<frmGeneralMessages>("frmGeneralMessages");
+  RegisterScreen<frmNotifyPatronMessages>("frmNotifyPatronMessages");
+  RegisterScreen<frmServiceCode>("frmServiceCode");
+  RegisterScreen<frmItemType>("frmItemType");
 }
