@@ -6,14 +6,19 @@
 #include "core/Screens.h"
 #include "core/frmTabulon.h"
 #include "editors/CodeTables.h"
+#include "editors/Exceptions.h"
 #include "editors/LoansTab.h"
 #include "editors/Miscellaneous.h"
+#include "editors/frmAddExceptionNotes.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
                MakeTab(&CodeTables::CodeTables_Tab, &CodeTables::CodeTables_Add, &CodeTables::CodeTables_Update,
                        &CodeTables::CodeTables_Delete, &CodeTables::CodeTables_Clear));
   shell.SetTab(frmTabulon::LoansTab, MakeTab(&LoansTab::Loans_Tab, nullptr, nullptr, nullptr, nullptr));
+  shell.SetTab(frmTabulon::ExceptionsTab,
+               MakeTab(&Exceptions::EnterTab, &Exceptions::Exception_Add, &Exceptions::Exception_Update,
+                       &Exceptions::Exception_Delete, &Exceptions::Exception_Clear));
   shell.SetTab(frmTabulon::MiscellaneousTab,
                MakeTab(&Miscellaneous::Miscellaneous_Tab, nullptr, nullptr, nullptr, nullptr));
 }
@@ -22,4 +27,5 @@ void RegisterDialogs() {
   RegisterScreen<frmSplash>("frmSplash");
   RegisterScreen<frmAboutOstana>("frmAboutOstana");
   RegisterScreen<frmAboutApp>("frmAboutApp");
+  RegisterScreen<frmAddExceptionNotes>("frmAddExceptionNotes");
 }
