@@ -13,6 +13,7 @@ void ResetModuleState() {
   gintDecimalSeparatorKey = u'.';
   gcolLanguageCode.clear();
   gcolLanguageDesc.clear();
+  gstrDefaultLanguageCode.clear();
 
   gbSkipGridEvents = false;
   gbSkipActivate = false;
@@ -35,6 +36,7 @@ void ResetModuleState() {
   gbSaveExceptionNotes = false;
   gbSettingsChanged = false;
   gstrISO18626ConnectionId.clear();
+  gbISO18626SelectionMode = true;
 
   gbUseWebService = false;
   gstrWebServiceName.clear();
