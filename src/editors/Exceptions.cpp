@@ -91,7 +91,11 @@ void Exceptions::PopulateRejectComboBoxes() {
     ForEachRow("SELECT SUPPLIER_CODE FROM " + Sql::Table("ID_SUPPLIER") + " WHERE    SUPPLIER_CAT='I' " +
                    "ORDER BY SUPPLIER_CODE",
                "***** SQL error on OSTANA.ID_SUPPLIER (SELECT) *****",
-               [&](Recordset& suppliers) { reroute->Add(Value(suppliers, 0)); });
+               // A code that several libraries use is one entry.
+               [&](Recordset& suppliers) {
+                 const QString code = Value(suppliers, 0);
+                 if (reroute->IndexOfText(code) < 0) reroute->Add(code);
+               });
   });
 }
 
