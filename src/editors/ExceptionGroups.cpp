@@ -42,7 +42,7 @@ void ExceptionGroups::BuildControls() {
 
 // The menu entries keep what the rights give them: their operations tell themselves what is missing.
 ButtonCondition ExceptionGroups::Condition() const {
-  const bool chosen = !cmb8AccessGroup->IsEmptyOrNone();
+  const bool chosen = !cmb8AccessGroup->Code().isEmpty();
   return {chosen, false, chosen, true};
 }
 
@@ -68,7 +68,7 @@ void ExceptionGroups::PopulateGrid8dTable() {
   Procedure procedure("frmTabulon.PopulateGrid8dTable", this);
   procedure.Run([this] {
     grd8dTable->Clear();
-    if (cmb8AccessGroup->IsEmptyOrNone()) return;
+    if (cmb8AccessGroup->Code().isEmpty()) return;
     FillGrid(*grd8dTable,
              "SELECT   * FROM " + Sql::Table(Table) + " WHERE ACCESS_GROUP = " + Sql::Plain(cmb8AccessGroup->Code()) +
                  " ORDER BY ACCESS_GROUP ",
@@ -92,7 +92,7 @@ void ExceptionGroups::cmb8AccessGroup_Click() {
     shell().buttonState();
     grd8dTable->Clear();
     shell().ConfigureGrdTable();
-    if (cmb8AccessGroup->IsEmptyOrNone()) return;
+    if (cmb8AccessGroup->Code().isEmpty()) return;
     cmb8dException->SetIndex(0);
     PopulateGrid8dTable();
     const bool hasRecords = grd8dTable->Rows() > 1 && !grd8dTable->Text(1, Code).isEmpty();
@@ -116,11 +116,11 @@ bool ExceptionGroups::Add() {
   bool done = false;
   Procedure procedure("frmTabulon.Exception_Add", this);
   procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    if (cmb8AccessGroup->IsEmptyOrNone()) {
+    if (cmb8AccessGroup->Code().isEmpty()) {
       Refuse("Please enter a Valid Access Group.", MessageStyle::Warning, cmb8AccessGroup);
       return;
     }
-    if (cmb8dException->IsEmptyOrNone()) {
+    if (cmb8dException->Code().isEmpty()) {
       Refuse("Please enter a Valid Exception.", MessageStyle::Warning, cmb8dException);
       return;
     }
@@ -146,7 +146,7 @@ bool ExceptionGroups::Delete() {
   bool done = false;
   Procedure procedure("frmTabulon.Exception_Delete", this);
   procedure.OnFailure(DeleteFailureText).Run([&] {
-    const bool none = cmb8dException->IsEmptyOrNone() || cmb8AccessGroup->IsEmptyOrNone();
+    const bool none = cmb8dException->Code().isEmpty() || cmb8AccessGroup->Code().isEmpty();
     const QString code = cmb8dException->Code();
     if (none || code.isEmpty() || grd8dTable->FindRow(code, Code) == 0) {
       // The focus goes to the message of another sub-tab.

@@ -151,7 +151,7 @@ void ValidExceptions::cmb8DocumentSupply_Click() {
   Procedure procedure("frmTabulon.cmb8DocumentSupply_Click", this);
   procedure.Run([this] {
     shell().buttonState();
-    if (cmb8DocumentSupply->IsEmptyOrNone()) {
+    if (cmb8DocumentSupply->Code().isEmpty()) {
       shell().ConfigureGrdTable();
       shell().LoadDataInGrid();
       shell().cmdClear_Click();
@@ -236,7 +236,7 @@ bool ValidExceptions::Add() {
 }
 
 bool ValidExceptions::PairIsValid() {
-  if (cmb8DocumentSupply->IsEmptyOrNone() || cmb8ProcessType->IsEmptyOrNone())
+  if (cmb8DocumentSupply->Code().isEmpty() || cmb8ProcessType->Code().isEmpty())
     return Refuse("Please choose Document Supply and Process Type.", MessageStyle::Warning, txt8Message1);
   return RowOfChoice() == 0 || Refuse("This Code already exists.", MessageStyle::Stop, txt8Message1);
 }
@@ -276,11 +276,11 @@ bool ValidExceptions::Update() {
       Refuse("Nothing has been changed", MessageStyle::Warning, txt8Message1);
       return;
     }
-    if (cmb8DocumentSupply->IsEmptyOrNone()) {
+    if (cmb8DocumentSupply->Code().isEmpty()) {
       Tell("Please select a record to Update.", MessageStyle::Stop);
       return;
     }
-    if (cmb8ProcessType->IsEmptyOrNone()) {
+    if (cmb8ProcessType->Code().isEmpty()) {
       Refuse("Please select a valid value.", MessageStyle::Stop, cmb8ProcessType);
       return;
     }
@@ -337,7 +337,7 @@ bool ValidExceptions::Delete() {
   Procedure procedure("frmTabulon.Exception_Delete", this);
   procedure.OnFailure(DeleteFailureText).Run([&] {
     const int row = grd8Document->Row();
-    const bool none = cmb8DocumentSupply->IsEmptyOrNone() || cmb8ProcessType->IsEmptyOrNone();
+    const bool none = cmb8DocumentSupply->Code().isEmpty() || cmb8ProcessType->Code().isEmpty();
     // What is deleted must be what the lists show.
     const bool shown = row > 0 && grd8Document->Text(row, Code) == cmb8DocumentSupply->Code() &&
                        grd8Document->Text(row, Process) == cmb8ProcessType->Code();
