@@ -6,6 +6,7 @@
 #include "core/Screens.h"
 #include "core/frmTabulon.h"
 #include "editors/CodeTables.h"
+#include "editors/Exceptions.h"
 #include "editors/LoansTab.h"
 #include "editors/Miscellaneous.h"
 #include "reference/frmCurrencyCodes.h"
@@ -15,12 +16,16 @@
 #include "reference/frmItemType.h"
 #include "reference/frmNotifyPatronMessages.h"
 #include "reference/frmServiceCode.h"
+#include "editors/frmAddExceptionNotes.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
                MakeTab(&CodeTables::CodeTables_Tab, &CodeTables::CodeTables_Add, &CodeTables::CodeTables_Update,
                        &CodeTables::CodeTables_Delete, &CodeTables::CodeTables_Clear));
   shell.SetTab(frmTabulon::LoansTab, MakeTab(&LoansTab::Loans_Tab, nullptr, nullptr, nullptr, nullptr));
+  shell.SetTab(frmTabulon::ExceptionsTab,
+               MakeTab(&Exceptions::EnterTab, &Exceptions::Exception_Add, &Exceptions::Exception_Update,
+                       &Exceptions::Exception_Delete, &Exceptions::Exception_Clear));
   shell.SetTab(frmTabulon::MiscellaneousTab,
                MakeTab(&Miscellaneous::Miscellaneous_Tab, nullptr, nullptr, nullptr, nullptr));
 }
@@ -36,4 +41,5 @@ void RegisterDialogs() {
   RegisterScreen<frmNotifyPatronMessages>("frmNotifyPatronMessages");
   RegisterScreen<frmServiceCode>("frmServiceCode");
   RegisterScreen<frmItemType>("frmItemType");
+  RegisterScreen<frmAddExceptionNotes>("frmAddExceptionNotes");
 }
