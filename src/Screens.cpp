@@ -6,14 +6,19 @@
 #include "core/Screens.h"
 #include "core/frmTabulon.h"
 #include "editors/CodeTables.h"
+#include "editors/Invoicing.h"
 #include "editors/LoansTab.h"
 #include "editors/Miscellaneous.h"
+#include "editors/frmLoans.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
                MakeTab(&CodeTables::CodeTables_Tab, &CodeTables::CodeTables_Add, &CodeTables::CodeTables_Update,
                        &CodeTables::CodeTables_Delete, &CodeTables::CodeTables_Clear));
   shell.SetTab(frmTabulon::LoansTab, MakeTab(&LoansTab::Loans_Tab, nullptr, nullptr, nullptr, nullptr));
+  shell.SetTab(frmTabulon::InvoicingTab,
+               MakeTab(&Invoicing::Invoicing_Tab, &Invoicing::Invoicing_Add, &Invoicing::Invoicing_Update,
+                       &Invoicing::Invoicing_Delete, &Invoicing::Invoicing_Clear));
   shell.SetTab(frmTabulon::MiscellaneousTab,
                MakeTab(&Miscellaneous::Miscellaneous_Tab, nullptr, nullptr, nullptr, nullptr));
 }
@@ -22,4 +27,5 @@ void RegisterDialogs() {
   RegisterScreen<frmSplash>("frmSplash");
   RegisterScreen<frmAboutOstana>("frmAboutOstana");
   RegisterScreen<frmAboutApp>("frmAboutApp");
+  RegisterScreen<frmLoans>("frmLoans");
 }
