@@ -5,23 +5,29 @@
 
 #include "platform/ado/Connection.h"
 
-// A fresh database for one case, on the engine that TABULON_TEST_ENGINE names (sqlite, postgresql, mariadb): the full
-// schema, the reference rows, the languages ENG (default), FRE and GER, the user "admin" with password "secret" and all
-// rights; with the rows of the sample site when asked for. Made from a template once a process; dropped at the end.
+// A database of its own for a case: the full schema, the reference rows, the languages ENG, FRE and GER, and the user
+// "admin" with the password "secret" and all rights; with `sample`, the rows of the sample site as well. It lies on the
+// engine that TABULON_TEST_ENGINE names (sqlite, postgresql, mariadb; SQLite when it is not set), reached as
+// tests/support/with-engine tells, and is gone with the object.
 class TestDatabase {
  public:
-  explicit TestDatabase(bool withSample = false);
+  explicit TestDatabase(bool sample = false);
   ~TestDatabase();
   TestDatabase(const TestDatabase&) = delete;
   TestDatabase& operator=(const TestDatabase&) = delete;
 
   const ConnectionSettings& Settings() const { return settings_; }
-  // Section [Database] of a settings file.
+  // The section [Database] of a settings file.
   QString IniSection() const;
-  // Another client of the same database.
+  // A second connection, as another program would have.
   Connection& OtherClient();
 
-  static QString EngineName();
+  static Engine TestEngine();
+  // Settings of an empty database that does not exist yet, on the engine of the test.
+  static ConnectionSettings FreshSettings(const QString& folder);
+  // Removes a database that was made from such settings.
+  static void Remove(const ConnectionSettings& settings);
+  static QString IniSection(const ConnectionSettings& settings);
 
  private:
   ConnectionSettings settings_;
