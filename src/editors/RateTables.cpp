@@ -1,6 +1,8 @@
 // The rate tables' page: choosing one, loading it, showing its rows. RateTablesEdit.cpp holds what the buttons do.
 #include "editors/RateTables.h"
 
+#include <QGridLayout>
+
 #include "core/Editing.h"
 #include "core/FindLibrary.h"
 #include "core/GridTable.h"
@@ -42,12 +44,14 @@ void RateTables::BuildControls() {
   rows.Add(lbl7Surcharge, txt7Surcharge);
   rows.Add(lbl7aBillingRate, cmb7aBillingRate);
   rows.Add(lbl7aDeliveryMethod, cmb7aDeliveryMethod);
-  rows.Add("lbl7RequestingLibrary", "Requesting Library:", cmb7RequestingLibrary);
+  const QLabel* const longest = rows.Add("lbl7RequestingLibrary", "Requesting Library:", cmb7RequestingLibrary);
   rows.Add("lbl7Alias", "New Billing Rate:", cmb7Alias);
   rows.Add(lbl7aFlatFee, txt7aFlatFee);
   rows.Add(lbl7aUnitSize, txt7aUnitSize);
   rows.Add(lbl7aFreeExposures, txt7aFreeExposures);
   rows.Add(lbl7aPerExposure, txt7aPerExposure);
+  // The inputs stay where they are when another table brings other captions.
+  rows.Layout()->setColumnMinimumWidth(0, longest->sizeHint().width());
   for (CodeComboBox* list : {cmb7aBillingRate, cmb7aDeliveryMethod, cmb7RequestingLibrary, cmb7Alias})
     list->setMinimumContentsLength(40);
   txt7Surcharge->SetText("0.00");

@@ -99,8 +99,10 @@ bool RateTables::RefuseDuplicate(QWidget* focus) {
 }
 
 bool RateTables::TellUnchanged(QWidget* focus) {
+  Refuse("Nothing has been changed", MessageStyle::Warning, focus);
+  // Moving the focus writes a number in full, which is no change either.
   gbRecordModified = false;
-  return Refuse("Nothing has been changed", MessageStyle::Warning, focus);
+  return false;
 }
 
 // One blank after the first full stop here; the billing rates' sentence has two.
