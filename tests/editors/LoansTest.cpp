@@ -38,7 +38,8 @@ class LoansTest : public Desk {
     for (const char* key :
          {"ServerAddress", "AssignCopyrightService", "FindSerialMethod_SoapAction", "FindSerialMethod_BarcodeParameter",
           "FindSerialMethod_ShelfmarkParameter", "RegisterMethod_SoapAction", "RegisterMethod_BarcodeParameter",
-          "RegisterMethod_DetailParameter", "RegisterMethod_ItemParameter", "ConfirmMethod_SoapAction"})
+          "RegisterMethod_DetailParameter", "RegisterMethod_ItemParameter", "ConfirmMethod_SoapAction", "DebitService",
+          "DebitAccountMethod_SoapAction", "RepliesService", "AddReplyMethod_SoapAction"})
       Setting("BL Web Services", key, "x");
     Setting("BL Web Services", "Use", "Y");
   }
