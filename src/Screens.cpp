@@ -17,6 +17,10 @@
 #include "reference/frmNotifyPatronMessages.h"
 #include "reference/frmServiceCode.h"
 #include "editors/frmAddExceptionNotes.h"
+#include "editors/Invoicing.h"
+#include "editors/LoansTab.h"
+#include "editors/Miscellaneous.h"
+#include "editors/frmLoans.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
@@ -26,6 +30,9 @@ void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::ExceptionsTab,
                MakeTab(&Exceptions::EnterTab, &Exceptions::Exception_Add, &Exceptions::Exception_Update,
                        &Exceptions::Exception_Delete, &Exceptions::Exception_Clear));
+  shell.SetTab(frmTabulon::InvoicingTab,
+               MakeTab(&Invoicing::Invoicing_Tab, &Invoicing::Invoicing_Add, &Invoicing::Invoicing_Update,
+                       &Invoicing::Invoicing_Delete, &Invoicing::Invoicing_Clear));
   shell.SetTab(frmTabulon::MiscellaneousTab,
                MakeTab(&Miscellaneous::Miscellaneous_Tab, nullptr, nullptr, nullptr, nullptr));
 }
@@ -42,4 +49,5 @@ void RegisterDialogs() {
   RegisterScreen<frmServiceCode>("frmServiceCode");
   RegisterScreen<frmItemType>("frmItemType");
   RegisterScreen<frmAddExceptionNotes>("frmAddExceptionNotes");
+  RegisterScreen<frmLoans>("frmLoans");
 }
