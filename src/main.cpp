@@ -1,9 +1,11 @@
 #include <QApplication>
+#include <cstdio>
 #include <QTimer>
 
 #include "Screens.h"
 #include "core/CommandLine.h"
 #include "core/frmTabulon.h"
+#include "platform/desktop/TerminalPrompts.h"
 
 namespace {
 
@@ -48,6 +50,8 @@ int main(int argc, char** argv) {
   QApplication::setOrganizationName("Ostana");
   QApplication::setApplicationVersion(Version());
 
+  TerminalPrompts terminal;
+  if (qEnvironmentVariableIntValue("OSTANA_UNATTENDED") == 1) SetPrompts(&terminal);
   RegisterDialogs();
   frmTabulon window(commandLine);
   RegisterTabs(window);

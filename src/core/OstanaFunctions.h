@@ -20,11 +20,11 @@ class OstanaFunctions {
   ~OstanaFunctions();
 
   // --- Session state ---
-  ::Connection& Connection();                    // AdoError while no settings are loaded
-  const QString& OwnerPrefix() const;            // empty, or an owner with its closing point
-  qint16 DatabaseType() const;                   // 5: the column NOTE is written [NOTE]
-  const QString& ApplicationPath() const;        // root directory of the system, ending in a separator
-  const QString& CustomConfigFile() const;       // name without directory; empty where the site has none
+  ::Connection& Connection();               // AdoError while no settings are loaded
+  const QString& OwnerPrefix() const;       // empty, or an owner with its closing point
+  qint16 DatabaseType() const;              // 5: the column NOTE is written [NOTE]
+  const QString& ApplicationPath() const;   // root directory of the system, ending in a separator
+  const QString& CustomConfigFile() const;  // name without directory; empty where the site has none
   const QString& UserId() const;
   const QString& UserPassword() const;
   const QString& ApplicationName() const;
@@ -42,12 +42,12 @@ class OstanaFunctions {
   void SetLastError(const QString& text);
   const QString& LastSQL() const;
   void SetLastSQL(const QString& text);
-  qint32 LibraryId() const;                      // below 1: none
+  qint32 LibraryId() const;  // below 1: none
   void SetLibraryId(qint32 id);
   const QString& PatronId() const;
   void SetPatronId(const QString& id);
   bool SingleLanguage() const;
-  const QString& LanguageSuffix() const;         // "_" and a code, or empty for the default language
+  const QString& LanguageSuffix() const;  // "_" and a code, or empty for the default language
   void SetLanguageSuffix(const QString& suffix);
   const QString& DateDisplayFormat() const;
   bool FaxAvailable() const;
@@ -93,5 +93,7 @@ class OstanaFunctions {
 
  private:
   struct Private;
+  bool OpenConnection();
+  void AttachStatementLog();
   std::unique_ptr<Private> d_;
 };

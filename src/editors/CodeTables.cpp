@@ -15,6 +15,7 @@
 #include "core/Screen.h"
 #include "core/SqlText.h"
 #include "core/frmTabulon.h"
+#include "platform/ado/Recordset.h"
 
 CodeTables::CodeTables(frmTabulon& shell) : TabPage(shell) {
   BuildControls();

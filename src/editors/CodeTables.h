@@ -12,6 +12,8 @@
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
 
+class Recordset;
+
 // Tab "Code Tables": one editor for all plain look-up tables of the system. Which tables exist is told by ID_TABLES;
 // column names and types are read off the table itself. A few tables have extra columns with controls of their own.
 class CodeTables : public TabPage {

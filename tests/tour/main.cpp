@@ -9,23 +9,9 @@
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
-#include "platform/desktop/Prompts.h"
+#include "platform/desktop/TerminalPrompts.h"
 
 namespace {
-
-// Says every message on the terminal; questions are answered with Yes.
-class Spoken : public PromptService {
- public:
-  int ShowMessage(const MessageRequest& request) override {
-    std::printf("  message: %s\n", qPrintable(QString(request.text).replace('\n', ' ')));
-    return (request.style & MessageStyle::ButtonMask) == 0 ? MessageAnswer::Ok : MessageAnswer::Yes;
-  }
-  std::optional<QString> OpenFile(const FileRequest&) override { return {}; }
-  std::optional<QString> SaveFile(const FileRequest&) override { return {}; }
-  std::optional<QString> ChoosePrinter(QWidget*) override { return {}; }
-  QStringList PrinterNames() override { return {}; }
-  void Beep() override {}
-};
 
 void Picture(QWidget& window, const QString& folder, const QString& name) {
   QApplication::processEvents();
@@ -67,8 +53,8 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("Tabulon");
   const QString folder = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QDir::currentPath();
-  Spoken spoken;
-  SetPrompts(&spoken);
+  TerminalPrompts prompts;
+  SetPrompts(&prompts);
   RegisterDialogs();
   frmTabulon window("\"\" \"admin\" \"secret\"");
   RegisterTabs(window);

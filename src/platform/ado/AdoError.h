@@ -11,6 +11,7 @@ inline constexpr quint32 RowChanged = 0x80040E38;        // a row changed under 
 inline constexpr quint32 RowReferenced = 0x8004D013;     // older servers' number of a refused delete
 inline constexpr quint32 ObjectClosed = 0x800A0E78;      // operation on a closed connection or recordset
 inline constexpr quint32 ItemNotFound = 0x800A0CC1;      // a field name that the recordset does not have
+inline constexpr quint32 NoCurrentRow = 0x800A0BCD;      // a value was read before the first or behind the last row
 inline constexpr quint32 Busy = 0x80040E31;              // lock or time limit reached
 inline constexpr quint32 Unspecified = 0x80004005;       // connection lost and everything else
 }  // namespace AdoNumber

@@ -7,9 +7,9 @@ enum class Engine { Sqlite, PostgreSql, MariaDb, SqlServer };
 // What a connection is opened with; it lies inside the Connection, so that Open takes empty strings.
 struct ConnectionSettings {
   Engine engine = Engine::Sqlite;
-  QString name;         // file of SQLite, database of a server, connection string or DSN of ODBC
-  QString host;         // a leading "/" is the folder of a unix socket
-  int port = 0;         // 0: the engine's own default
+  QString name;  // file of SQLite, database of a server, connection string or DSN of ODBC
+  QString host;  // a leading "/" is the folder of a unix socket
+  int port = 0;  // 0: the engine's own default
   QString user;
   QString password;
   QString options;      // further options in the driver's own words, joined by ";"

@@ -13,10 +13,10 @@ inline constexpr int Char = 129, WChar = 130, VarChar = 200, VarWChar = 202;
 
 // A column as the database's catalogue declares it.
 struct ColumnInfo {
-  QString name;          // upper case
-  int type = 0;          // AdoType
-  int definedSize = 0;   // characters of a text column, digits of a number; 0 when unknown
-  int scale = 0;         // digits behind the decimal point
+  QString name;         // upper case
+  int type = 0;         // AdoType
+  int definedSize = 0;  // characters of a text column, digits of a number; 0 when unknown
+  int scale = 0;        // digits behind the decimal point
   bool nullable = true;
 };
 
@@ -57,7 +57,8 @@ class Recordset {
   int CursorLocation = Client;
   int MaxRecords = 0;  // rows read at the most; 0 reads all
 
-  // Reopens the connection when it is closed, runs Source and stands on the first row. An open recordset is closed first.
+  // Reopens the connection when it is closed, runs Source and stands on the first row. An open recordset is closed
+  // first.
   void Open(Connection& connection);
   void Open(Connection& connection, const QString& source);
   void Close();

@@ -29,7 +29,7 @@ class CodeComboBox : public QComboBox {
   QString Code() const;
   QString CodeAt(int index) const;
   QString TextAt(int index) const { return itemText(index); }
-  // First entry with that description or code; null when there is none.
+  // Of the first entry with that description or code; null when there is none.
   QString CodeOf(const QString& description) const;
   QString DescriptionOf(const QString& code) const;
   // Chooses the entry of the code (exact). False when there is none; the box is then left alone.
@@ -48,10 +48,14 @@ class CodeComboBox : public QComboBox {
  protected:
   void focusInEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void showPopup() override;
   void wheelEvent(QWheelEvent* event) override;  // scrolls the page, never the choice, unless focused
 
  private:
+  void Append(const QString& description, const QString& code);
+
   std::vector<QString> codes_;
   int noneIndex_ = -1;
-  QString shown_;
+  QString none_ = QStringLiteral("(none)");
+  QString shown_;  // the text on show while no entry is chosen
 };

@@ -2,7 +2,9 @@
 
 #include <QDate>
 #include <QWidget>
+#include <functional>
 
+class LeaveGuard;
 class QCheckBox;
 class QDateEdit;
 
@@ -28,11 +30,11 @@ class DateBox : public QWidget {
   void Change();
   void Edited();
 
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
+  void UserChanged();
+
+  LeaveGuard* leave_ = nullptr;
   QCheckBox* check_;
   QDateEdit* edit_;
-  std::function<bool()> leaveCheck_;
+  bool filling_ = false;
 };

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QTableView>
+#include <optional>
+#include <span>
 #include <vector>
 
 class GridModel;
@@ -14,7 +16,7 @@ class Grid : public QTableView {
  public:
   Grid(QWidget* parent, const QString& name, int columns = 1);
 
-  int Rows() const;                       // heading included: 1 for an empty grid
+  int Rows() const;  // heading included: 1 for an empty grid
   int Cols() const;
   // Drops all rows and widths when the count changes.
   void SetCols(int count);
@@ -27,13 +29,18 @@ class Grid : public QTableView {
   // As SetRow without any event.
   void SetRowQuietly(int row);
 
-  QString Text(int row, int col) const;   // row 0: the heading's caption
+  QString Text(int row, int col) const;  // row 0: the heading's caption
   void SetText(int row, int col, const QString& text);
-  // Adds a row at the end, or before row `at`; column 0 stays empty when `cells` begins at column 1. Returns its number.
+  // The same without a copy; good until the grid changes. For scans over many rows.
+  QStringView View(int row, int col) const;
+  // Adds a row at the end, or before row `at`; column 0 stays empty when `cells` begins at column 1. Returns its
+  // number.
   int AddRow(const QStringList& cellsFromColumn1, int at = 0);
-  // As AddRow for a long load: no repaint and no count until EndLoad.
+  // As AddRow for a long load: the rows are shown all at once by EndLoad, or when the event loop runs again where an
+  // error kept EndLoad from being reached.
   void BeginLoad(int expectedRows = 0);
   void LoadRow(const QStringList& cellsFromColumn1);
+  void LoadRow(std::span<const QStringView> cellsFromColumn1);
   void EndLoad();
   // The current row stays on its record; when it is removed itself there is no current row.
   void RemoveRow(int row);
@@ -43,8 +50,10 @@ class Grid : public QTableView {
   int FindRow(const std::vector<std::pair<int, QString>>& cells, int from = 1) const;
 
   void SetHeading(int col, const QString& caption) { SetText(0, col, caption); }
-  // Width in twips (1440 an inch). The last visible column takes the room that is left.
+  // Width in twips (1440 an inch); the column is never narrower than its heading. The last visible column takes the
+  // room that is left.
   void SetColWidth(int col, int twips);
+  int ColWidth(int col) const;  // in twips, as it was set
   void HideCol(int col, bool hidden);
   bool ColHidden(int col) const;
   // Numbers to the right instead of left.
@@ -59,7 +68,9 @@ class Grid : public QTableView {
   void SetRowData(int row, qint64 data);
   qint64 RowData(int row) const;
 
-  // Sorts by a column. Numeric compares as numbers where both cells are numbers. Emits BeforeSort and AfterSort.
+  // Sorts by a column, equal cells keeping their order: by the locale's collation without regard to letter case, or
+  // numeric: empty cells, numbers by value, other texts. Row() stays on its record. Emits BeforeSort and AfterSort. A
+  // click on a heading sorts upwards, then downwards, numeric where the column holds nothing but numbers.
   void Sort(int col, Qt::SortOrder order, bool numeric = false);
 
   // Hides rows that do not hold the text in any visible cell (letter case ignored); an empty text shows all.
@@ -74,24 +85,58 @@ class Grid : public QTableView {
   void CellDoubleClick(int row, int col);
   void BeforeSort(int col);
   void AfterSort(int col);
-  // A cell was edited by hand; `old` is what stood there.
+  // A cell was edited by hand and got another text, the editor being closed; `old` is what stood there.
   void AfterEdit(int row, int col, const QString& old);
 
  protected:
+  QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+  void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  friend class GridModel;
-  void ShowCurrent();
+  struct Column {
+    int twips = 0;
+    int pixels = 0;  // without what the last column takes besides
+  };
+  struct Edit {
+    int row = 0, col = 0;
+    QString old;
+  };
+
+  void SetUpHeaders();
+  void ResetColumns();
+  void ShowCurrent(bool scroll);
+  bool InStep() const;
+  template <class BaseEvent>
+  void ByHand(BaseEvent handle);
+  void Adopt();
+  void UserRow(int row);
+  bool MoveByKey(int key);
+  bool EditByKey();
+  void CopyRow() const;
   void HeadingClicked(int col);
+  void FitHeading(int col);
   void StretchLast();
+  int FirstVisibleCol() const;
+  int NextEditable(int col, int step) const;
 
   GridModel* model_;
+  std::vector<Column> columns_;
   int row_ = 0;
-  bool quiet_ = false;
-  QString filter_;
+  bool quiet_ = false;  // what the view does now is no choice of the user
+  bool loading_ = false;
+  bool stretching_ = false;
+  std::pair<int, int> pressed_;  // row and column of a press whose release is to come
+  std::optional<Edit> edit_;     // of an editor that is about to close
 };

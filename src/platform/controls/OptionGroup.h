@@ -6,7 +6,6 @@
 #include <vector>
 
 class QButtonGroup;
-class QBoxLayout;
 
 // A control array of option buttons, element i named "name(i)", that exclude each other. All may be unset. Single
 // option buttons with names of their own are groups too (second constructor).
@@ -37,7 +36,7 @@ class OptionGroup : public QObject {
   void Click(int index);
 
  private:
-  void Adopt(QWidget* parent, QRadioButton* button);
+  void Adopt(QWidget* parent, const QString& name, const QString& caption);
 
   std::vector<QRadioButton*> buttons_;
   QButtonGroup* group_ = nullptr;

@@ -3,6 +3,8 @@
 #include <QLineEdit>
 #include <functional>
 
+class LeaveGuard;
+
 // Receives a typed character and returns the one that is entered; 0 refuses it (the filter beeps itself).
 using KeyPressFilter = std::function<char16_t(char16_t key)>;
 
@@ -11,12 +13,13 @@ class TextBox : public QLineEdit {
   Q_OBJECT
 
  public:
-  // maxLength in characters; 0 means no limit.
+  // maxLength in UTF-16 units; 0 means no limit.
   TextBox(QWidget* parent, const QString& name, int maxLength = 0);
 
   QString Text() const { return text(); }
   // Filling by code: emits Change, not Edited.
-  void SetText(const QString& text) { setText(text); }
+  // What is longer than the limit is cut, never in the middle of a surrogate pair.
+  void SetText(const QString& text);
   QString Trimmed() const { return text().trimmed(); }
   // Writes the trimmed text back and returns it.
   QString TrimInPlace();
@@ -34,29 +37,41 @@ class TextBox : public QLineEdit {
 
   // Enter in the box runs the action and goes no further.
   void SetEnterAction(std::function<void()> action);
-  // The focus came by Tab, click or code.
-  void SelectAllOnFocus();
+  // Whatever way the focus comes: by Tab, click or code.
+  void SelectAllOnFocus() { selectOnFocus_ = true; }
+
+  // As wide as the limit calls for, up to a page's usual width; narrower where there is no room.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
  Q_SIGNALS:
   void Change(const QString& text);  // any change, by hand or by code
   void Edited(const QString& text);  // by the user's hand
+  // The focus came from another control, not back from a message box or a menu.
   void GotFocus();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
-  bool event(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
-  bool HandleKey(QKeyEvent* event);
-  QString Filtered(const QString& pasted);
-  void PasteFiltered(const QString& text);
+  void EnterKey(QKeyEvent* event);
+  QString Filtered(const QString& typed);
+  qsizetype Room() const;
+  void PasteText(const QString& foreign);
+  void PasteClipboard();
 
   KeyPressFilter filter_;
   bool pasteUnfiltered_ = false;
-  std::function<bool()> leaveCheck_;
+  bool upperCase_ = false;
+  LeaveGuard* leave_ = nullptr;
   std::function<void()> enterAction_;
-  bool checking_ = false;
   bool selectOnFocus_ = false;
+  bool selectAfterPress_ = false;
 };

@@ -16,16 +16,16 @@ inline constexpr int Ok = 1, Cancel = 2, Yes = 6, No = 7;
 
 struct MessageRequest {
   QString text;
-  int style = 0;         // MessageStyle bits
+  int style = 0;  // MessageStyle bits
   QString title;
-  QString icon;          // name of an icon that replaces the icon bits; may be empty
+  QString icon;  // name of an icon that replaces the icon bits; may be empty
   QPointer<QWidget> owner;
 };
 
 struct FileRequest {
   QString title;
   QString directory;
-  QString filter;        // a pattern such as "*.rpt"
+  QString filter;  // a pattern such as "*.rpt"
   QPointer<QWidget> owner;
 };
 
@@ -34,8 +34,8 @@ struct FileRequest {
 class PromptService {
  public:
   virtual ~PromptService() = default;
-  virtual int ShowMessage(const MessageRequest& request) = 0;                     // MessageAnswer
-  virtual std::optional<QString> OpenFile(const FileRequest& request) = 0;        // full path; none when cancelled
+  virtual int ShowMessage(const MessageRequest& request) = 0;               // MessageAnswer
+  virtual std::optional<QString> OpenFile(const FileRequest& request) = 0;  // full path; none when cancelled
   virtual std::optional<QString> SaveFile(const FileRequest& request) = 0;
   // Name of the printer chosen; none when cancelled.
   virtual std::optional<QString> ChoosePrinter(QWidget* owner) = 0;

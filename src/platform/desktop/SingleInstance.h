@@ -7,4 +7,4 @@
 namespace SingleInstance {
 // Takes the lock when nobody holds it and keeps it until the process ends. True when another process holds it.
 bool AnotherIsRunning(const QString& applicationName);
-}
+}  // namespace SingleInstance

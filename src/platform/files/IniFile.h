@@ -22,8 +22,7 @@ QStringList Keys(const QString& path, const QString& section);
 
 // Sets one value and leaves all else as it stands: comments, order, line ends, encoding. The file is replaced in one
 // step, so a full disk leaves the old one. False with a reason when it could not be written.
-bool WriteValue(const QString& path, const QString& section, const QString& key, const QString& value,
-                QString* reason);
+bool WriteValue(const QString& path, const QString& section, const QString& key, const QString& value, QString* reason);
 
 }  // namespace IniFile
 

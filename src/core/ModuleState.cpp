@@ -1,0 +1,39 @@
+#include "core/ModuleState.h"
+
+#include "core/OstanaFunctions.h"
+#include "core/WebServiceSettings.h"
+#include "platform/ado/Recordset.h"
+
+void ResetModuleState() {
+  grsTable.Reset();  // before the connection that it may have read from
+  gclsOF.Reset();
+
+  gstrErrorMessage.clear();
+  gstrDecimalSeparator = ".";
+  gintDecimalSeparatorKey = u'.';
+  gcolLanguageCode.clear();
+  gcolLanguageDesc.clear();
+
+  gbSkipGridEvents = false;
+  gbSkipActivate = false;
+  gbRecordModified = false;
+  gbFillingFields = false;
+  gbTabGuardArmed = false;
+  gstrButtonMode.clear();
+
+  gbLibraryActive = false;
+  gbVetoUnload = false;
+  gbCloseAfterRequest = false;
+  gbUseLoadBalancing = false;
+  gbAddSupplier = false;
+  gstrSupplierCode.clear();
+  gstrCoverRequestType.clear();
+  glngNCIPLibraryId = 0;
+  glngFoundLibraryId = 0;
+  gbSettingsChanged = false;
+  gstrISO18626ConnectionId.clear();
+
+  gbUseWebService = false;
+  gstrWebServiceName.clear();
+  gWebService = WebServiceSettings();
+}

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/ado/SqlTokens.h"
+
+// The single steps by which dialects carry a statement of the shared system to their engine. Each works on tokens,
+// leaves what stands inside literals as it is, and changes nothing when it is applied again.
+namespace StatementWords {
+
+using Tokens = std::vector<SqlToken>;
+
+bool Is(const SqlToken& token, const char* word);  // a word, letter case does not count
+// Index of the next token behind `index` that is no blank; tokens.size() when there is none.
+size_t NextOf(const Tokens& tokens, size_t index);
+size_t FirstOf(const Tokens& tokens);
+
+// N'x' becomes 'x', kept apart from a literal before it.
+void PlainLiterals(Tokens& tokens);
+// [NAME] becomes NAME, or "a name" where it is no plain word.
+void PlainNames(Tokens& tokens);
+// Drops the owner, given with its closing point, from before names.
+void DropOwner(Tokens& tokens, const QString& ownerPrefix);
+// SELECT TOP n ... becomes SELECT ... LIMIT n, within parentheses too.
+void LimitForTop(Tokens& tokens);
+// DELETE t becomes DELETE FROM t, INSERT t becomes INSERT INTO t.
+void FullVerbs(Tokens& tokens);
+// Words beginning with ID_ become upper case: the form in which tables were created.
+void UpperTableNames(Tokens& tokens);
+// LIKE becomes `operation`; `suffix` follows the pattern unless a word of the suffix's kind stands there already.
+void Patterns(Tokens& tokens, const QString& operation, const QString& suffix);
+// In CREATE TABLE and ALTER TABLE the column type `from` becomes `to`.
+void ColumnType(Tokens& tokens, const char* from, const QString& to);
+
+// The tables named behind FROM and JOIN of a SELECT, outside of subselects, upper case, without owner.
+QStringList TablesOfSelect(const QString& select);
+bool IsSelect(const QString& statement);        // SELECT, or WITH before one
+bool IsModification(const QString& statement);  // INSERT, UPDATE, DELETE
+
+}  // namespace StatementWords

@@ -1,0 +1,168 @@
+#include "platform/controls/CodeComboBox.h"
+
+#include <QAbstractItemView>
+#include <QFocusEvent>
+#include <QListView>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QStringListModel>
+#include <QStylePainter>
+#include <QWheelEvent>
+
+namespace {
+constexpr int UsualWidth = 24;     // characters
+constexpr int EntriesOnShow = 20;  // of the open list
+bool SameCode(const QString& a, const QString& b) {
+  return a.isNull() == b.isNull() && a == b;
+}
+}  // namespace
+
+CodeComboBox::CodeComboBox(QWidget* parent, const QString& name) : QComboBox(parent) {
+  setObjectName(name);
+  setModel(new QStringListModel(this));
+  // Plain text in even rows: a list of ten thousand opens at once.
+  auto* list = new QListView(this);
+  list->setUniformItemSizes(true);
+  setView(list);
+  setMaxVisibleItems(EntriesOnShow);
+  setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  setMinimumContentsLength(UsualWidth);
+  setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+  setFocusPolicy(Qt::StrongFocus);
+  connect(this, &QComboBox::activated, this, [this] {
+    shown_.clear();
+    Q_EMIT Click();
+  });
+}
+
+void CodeComboBox::Clear() {
+  const QSignalBlocker quiet(this);
+  clear();
+  codes_.clear();
+  noneIndex_ = -1;
+  shown_.clear();
+  update();
+}
+
+void CodeComboBox::Append(const QString& description, const QString& code) {
+  const QSignalBlocker quiet(this);
+  const int chosen = currentIndex();
+  codes_.push_back(code);
+  addItem(description);
+  // The toolkit chooses the first entry of a list by itself.
+  if (chosen != currentIndex()) setCurrentIndex(chosen);
+}
+
+void CodeComboBox::AddNone(const QString& text) {
+  if (noneIndex_ < 0) {
+    noneIndex_ = count();
+    none_ = text;
+  }
+  Append(text, QString());
+}
+
+void CodeComboBox::Add(const QString& description) {
+  Append(description, description);
+}
+
+void CodeComboBox::Add(const QString& description, const QString& code) {
+  Append(description, code);
+}
+
+void CodeComboBox::SetIndex(int index) {
+  const QSignalBlocker quiet(this);
+  shown_.clear();
+  setCurrentIndex(index >= 0 && index < count() ? index : -1);
+  update();
+}
+
+QString CodeComboBox::Text() const {
+  return currentIndex() >= 0 ? currentText() : shown_;
+}
+
+void CodeComboBox::SetText(const QString& text) {
+  SetIndex(IndexOfText(text));
+  if (currentIndex() < 0) shown_ = text;
+  update();
+}
+
+QString CodeComboBox::Code() const {
+  return CodeAt(currentIndex());
+}
+
+QString CodeComboBox::CodeAt(int index) const {
+  return index >= 0 && index < count() ? codes_[static_cast<std::size_t>(index)] : QString();
+}
+
+QString CodeComboBox::CodeOf(const QString& description) const {
+  return CodeAt(IndexOfText(description));
+}
+
+QString CodeComboBox::DescriptionOf(const QString& code) const {
+  const int index = IndexOfCode(code);
+  return index < 0 ? QString() : TextAt(index);
+}
+
+bool CodeComboBox::SetCode(const QString& code) {
+  const int index = IndexOfCode(code);
+  if (index < 0) return false;
+  SetIndex(index);
+  return true;
+}
+
+int CodeComboBox::IndexOfCode(const QString& code) const {
+  const auto found =
+      std::find_if(codes_.begin(), codes_.end(), [&](const QString& entry) { return SameCode(entry, code); });
+  return found == codes_.end() ? -1 : static_cast<int>(found - codes_.begin());
+}
+
+int CodeComboBox::IndexOfText(const QString& text) const {
+  const QStringList entries = static_cast<const QStringListModel*>(model())->stringList();
+  return static_cast<int>(entries.indexOf(text));
+}
+
+bool CodeComboBox::IsNone() const {
+  if (currentIndex() >= 0) return currentIndex() == noneIndex_;
+  return !shown_.isEmpty() && shown_.compare(none_, Qt::CaseInsensitive) == 0;
+}
+
+void CodeComboBox::focusInEvent(QFocusEvent* event) {
+  QComboBox::focusInEvent(event);
+  if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason &&
+      event->reason() != Qt::MenuBarFocusReason)
+    Q_EMIT GotFocus();
+}
+
+void CodeComboBox::paintEvent(QPaintEvent*) {
+  QStylePainter painter(this);
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  option.currentText = Text();
+  painter.drawComplexControl(QStyle::CC_ComboBox, option);
+  painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+// The open list is as wide as its longest entry, within the screen.
+void CodeComboBox::showPopup() {
+  int widest = 0;
+  const QStringList entries = static_cast<const QStringListModel*>(model())->stringList();
+  const QFontMetrics metrics = view()->fontMetrics();
+  qsizetype longest = 0;
+  for (const QString& entry : entries) {
+    // Shorter ones by a good part cannot be wider; measuring is what costs.
+    if (entry.size() * 2 < longest) continue;
+    longest = std::max(longest, entry.size());
+    widest = std::max(widest, metrics.horizontalAdvance(entry));
+  }
+  const int around = 24 + view()->verticalScrollBar()->sizeHint().width();
+  view()->setMinimumWidth(std::min(std::max(widest + around, width()), screen()->availableGeometry().width() * 4 / 5));
+  QComboBox::showPopup();
+}
+
+void CodeComboBox::wheelEvent(QWheelEvent* event) {
+  if (hasFocus())
+    QComboBox::wheelEvent(event);
+  else
+    event->ignore();
+}

@@ -1,0 +1,218 @@
+#include "platform/controls/FormLayout.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QFontMetrics>
+#include <QGridLayout>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStyle>
+#include <QStyleOptionFrame>
+
+#include "platform/controls/Grid.h"
+#include "platform/controls/MemoBox.h"
+
+namespace {
+
+constexpr int Margin = 12, Across = 8, Down = 6, BetweenPairs = 20;  // pixels
+constexpr int NarrowestButton = 88;
+constexpr int CapitalsOnly = 12;  // up to this limit a field is a code, and codes are capitals
+// The grid of a form: label and field, twice, and what is left.
+constexpr int LabelColumn = 0, FieldColumn = 1, SecondLabel = 3, SecondField = 4, Rest = 5, Columns = 6;
+constexpr int Gap = 2;
+
+bool IsTall(const QWidget* field) {
+  return qobject_cast<const QAbstractScrollArea*>(field) != nullptr;
+}
+
+void LendName(QWidget* field, const QString& caption) {
+  if (field->accessibleName().isEmpty()) field->setAccessibleName(caption);
+  for (QWidget* part : field->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    const bool takesFocus = part->focusPolicy() != Qt::NoFocus && qobject_cast<QAbstractButton*>(part) == nullptr;
+    if (takesFocus && part->accessibleName().isEmpty() && qobject_cast<QAbstractScrollArea*>(field) == nullptr)
+      part->setAccessibleName(caption);
+  }
+}
+
+// What takes the focus in a field of several parts.
+QWidget* Buddy(QWidget* field) {
+  if (field->focusPolicy() != Qt::NoFocus || field->focusProxy() != nullptr) return field;
+  for (QWidget* part : field->findChildren<QWidget*>())
+    if (part->focusPolicy() != Qt::NoFocus) return part;
+  return field;
+}
+
+QHBoxLayout* Line(QWidget* field, QWidget* behind) {
+  auto* line = new QHBoxLayout;
+  line->setSpacing(Across);
+  const bool takesAll = field->sizePolicy().expandingDirections().testFlag(Qt::Horizontal);
+  line->addWidget(field, takesAll ? 1 : 0);
+  if (behind != nullptr) line->addWidget(behind, 0, IsTall(field) ? Qt::AlignTop : Qt::AlignVCenter);
+  if (!takesAll) line->addStretch();
+  return line;
+}
+
+}  // namespace
+
+namespace Form {
+
+QString PlainCaption(const QString& caption) {
+  QString plain;
+  for (qsizetype i = 0; i < caption.size(); ++i) {
+    if (caption[i] == u'&' && i + 1 < caption.size()) ++i;
+    plain += caption[i];
+  }
+  return plain;
+}
+
+int FieldWidth(const QWidget* field, int characters) {
+  const QFontMetrics metrics = field->fontMetrics();
+  const int one = characters <= CapitalsOnly ? metrics.horizontalAdvance(u'M') : metrics.averageCharWidth();
+  const int frame = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, field);
+  return one * characters + 2 * frame + 12;
+}
+
+QLabel* Label(QWidget* parent, const QString& name, const QString& caption) {
+  auto* label = new QLabel(caption, parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  return label;
+}
+
+QPushButton* Button(QWidget* parent, const QString& name, const QString& caption, const QString& toolTip) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  button->setMinimumWidth(NarrowestButton);
+  if (!toolTip.isEmpty()) button->setToolTip(toolTip);
+  return button;
+}
+
+QCheckBox* Check(QWidget* parent, const QString& name, const QString& caption) {
+  auto* check = new QCheckBox(caption, parent);
+  check->setObjectName(name);
+  return check;
+}
+
+QGroupBox* Frame(QWidget* parent, const QString& name, const QString& caption) {
+  auto* frame = new QGroupBox(caption, parent);
+  frame->setObjectName(name);
+  return frame;
+}
+
+QAction* MenuEntry(QMenu* menu, const QString& name, const QString& caption) {
+  QAction* entry = menu->addAction(caption);
+  entry->setObjectName(name);
+  return entry;
+}
+
+QMenu* Menu(QWidget* window, const QString& name, const QString& caption) {
+  auto* menu = new QMenu(caption, window);
+  menu->setObjectName(name);
+  if (auto* main = qobject_cast<QMainWindow*>(window)) main->menuBar()->addMenu(menu);
+  return menu;
+}
+
+Rows::Rows(QWidget* parent) : layout_(parent != nullptr ? new QGridLayout(parent) : new QGridLayout) {
+  if (parent != nullptr)
+    layout_->setContentsMargins(Margin, Margin, Margin, Margin);
+  else
+    layout_->setContentsMargins(0, 0, 0, 0);
+  layout_->setHorizontalSpacing(Across);
+  layout_->setVerticalSpacing(Down);
+  layout_->setColumnMinimumWidth(Gap, 0);
+  layout_->setColumnStretch(Rest, 1);
+}
+
+QLabel* Rows::Add(const QString& labelName, const QString& caption, QWidget* field, QWidget* behind) {
+  return Add(Label(field->parentWidget(), labelName, caption), field, behind);
+}
+
+QLabel* Rows::Add(QLabel* label, QWidget* field, QWidget* behind) {
+  ++row_;
+  Place(label, field, behind, LabelColumn);
+  return label;
+}
+
+QLabel* Rows::Beside(const QString& labelName, const QString& caption, QWidget* field, QWidget* behind) {
+  // The field before made room for itself to the end of the form; now it shares the row.
+  if (QLayoutItem* first = layout_->itemAtPosition(row_, FieldColumn); first != nullptr) {
+    layout_->removeItem(first);
+    layout_->addItem(first, row_, FieldColumn);
+  }
+  layout_->setColumnMinimumWidth(Gap, BetweenPairs - 2 * Across);
+  QLabel* label = Label(field->parentWidget(), labelName, caption);
+  Place(label, field, behind, SecondLabel);
+  return label;
+}
+
+void Rows::Place(QLabel* label, QWidget* field, QWidget* behind, int column) {
+  const QString caption = PlainCaption(label->text());
+  label->setBuddy(Buddy(field));
+  LendName(field, caption);
+  const bool tall = IsTall(field);
+  // The first line of a tall field and its label stand on one line.
+  if (tall) label->setContentsMargins(0, 4, 0, 0);
+  layout_->addWidget(label, row_, column, tall ? Qt::AlignLeft | Qt::AlignTop : Qt::AlignLeft | Qt::AlignVCenter);
+  const int end = Columns;
+  layout_->addLayout(Line(field, behind), row_, column + 1, 1, end - column - 1);
+  if (tall) layout_->setRowStretch(row_, 1);
+}
+
+void Rows::Wide(QWidget* widget, int stretch) {
+  ++row_;
+  layout_->addWidget(widget, row_, 0, 1, Columns);
+  const bool tall = qobject_cast<QAbstractScrollArea*>(widget) != nullptr;
+  layout_->setRowStretch(row_, stretch > 0 ? stretch : (tall ? 1 : 0));
+}
+
+void Rows::Wide(QLayout* layout) {
+  ++row_;
+  layout_->addLayout(layout, row_, 0, 1, Columns);
+}
+
+void Rows::Stretch() {
+  layout_->setRowStretch(++row_, 1);
+}
+
+QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> buttons) {
+  auto* row = new QHBoxLayout;
+  row->setSpacing(Across);
+  if (std::find(buttons.begin(), buttons.end(), nullptr) == buttons.end()) row->addStretch();
+  for (QWidget* button : buttons) {
+    if (button != nullptr)
+      row->addWidget(button);
+    else
+      row->addStretch();
+  }
+  return row;
+}
+
+QVBoxLayout* Column(QWidget* parent, std::initializer_list<QWidget*> widgets) {
+  auto* column = parent != nullptr ? new QVBoxLayout(parent) : new QVBoxLayout;
+  column->setContentsMargins(Margin, Margin, Margin, Margin);
+  column->setSpacing(Across);
+  for (QWidget* widget : widgets) column->addWidget(widget);
+  return column;
+}
+
+void TabOrder(std::initializer_list<QWidget*> widgets) {
+  QWidget* before = nullptr;
+  const auto next = [&before](QWidget* widget) {
+    if (before != nullptr) QWidget::setTabOrder(before, widget);
+    before = widget;
+  };
+  for (QWidget* widget : widgets) {
+    if (widget == nullptr) continue;
+    if (widget->focusPolicy() != Qt::NoFocus) {
+      next(widget);
+      continue;
+    }
+    // A row of options, a date with its check: their parts in the order they were made.
+    for (QWidget* part : widget->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+      if (part->focusPolicy() != Qt::NoFocus) next(part);
+  }
+}
+
+}  // namespace Form

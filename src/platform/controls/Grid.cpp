@@ -1,0 +1,305 @@
+#include "platform/controls/Grid.h"
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QTimer>
+
+#include "platform/controls/GridDelegate.h"
+#include "platform/controls/GridModel.h"
+
+namespace {
+constexpr int DefaultTwips = 960;
+constexpr int TwipsAnInch = 1440;
+std::size_t At(int index) {
+  return static_cast<std::size_t>(index);
+}
+
+std::vector<QStringView> Views(const QStringList& cells) {
+  return std::vector<QStringView>(cells.begin(), cells.end());
+}
+}  // namespace
+
+Grid::Grid(QWidget* parent, const QString& name, int columns) : QTableView(parent), model_(new GridModel(this)) {
+  setObjectName(name);
+  setModel(model_);
+  setItemDelegate(new GridDelegate(this, model_));
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  setEditTriggers(QAbstractItemView::DoubleClicked);
+  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setShowGrid(false);
+  setAlternatingRowColors(true);
+  SetUpHeaders();
+  connect(model_, &GridModel::Edited, this, [this](int row, int col, const QString& old) {
+    edit_ = Edit{row, col, old};
+  });
+  SetCols(columns);
+}
+
+void Grid::SetUpHeaders() {
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  verticalHeader()->setMinimumSectionSize(1);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  QHeaderView* heading = horizontalHeader();
+  heading->setMinimumSectionSize(8);
+  heading->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  heading->setHighlightSections(false);
+  heading->setSectionsClickable(true);
+  heading->setTextElideMode(Qt::ElideRight);
+  heading->setFixedHeight(fontMetrics().height() + 10);
+  connect(heading, &QHeaderView::sectionClicked, this, &Grid::HeadingClicked);
+  connect(heading, &QHeaderView::sectionResized, this, [this](int col, int, int width) {
+    if (stretching_ || width == 0) return;
+    columns_[At(col)].pixels = width;
+    StretchLast();
+  });
+}
+
+int Grid::Rows() const {
+  return model_->Rows() + 1;
+}
+
+int Grid::Cols() const {
+  return model_->Columns();
+}
+
+void Grid::SetCols(int count) {
+  if (count == static_cast<int>(columns_.size())) return;
+  const QScopedValueRollback quiet(quiet_, true);
+  model_->SetColumns(count);
+  row_ = 0;
+  ResetColumns();
+}
+
+void Grid::ResetColumns() {
+  columns_.assign(At(Cols()), {});
+  horizontalHeader()->setSortIndicatorShown(false);
+  for (int col = 0; col < Cols(); ++col) {
+    setColumnHidden(col, false);
+    SetColWidth(col, DefaultTwips);
+  }
+}
+
+void Grid::Clear() {
+  const QScopedValueRollback quiet(quiet_, true);
+  loading_ = false;
+  row_ = 0;
+  model_->Clear();
+  horizontalHeader()->setSortIndicatorShown(false);
+  horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+}
+
+void Grid::SetRow(int row) {
+  const int before = row_;
+  SetRowQuietly(row);
+  if (row_ != before) Q_EMIT SelChange();
+}
+
+void Grid::SetRowQuietly(int row) {
+  EndLoad();
+  row_ = model_->Holds(row, 0) ? row : 0;
+  ShowCurrent(true);
+}
+
+QString Grid::Text(int row, int col) const {
+  return row == 0 ? model_->Heading(col) : View(row, col).toString();
+}
+
+QStringView Grid::View(int row, int col) const {
+  return model_->Cell(row, col);
+}
+
+void Grid::SetText(int row, int col, const QString& text) {
+  if (row != 0) return model_->SetCell(row, col, text);
+  model_->SetHeading(col, text);
+  FitHeading(col);
+}
+
+int Grid::AddRow(const QStringList& cellsFromColumn1, int at) {
+  EndLoad();
+  const int row = at >= 1 && at < Rows() ? at : Rows();
+  const QScopedValueRollback quiet(quiet_, true);
+  model_->Insert(row, Views(cellsFromColumn1));
+  if (row_ >= row) ++row_;
+  ShowCurrent(false);
+  return row;
+}
+
+void Grid::BeginLoad(int expectedRows) {
+  EndLoad();
+  loading_ = true;
+  if (expectedRows > 0) model_->Reserve(expectedRows);
+  QTimer::singleShot(0, this, &Grid::EndLoad);
+}
+
+void Grid::LoadRow(const QStringList& cellsFromColumn1) {
+  LoadRow(std::span<const QStringView>(Views(cellsFromColumn1)));
+}
+
+void Grid::LoadRow(std::span<const QStringView> cellsFromColumn1) {
+  model_->Append(cellsFromColumn1);
+  if (!loading_) {
+    loading_ = true;
+    EndLoad();
+  }
+}
+
+void Grid::EndLoad() {
+  if (!loading_) return;
+  loading_ = false;
+  const QScopedValueRollback quiet(quiet_, true);
+  model_->Announce();
+  ShowCurrent(false);
+}
+
+void Grid::RemoveRow(int row) {
+  if (!model_->Holds(row, 0)) return;
+  EndLoad();
+  const QScopedValueRollback quiet(quiet_, true);
+  model_->Remove(row);
+  if (row_ == row)
+    row_ = 0;
+  else if (row_ > row)
+    --row_;
+  ShowCurrent(false);
+}
+
+int Grid::FindRow(const QString& text, int col, int from) const {
+  return FindRow({{col, text}}, from);
+}
+
+int Grid::FindRow(const std::vector<std::pair<int, QString>>& cells, int from) const {
+  for (int row = std::max(from, 1); row < Rows(); ++row) {
+    const bool found = std::all_of(cells.begin(), cells.end(),
+                                   [&](const auto& cell) { return model_->Cell(row, cell.first) == cell.second; });
+    if (found) return row;
+  }
+  return 0;
+}
+
+void Grid::SetColWidth(int col, int twips) {
+  if (col < 0 || col >= Cols()) return;
+  Column& column = columns_[At(col)];
+  column.twips = twips;
+  column.pixels = qRound(twips * logicalDpiX() / double(TwipsAnInch));
+  FitHeading(col);
+}
+
+int Grid::ColWidth(int col) const {
+  return col >= 0 && col < Cols() ? columns_[At(col)].twips : 0;
+}
+
+// Widths come from another font than the one on screen; a heading that is cut off helps nobody.
+void Grid::FitHeading(int col) {
+  if (col < 0 || col >= Cols()) return;
+  Column& column = columns_[At(col)];
+  if (!model_->Heading(col).isEmpty())
+    column.pixels = std::max(column.pixels, horizontalHeader()->sectionSizeHint(col));
+  StretchLast();
+}
+
+void Grid::HideCol(int col, bool hidden) {
+  if (col < 0 || col >= Cols()) return;
+  setColumnHidden(col, hidden);
+  StretchLast();
+}
+
+bool Grid::ColHidden(int col) const {
+  return isColumnHidden(col);
+}
+
+void Grid::StretchLast() {
+  if (stretching_) return;
+  const QScopedValueRollback stretching(stretching_, true);
+  int last = -1, others = 0;
+  for (int col = 0; col < Cols(); ++col) {
+    if (isColumnHidden(col)) continue;
+    if (last >= 0) others += columns_[At(last)].pixels;
+    last = col;
+  }
+  for (int col = 0; col < Cols(); ++col) {
+    if (isColumnHidden(col)) continue;
+    const int room = col == last ? viewport()->width() - others : 0;
+    setColumnWidth(col, std::max(columns_[At(col)].pixels, room));
+  }
+}
+
+void Grid::AlignRight(int col) {
+  model_->AlignRight(col);
+}
+
+void Grid::SetEditable(int col, int maxLength, const QStringList& choices) {
+  model_->SetEditable(col, maxLength, choices);
+}
+
+void Grid::SetRowData(int row, qint64 data) {
+  model_->SetRowData(row, data);
+}
+
+qint64 Grid::RowData(int row) const {
+  return model_->RowData(row);
+}
+
+void Grid::Sort(int col, Qt::SortOrder order, bool numeric) {
+  if (col < 0 || col >= Cols()) return;
+  EndLoad();
+  Q_EMIT BeforeSort(col);
+  {
+    const QScopedValueRollback quiet(quiet_, true);
+    row_ = model_->Sort(col, order, numeric, row_);
+    horizontalHeader()->setSortIndicatorShown(true);
+    horizontalHeader()->setSortIndicator(col, order);
+    ShowCurrent(true);
+  }
+  Q_EMIT AfterSort(col);
+}
+
+void Grid::SetFilter(const QString& text) {
+  EndLoad();
+  std::vector<int> columns;
+  for (int col = 1; col < Cols(); ++col)
+    if (!isColumnHidden(col)) columns.push_back(col);
+  const QScopedValueRollback quiet(quiet_, true);
+  model_->SetFilter(text, std::move(columns));
+  ShowCurrent(true);
+}
+
+bool Grid::RowHidden(int row) const {
+  return model_->Holds(row, 0) && !model_->IndexOf(row, 0).isValid();
+}
+
+int Grid::FirstVisibleCol() const {
+  for (int col = 1; col < Cols(); ++col)
+    if (!isColumnHidden(col)) return col;
+  return 0;
+}
+
+bool Grid::InStep() const {
+  const QModelIndexList selected = selectionModel()->selectedRows();
+  const QModelIndex current = currentIndex();
+  if (!current.isValid()) return model_->rowCount() == 0;
+  const QModelIndex shown = row_ == 0 ? QModelIndex() : model_->IndexOf(row_, 0);
+  if (!shown.isValid()) return selected.isEmpty() && current.row() == 0;
+  return selected.size() == 1 && selected.front().row() == shown.row() && current.row() == shown.row();
+}
+
+// Brings the view in step with Row(). Without a current row nothing is highlighted, yet the view keeps a current index
+// on its first row: assistive technology asks a table with rows for one.
+void Grid::ShowCurrent(bool scroll) {
+  const QScopedValueRollback quiet(quiet_, true);
+  const int col = currentIndex().isValid() && currentIndex().column() > 0 && !isColumnHidden(currentIndex().column())
+                      ? currentIndex().column()
+                      : FirstVisibleCol();
+  const QModelIndex shown = row_ == 0 ? QModelIndex() : model_->IndexOf(row_, col);
+  if (shown.isValid()) {
+    if (!InStep() || currentIndex().column() != col)
+      selectionModel()->setCurrentIndex(shown, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (scroll) scrollTo(shown);
+    return;
+  }
+  selectionModel()->clearSelection();
+  if (model_->rowCount() > 0) selectionModel()->setCurrentIndex(model_->index(0, col), QItemSelectionModel::NoUpdate);
+}

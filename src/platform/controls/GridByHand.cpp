@@ -1,0 +1,231 @@
+// What a Grid does with keys, clicks and editors.
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
+#include <QPointer>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+
+#include "platform/controls/FormLayout.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/GridModel.h"
+
+// Always one whole row, never none: a press beside the rows and a release change nothing.
+QItemSelectionModel::SelectionFlags Grid::selectionCommand(const QModelIndex& index, const QEvent* event) const {
+  if (!index.isValid() || (event != nullptr && event->type() == QEvent::MouseButtonRelease))
+    return QItemSelectionModel::NoUpdate;
+  return QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows;
+}
+
+void Grid::UserRow(int row) {
+  if (row == row_ || row == 0) return;
+  row_ = row;
+  Q_EMIT SelChange();
+}
+
+// The row that the view itself made current, by assistive technology for instance.
+void Grid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  if (!quiet_ && current.isValid()) UserRow(model_->RowOf(current));
+}
+
+// Lets the view handle an event first and tells of the row afterwards, so that a slot may show a message or load the
+// grid anew without the view being in the middle of something.
+template <class BaseEvent>
+void Grid::ByHand(BaseEvent handle) {
+  const QPointer<Grid> self = this;
+  {
+    const QScopedValueRollback quiet(quiet_, true);
+    handle();
+  }
+  if (!self.isNull()) Adopt();
+}
+
+void Grid::Adopt() {
+  const QModelIndexList selected = selectionModel()->selectedRows();
+  const int chosen = selected.isEmpty() ? 0 : model_->RowOf(selected.front());
+  const int before = row_;
+  if (chosen != 0) row_ = chosen;
+  if (!InStep() || currentIndex().column() == 0) ShowCurrent(false);
+  if (row_ != before) Q_EMIT SelChange();
+}
+
+bool Grid::MoveByKey(int key) {
+  const int rows = model_->rowCount();
+  if (rows == 0) return false;
+  const QModelIndex shown = row_ == 0 ? QModelIndex() : model_->IndexOf(row_, 0);
+  const int page = std::max(1, viewport()->height() / std::max(1, verticalHeader()->defaultSectionSize()) - 1);
+  int target = shown.isValid() ? shown.row() : 0;
+  switch (key) {
+    case Qt::Key_Up:
+      target -= shown.isValid() ? 1 : 0;
+      break;
+    case Qt::Key_Down:
+      target += shown.isValid() ? 1 : 0;
+      break;
+    case Qt::Key_PageUp:
+      target -= shown.isValid() ? page : 0;
+      break;
+    case Qt::Key_PageDown:
+      target += shown.isValid() ? page : 0;
+      break;
+    case Qt::Key_Home:
+      target = 0;
+      break;
+    case Qt::Key_End:
+      target = rows - 1;
+      break;
+    default:
+      return false;
+  }
+  SetRow(model_->RowOf(model_->index(std::clamp(target, 0, rows - 1), 0)));
+  return true;
+}
+
+int Grid::NextEditable(int col, int step) const {
+  for (int next = col; next >= 1 && next < Cols(); next += step)
+    if (model_->IsEditable(next) && !isColumnHidden(next)) return next;
+  return 0;
+}
+
+bool Grid::EditByKey() {
+  if (row_ == 0) return false;
+  const int current = currentIndex().column();
+  const int col = current > 0 && model_->IsEditable(current) ? current : NextEditable(1, 1);
+  if (col == 0) return false;
+  EditCell(row_, col);
+  return true;
+}
+
+void Grid::EditCell(int row, int col) {
+  SetRow(row);
+  const QModelIndex index = model_->IndexOf(row, col);
+  if (!index.isValid() || isColumnHidden(col) || !model_->IsEditable(col)) return;
+  {
+    const QScopedValueRollback quiet(quiet_, true);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  }
+  scrollTo(index);
+  edit(index);
+}
+
+void Grid::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+  const bool moves = hint == QAbstractItemDelegate::EditNextItem || hint == QAbstractItemDelegate::EditPreviousItem;
+  const QPointer<Grid> self = this;
+  QTableView::closeEditor(editor, moves ? QAbstractItemDelegate::NoHint : hint);
+  if (edit_.has_value()) {
+    const Edit done = *std::exchange(edit_, std::nullopt);
+    Q_EMIT AfterEdit(done.row, done.col, done.old);
+  }
+  if (self.isNull() || !moves || state() == QAbstractItemView::EditingState || !hasFocus() || row_ == 0) return;
+  // Tab goes on to the next cell of the row that can be edited.
+  const int step = hint == QAbstractItemDelegate::EditNextItem ? 1 : -1;
+  if (const int next = NextEditable(currentIndex().column() + step, step); next != 0) EditCell(row_, next);
+}
+
+void Grid::CopyRow() const {
+  if (row_ == 0) return;
+  QStringList cells;
+  for (int col = 1; col < Cols(); ++col)
+    if (!isColumnHidden(col)) cells.append(Text(row_, col));
+  QApplication::clipboard()->setText(cells.join(u'\t'));
+}
+
+void Grid::keyPressEvent(QKeyEvent* event) {
+  event->accept();
+  if (event->matches(QKeySequence::Copy)) return CopyRow();
+  const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+  const bool toEnds = event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
+  if ((modifiers == Qt::NoModifier || (toEnds && modifiers == Qt::ControlModifier)) && MoveByKey(event->key())) return;
+  if (event->key() == Qt::Key_F2 && modifiers == Qt::NoModifier && EditByKey()) return;
+  ByHand([&] { QTableView::keyPressEvent(event); });
+}
+
+void Grid::mousePressEvent(QMouseEvent* event) {
+  const QModelIndex index = indexAt(event->position().toPoint());
+  pressed_ = event->button() == Qt::LeftButton && index.isValid() ? std::pair(model_->RowOf(index), index.column())
+                                                                  : std::pair(0, 0);
+  ByHand([&] { QTableView::mousePressEvent(event); });
+}
+
+void Grid::mouseMoveEvent(QMouseEvent* event) {
+  ByHand([&] { QTableView::mouseMoveEvent(event); });
+}
+
+void Grid::mouseReleaseEvent(QMouseEvent* event) {
+  const auto [row, col] = std::exchange(pressed_, {});
+  const QModelIndex index = indexAt(event->position().toPoint());
+  const bool clicked =
+      event->button() == Qt::LeftButton && row != 0 && model_->RowOf(index) == row && index.column() == col;
+  const QPointer<Grid> self = this;
+  ByHand([&] { QTableView::mouseReleaseEvent(event); });
+  if (clicked && !self.isNull()) Q_EMIT CellClick(row, col);
+}
+
+void Grid::mouseDoubleClickEvent(QMouseEvent* event) {
+  pressed_ = {};
+  const QModelIndex index = indexAt(event->position().toPoint());
+  const int row = model_->RowOf(index), col = index.column();
+  const QPointer<Grid> self = this;
+  ByHand([&] { QTableView::mouseDoubleClickEvent(event); });
+  if (row != 0 && event->button() == Qt::LeftButton && !self.isNull()) Q_EMIT CellDoubleClick(row, col);
+}
+
+void Grid::HeadingClicked(int col) {
+  if (col == 0) return;
+  const QHeaderView* heading = horizontalHeader();
+  const bool again = heading->isSortIndicatorShown() && heading->sortIndicatorSection() == col;
+  const bool downwards = again && heading->sortIndicatorOrder() == Qt::AscendingOrder;
+  Sort(col, downwards ? Qt::DescendingOrder : Qt::AscendingOrder, model_->IsNumeric(col));
+}
+
+// Sorting and copying for those who work without the mouse (the menu key opens it).
+void Grid::contextMenuEvent(QContextMenuEvent* event) {
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  QAction* copy = menu->addAction(tr("&Copy row"), QKeySequence::Copy, this, &Grid::CopyRow);
+  copy->setEnabled(row_ != 0);
+  QMenu* sort = menu->addMenu(tr("&Sort by"));
+  for (int col = 1; col < Cols(); ++col) {
+    if (isColumnHidden(col) || model_->Heading(col).isEmpty()) continue;
+    QString caption = model_->Heading(col);
+    sort->addAction(caption.replace(u'&', QLatin1String("&&")), this, [this, col] { HeadingClicked(col); });
+  }
+  sort->setEnabled(!sort->isEmpty());
+  menu->popup(event->globalPos());
+}
+
+// The frame says where the focus is, since no single cell does.
+void Grid::paintEvent(QPaintEvent* event) {
+  QTableView::paintEvent(event);
+  if (!hasFocus()) return;
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
+}
+
+void Grid::focusInEvent(QFocusEvent* event) {
+  ByHand([&] { QTableView::focusInEvent(event); });
+  viewport()->update();
+}
+
+void Grid::focusOutEvent(QFocusEvent* event) {
+  QTableView::focusOutEvent(event);
+  viewport()->update();
+}
+
+void Grid::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  horizontalHeader()->setFixedHeight(fontMetrics().height() + 10);
+}
+
+void Grid::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  StretchLast();
+}

@@ -1,0 +1,103 @@
+#include "platform/files/IniFile.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include "platform/files/IniText.h"
+
+namespace IniFile {
+
+namespace {
+
+constexpr qint64 LargestFile = 16 * 1024 * 1024;  // bytes
+
+bool Load(const QString& path, IniText& text, QString* reason) {
+  const auto fail = [&](const QString& why) {
+    if (reason) *reason = why;
+    return false;
+  };
+  const QFileInfo info(path);
+  if (!info.exists()) return fail(QStringLiteral("The file '%1' does not exist.").arg(path));
+  if (!info.isFile()) return fail(QStringLiteral("'%1' is not a file.").arg(path));
+  if (info.size() > LargestFile)
+    return fail(QStringLiteral("The file '%1' is larger than 16 MB and cannot be a settings file.").arg(path));
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly))
+    return fail(QStringLiteral("The file '%1' cannot be read: %2.").arg(path, file.errorString()));
+  const QByteArray bytes = file.read(LargestFile + 1);
+  if (file.error() != QFileDevice::NoError)
+    return fail(QStringLiteral("The file '%1' cannot be read: %2.").arg(path, file.errorString()));
+  if (!text.Decode(bytes)) return fail(QStringLiteral("The file '%1' is not a text file.").arg(path));
+  return true;
+}
+
+bool Store(const QString& path, const QByteArray& bytes, QString* reason) {
+  QSaveFile file(path);
+  // Committing alone does not notice that the last buffer found no room.
+  const bool stored =
+      file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
+  if (stored) return true;
+  if (reason) *reason = QStringLiteral("The file '%1' cannot be written: %2.").arg(path, file.errorString());
+  return false;
+}
+
+bool HasControl(const QString& text) {
+  return std::any_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 32 && c != '\t'; });
+}
+
+// Why the three would not read back as they were given; empty when they do.
+QString WhyUnwritable(const QString& section, const QString& key, const QString& value) {
+  if (section.trimmed().isEmpty() || section.contains(']') || HasControl(section))
+    return QStringLiteral("'%1' cannot be the name of a section.").arg(section);
+  const QString name = key.trimmed();
+  if (name.isEmpty() || name.contains('=') || HasControl(key) || QStringLiteral(";#[").contains(name.front()))
+    return QStringLiteral("'%1' cannot be the name of a setting.").arg(key);
+  if (HasControl(value))
+    return QStringLiteral("The value of '%1' holds a line break or another control character.").arg(key);
+  return {};
+}
+
+}  // namespace
+
+QString ReadValue(const QString& path, const QString& section, const QString& key, int maxLength) {
+  IniText text;
+  if (!Load(path, text, nullptr)) return {};
+  return text.Value(section, key).left(qMax(0, maxLength));
+}
+
+bool IsReadable(const QString& path, QString* reason) {
+  IniText text;
+  return Load(path, text, reason);
+}
+
+QStringList Sections(const QString& path) {
+  IniText text;
+  return Load(path, text, nullptr) ? text.Sections() : QStringList();
+}
+
+QStringList Keys(const QString& path, const QString& section) {
+  IniText text;
+  return Load(path, text, nullptr) ? text.Keys(section) : QStringList();
+}
+
+bool WriteValue(const QString& path, const QString& section, const QString& key, const QString& value,
+                QString* reason) {
+  const QString unwritable = WhyUnwritable(section, key, value);
+  if (!unwritable.isEmpty()) {
+    if (reason) *reason = unwritable;
+    return false;
+  }
+  IniText text;
+  if (QFileInfo::exists(path) && !Load(path, text, reason)) return false;
+  text.SetValue(section, key, value);
+  QByteArray bytes;
+  if (!text.Encode(bytes)) {
+    if (reason)
+      *reason = QStringLiteral("The value of '%1' has letters that the encoding of '%2' does not know.").arg(key, path);
+    return false;
+  }
+  return Store(path, bytes, reason);
+}
+
+}  // namespace IniFile

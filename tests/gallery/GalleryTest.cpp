@@ -1,0 +1,156 @@
+// Walks through every screen and tab, leaves a picture of each in the light and the dark palette, and compares the
+// names of its controls with the form's data sheet in tests/gallery/sheets: a name that is missing, too many or given
+// twice fails. TABULON_WRITE_SHEETS=1 writes the sheets anew.
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QPalette>
+#include <QTabWidget>
+#include <map>
+
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
+#include "core/Screen.h"
+#include "core/Screens.h"
+#include "support/Desk.h"
+
+namespace {
+
+QPalette DarkPalette() {
+  QPalette dark;
+  const QColor base(35, 38, 41), window(49, 54, 59), text(239, 240, 241), mid(99, 104, 109);
+  dark.setColor(QPalette::Window, window);
+  dark.setColor(QPalette::WindowText, text);
+  dark.setColor(QPalette::Base, base);
+  dark.setColor(QPalette::AlternateBase, window);
+  dark.setColor(QPalette::Text, text);
+  dark.setColor(QPalette::Button, window);
+  dark.setColor(QPalette::ButtonText, text);
+  dark.setColor(QPalette::BrightText, Qt::red);
+  dark.setColor(QPalette::ToolTipBase, window);
+  dark.setColor(QPalette::ToolTipText, text);
+  dark.setColor(QPalette::Link, QColor(41, 128, 185));
+  dark.setColor(QPalette::Highlight, QColor(61, 174, 233));
+  dark.setColor(QPalette::HighlightedText, QColor(20, 22, 24));
+  dark.setColor(QPalette::Mid, mid);
+  dark.setColor(QPalette::PlaceholderText, QColor(160, 164, 168));
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    dark.setColor(QPalette::Disabled, role, QColor(127, 140, 141));
+  return dark;
+}
+
+// Names of all controls of a form that a data sheet lists, sorted, each with its kind.
+QStringList SheetOf(const QWidget& form) {
+  QStringList names;
+  for (const QObject* object : form.findChildren<QObject*>()) {
+    const QString name = object->objectName();
+    const QString kind = object->metaObject()->className();
+    // Parts that the toolkit adds to its own widgets.
+    if (name.isEmpty() || name.startsWith("qt_") || kind.startsWith("QAbstract") || kind.startsWith("QWidgetLine")) continue;
+    names.append(name + " " + kind);
+  }
+  names.sort();
+  return names;
+}
+
+class GalleryTest : public SampleDesk {
+ protected:
+  void SetUp() override {
+    SampleDesk::SetUp();
+    light_ = QApplication::palette();
+    // Every button on: the picture shows what there is.
+    for (const char* key : {"ServerAddress", "AssignCopyrightService", "FindSerialMethod_SoapAction",
+                            "FindSerialMethod_BarcodeParameter", "FindSerialMethod_ShelfmarkParameter",
+                            "RegisterMethod_SoapAction", "RegisterMethod_BarcodeParameter",
+                            "RegisterMethod_DetailParameter", "RegisterMethod_ItemParameter", "ConfirmMethod_SoapAction",
+                            "DebitService", "DebitAccountMethod_SoapAction", "RepliesService", "AddReplyMethod_SoapAction"})
+      Setting("BL Web Services", key, "https://ws.example.org/");
+    Setting("BL Web Services", "Use", "Y");
+  }
+  void TearDown() override {
+    QApplication::setPalette(light_);
+    SampleDesk::TearDown();
+  }
+
+  void Both(const QString& name) {
+    QApplication::setPalette(light_);
+    Picture(name);
+    QApplication::setPalette(DarkPalette());
+    Picture(name + "-dark");
+    QApplication::setPalette(light_);
+  }
+
+  void CompareSheet(const QWidget& form, const QString& sheet) {
+    const QString path = QString(TABULON_SOURCE_DIR) + "/tests/gallery/sheets/" + sheet + ".txt";
+    const QStringList names = SheetOf(form);
+    for (int index = 1; index < names.size(); ++index)
+      EXPECT_NE(names[index].section(' ', 0, 0), names[index - 1].section(' ', 0, 0)) << "a name given twice";
+    if (qEnvironmentVariableIntValue("TABULON_WRITE_SHEETS") == 1) {
+      QFile file(path);
+      ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+      file.write((names.join('\n') + '\n').toUtf8());
+      return;
+    }
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    const QStringList listed = QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts);
+    for (const QString& name : listed) EXPECT_TRUE(names.contains(name)) << "missing: " << name.toStdString();
+    for (const QString& name : names) EXPECT_TRUE(listed.contains(name)) << "too many: " << name.toStdString();
+  }
+
+ private:
+  QPalette light_;
+};
+
+TEST_F(GalleryTest, EveryTabAndSubTabOfTheMainScreen) {
+  Start();
+  Shell().resize(1280, 780);
+  auto* const tabs = Find<QTabWidget>("sstabtables");
+  for (int index = 0; index < frmTabulon::TabCount; ++index) {
+    SelectTab("sstabtables", index);
+    const QString name = "tab-" + QString("%1").arg(index, 2, 10, QChar('0')) + "-" +
+                         QString(tabs->tabText(index)).toLower().replace(' ', '-').replace('/', '-');
+    if (index == 0)
+      ChooseAt("cmb0Tables", Find<CodeComboBox>("cmb0Tables")->IndexOfCode("ID_SERVICE_TYPE"));
+    QWidget* const page = Shell().Page(index);
+    auto* const inner = page ? page->findChild<QTabWidget*>() : nullptr;
+    if (!inner) {
+      Both(name);
+      continue;
+    }
+    for (int sub = 0; sub < inner->count(); ++sub) {
+      SelectTab(inner->objectName(), sub);
+      Both(name + "-" + QString::number(sub));
+    }
+  }
+  CompareSheet(Shell(), "frmTabulon");
+}
+
+TEST_F(GalleryTest, EveryDialog) {
+  Logon();
+  // Dialogs of one library show a real one.
+  const qint32 library = Ask("SELECT MIN(LIBRARY_ID) FROM ID_SUPPLIER").toInt();
+  ASSERT_GT(library, 0);
+  for (const QString& name : RegisteredScreens()) {
+    SCOPED_TRACE(name.toStdString());
+    gclsOF->SetLibraryId(library);
+    glngNCIPLibraryId = library;
+    glngFoundLibraryId = library;
+    gstrCoverRequestType = Ask("SELECT MIN(REQUEST_TYPE) FROM ID_COVER_INFO");
+    const std::unique_ptr<Screen> screen = MakeScreen(name, nullptr);
+    screen->ShowModeless();
+    ASSERT_TRUE(screen->isVisible());
+    EXPECT_LE(screen->width(), 1280);
+    EXPECT_LE(screen->height(), 760);
+    auto* const inner = screen->findChild<QTabWidget*>();
+    for (int sub = 0; inner && sub < inner->count(); ++sub) {
+      inner->setCurrentIndex(sub);
+      Both(name + "-" + QString::number(sub));
+    }
+    if (!inner) Both(name);
+    CompareSheet(*screen, name);
+    gbRecordModified = false;
+  }
+}
+
+}  // namespace
