@@ -39,7 +39,9 @@ void PutCaption(QObject& control, const QString& text, int column) {
 
 }  // namespace
 
-QString CustomText::Value(const QString& key) const { return gclsOF->ReadProfileString(section_, key, path_); }
+QString CustomText::Value(const QString& key) const {
+  return gclsOF->ReadProfileString(section_, key, path_);
+}
 
 QString MissingCustomText(const QString& path) {
   return "Unable to find the Custom Configuration File:\n\n" + path +

@@ -100,7 +100,9 @@ void LibraryScreen::ReadAtLoad() {
     LoadedEmpty();
 }
 
-void LibraryScreen::ApplyRights() { ShowButton(cmdUpdate, gclsOF->CanUpdate()); }
+void LibraryScreen::ApplyRights() {
+  ShowButton(cmdUpdate, gclsOF->CanUpdate());
+}
 
 // Another session of the library screens may have run over this one.
 void LibraryScreen::Form_Activate() {
@@ -249,4 +251,6 @@ bool LibraryScreen::SymbolIsGiven() {
   return Refuse("Library Symbol is a required field.\nPlease enter a value.", txtLibrarySymbol);
 }
 
-QString LibraryScreen::PresentDate() { return gclsOF->SqlDate(Clock::Today()); }
+QString LibraryScreen::PresentDate() {
+  return gclsOF->SqlDate(Clock::Today());
+}

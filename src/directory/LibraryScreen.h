@@ -53,9 +53,10 @@ class LibraryScreen : public Screen {
   virtual bool RecordIsActive() const { return mstrActiveLetter != "N"; }
 
   // --- Building ---
-  // Puts the screen together around its own fields: menu, symbol row, banner, content, buttons. `commands` are its
-  // buttons in the row of Update, Clear and Close besides those.
-  void Compose(QWidget* content, std::initializer_list<QWidget*> commands = {});
+  // Puts the screen together around its own fields: menu, symbol row, banner, content, the ways to other screens
+  // (`doors` besides the siblings), the row of commands.
+  void Compose(QWidget* content, std::initializer_list<QWidget*> commands,
+               std::initializer_list<QPushButton*> doors = {});
   // An entry that clicks the button and mirrors it.
   QAction* AddEntry(QMenu* menu, const QString& name, const QString& caption, QPushButton* button,
                     QAction* before = nullptr);
@@ -142,13 +143,14 @@ class LibraryScreen : public Screen {
 
   void Form_Load() override;
   bool Form_QueryUnload() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void BuildMenu();
   void ConnectControls();
   QWidget* SymbolRow();
   QWidget* Banner();
-  QLayout* NavigationRow();
+  QLayout* NavigationRow(std::initializer_list<QPushButton*> doors);
   void LoadText();
   void ApplyCaller();
   void ReadAtLoad();

@@ -92,7 +92,7 @@ void LibraryScreen::ShowMatches(const QString& text) {
 void LibraryScreen::cmdAdvanced_Click() {
   Run("cmdAdvanced_Click", [this] {
     if (!GuardPassed(facts_.guard.search)) return;
-    ShowModal("frmLibrarySearch", this);
+    ::ShowModal("frmLibrarySearch", this);
     if (gclsOF->LibraryId() >= 1) {
       Display("TextBox");
       if (Read(gclsOF->LibraryId()) == ReadResult::Found) txtLibrarySymbol->SelectAllAndFocus();
@@ -161,7 +161,7 @@ void LibraryScreen::Request_Click(const QString& button, const QString& formName
            MessageStyle::Stop);
       return;
     }
-    ShowModal(formName, this);
+    ::ShowModal(formName, this);
     if (gclsOF->CallingFunction() == "Receive FTP" && gbCloseAfterRequest) Unload();
   });
 }

@@ -14,10 +14,9 @@ const QStringList Maintenance = {"Tabulon", "User Maintenance"};
 const QString BillinRegistration = "frmLibraryBillinInfo.cmdRegistration_Click";
 const QString AddRequestSearch = "frmAddRequest.cmdSearch_Click";
 
-const HandOverTrace FromContact = {"cmdStatistics_Click.Unload frmLibraryrContactInfo - Start",
-                                   "cmdContact_Click.Unload frmLibraryrContactInfo - End",
-                                   "cmdContact_Click.frmLibraryStatisticalInfo.Show - Start",
-                                   "cmdContact_Click.frmLibraryStatisticalInfo.Show - End"};
+const HandOverTrace FromContact = {
+    "cmdStatistics_Click.Unload frmLibraryrContactInfo - Start", "cmdContact_Click.Unload frmLibraryrContactInfo - End",
+    "cmdContact_Click.frmLibraryStatisticalInfo.Show - Start", "cmdContact_Click.frmLibraryStatisticalInfo.Show - End"};
 const HandOverTrace FromLoginAndBilling = {"cmdStatistics_Click.Unload frmLibraryBillinInfo - Start",
                                            "cmdStatistics_Click.Unload frmLibraryBillinInfo - End",
                                            "cmdStatistics_Click.frmLibraryStatisticalInfo.Show - Start",

@@ -14,17 +14,17 @@ inline constexpr std::array AllLibrarySiblings = {LibrarySibling::Registration, 
 // How the other screens reach one of the five.
 struct LibrarySiblingDoor {
   QString formName;
-  QString button;         // object name and, with "_Click", name of its handler
+  QString button;  // object name and, with "_Click", name of its handler
   QString caption;
-  QString entry;          // object name of its entry in mnuDisplay
-  QString failureLine;    // what a failed hand-over leaves in a traced log; empty where nothing is written
+  QString entry;        // object name of its entry in mnuDisplay
+  QString failureLine;  // what a failed hand-over leaves in a traced log; empty where nothing is written
 };
 
 // First lines of the question before changed fields are lost. They differ between the screens on purpose; an empty
 // one asks nothing.
 struct GuardWords {
   QString clear;
-  QString search;         // cmdSearch and cmdAdvanced
+  QString search;  // cmdSearch and cmdAdvanced
   QString close;
   QString request;        // cmdArticle and cmdBook
   QString siblingButton;  // asked by the button before it hands over
@@ -49,9 +49,9 @@ enum class RequestOrder {
 // What one of the five has of its own in the steps that they share.
 struct LibraryScreenFacts {
   QString caption;
-  QString readProcedure;      // name of the procedure that reads the record
-  QString textSection;        // of the custom text file
-  QString textProcedure;      // log name of its reader, as the log readers know it
+  QString readProcedure;  // name of the procedure that reads the record
+  QString textSection;    // of the custom text file
+  QString textProcedure;  // log name of its reader, as the log readers know it
   GuardWords guard;
   RequestOrder requestOrder;
   QStringList noRequestsFor;  // calling applications that place no requests

@@ -86,7 +86,7 @@ void LibraryScreen::BuildMenu() {
   AddEntry(mnuRequest, "mnuRequestBook", "Boo&k", cmdBook);
   const auto about = [this](const QString& name, const QString& caption, const QString& formName) {
     connect(Form::MenuEntry(mnuHelp, name, caption), &QAction::triggered, this,
-            [this, name, formName] { Run(name + "_Click", [&] { ShowModal(formName, this); }); });
+            [this, name, formName] { Run(name + "_Click", [&] { ::ShowModal(formName, this); }); });
   };
   about("mnuHelpAboutOstana", "&About Ostana", "frmAboutOstana");
   about("mnuHelpAboutApplication", "About &Tabulon", "frmAboutApp");
@@ -108,8 +108,8 @@ QWidget* LibraryScreen::SymbolRow() {
   auto* const row = new QWidget(this);
   auto* const line = new QHBoxLayout(row);
   line->setContentsMargins(0, 0, 0, 0);
-  for (QWidget* widget : std::initializer_list<QWidget*>{txtLibrarySymbol, cmbLibrarySymbol, cmdSearch, cmdAdvanced,
-                                                         lblFound, txtFound})
+  for (QWidget* widget :
+       std::initializer_list<QWidget*>{txtLibrarySymbol, cmbLibrarySymbol, cmdSearch, cmdAdvanced, lblFound, txtFound})
     line->addWidget(widget);
   line->addSpacing(12);
   line->addWidget(lblLibraryInactiveMessage);
@@ -133,21 +133,23 @@ QWidget* LibraryScreen::Banner() {
   return banner;
 }
 
-QLayout* LibraryScreen::NavigationRow() {
+QLayout* LibraryScreen::NavigationRow(std::initializer_list<QPushButton*> doors) {
   auto* const row = new QHBoxLayout;
   for (const LibrarySibling sibling : AllLibrarySiblings)
     if (QPushButton* const button = SiblingButton(sibling)) row->addWidget(button);
-  for (QPushButton* button : FurtherDoors()) row->addWidget(button);
+  for (QPushButton* button : doors) row->addWidget(button);
   row->addStretch();
   row->addWidget(cmdArticle);
   row->addWidget(cmdBook);
   return row;
 }
 
-void LibraryScreen::Compose(QWidget* content, const LibraryScreenButtons& own) {
+void LibraryScreen::Compose(QWidget* content, std::initializer_list<QWidget*> commands,
+                            std::initializer_list<QPushButton*> doors) {
   QVBoxLayout* const column = Form::Column(this, {Banner(), content});
   column->setStretch(1, 1);
-  column->addLayout(NavigationRow(own));
+  column->addLayout(NavigationRow(doors));
+  column->addLayout(Form::ButtonRow(commands));
   auto* const bar = new QMenuBar(this);
   for (QMenu* menu : {mnuFile, mnuDisplay, mnuOptions, mnuRequest, mnuHelp}) bar->addMenu(menu);
   column->setMenuBar(bar);

@@ -68,8 +68,10 @@ bool SearchLibrarySymbol(bool recordDisplayed, const QString& displayedSymbol, c
     } else if (libraryId == -1) {
       // The look-up's -1 means a wildcard; to the caller it would mean the record on show.
       libraryId = 0;
-      count = CollectMatches("SELECT   LIBRARY_ID, LIBRARY_SYMBOL " " FROM    " + Sql::Table("ID_LIBRARY") +
-                             " WHERE  LIBRARY_SYMBOL LIKE  " + Pattern(text) + " Order By LIBRARY_SYMBOL");
+      count = CollectMatches(
+          "SELECT   LIBRARY_ID, LIBRARY_SYMBOL "
+          " FROM    " +
+          Sql::Table("ID_LIBRARY") + " WHERE  LIBRARY_SYMBOL LIKE  " + Pattern(text) + " Order By LIBRARY_SYMBOL");
       gstrErrorMessage.clear();
       return true;
     }
@@ -91,8 +93,10 @@ bool SearchSymbol(const QString& text, qint32& libraryId, qint32& count, const Q
     }
     if (libraryId == -1) {
       libraryId = 0;
-      count = CollectMatches(" SELECT   LIBRARY_ID, LIBRARY_SYMBOL " " FROM    " + Sql::Table("ID_LIBRARY") +
-                             " WHERE  " + column + " LIKE  " + Pattern(text) + " Order By " + column + " ");
+      count = CollectMatches(
+          " SELECT   LIBRARY_ID, LIBRARY_SYMBOL "
+          " FROM    " +
+          Sql::Table("ID_LIBRARY") + " WHERE  " + column + " LIKE  " + Pattern(text) + " Order By " + column + " ");
       return true;
     }
   }
