@@ -1,6 +1,7 @@
 #include "core/GridTable.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
@@ -140,15 +141,46 @@ void ShapeGrid(Grid& grid, const GridLayout& layout) {
   }
 }
 
+namespace {
+
+// A load in one piece, ended on every path.
+class GridLoad {
+ public:
+  GridLoad(Grid& grid, qint64 expected) : grid_(grid) {
+    grid_.Clear();
+    grid_.BeginLoad(static_cast<int>(expected));
+  }
+  ~GridLoad() { grid_.EndLoad(); }
+  GridLoad(const GridLoad&) = delete;
+  GridLoad& operator=(const GridLoad&) = delete;
+
+ private:
+  Grid& grid_;
+};
+
+}  // namespace
+
+void FillGridFrom(Grid& grid, Recordset& rows, const std::vector<QString>& fields) {
+  const SkipGridEvents skip;
+  std::vector<std::optional<Field>> columns;
+  for (const QString& field : fields)
+    columns.push_back(field.isEmpty() ? std::nullopt : std::optional<Field>(rows.Fields(field)));
+  const GridLoad load(grid, rows.RecordCount());
+  QStringList cells(static_cast<qsizetype>(columns.size()));
+  for (; !rows.EOF_(); rows.MoveNext()) {
+    for (size_t at = 0; at < columns.size(); ++at)
+      if (columns[at]) cells[static_cast<qsizetype>(at)] = gclsOF->FieldValue(*columns[at]);
+    grid.LoadRow(cells);
+  }
+}
+
 void FillGrid(Grid& grid, const GridRows& rows) {
-  QStringList names;
-  for (const QString& field : rows.fields) names.append(ColumnName(field));
-  FillGrid(grid, rows.statement(), rows.failureLine, [&names](Recordset& record) {
-    QStringList cells;
-    cells.reserve(names.size());
-    for (const QString& name : names) cells.append(name.isEmpty() ? QString() : Value(record, name));
-    return cells;
-  });
+  std::vector<QString> names;
+  for (const QString& field : rows.fields) names.push_back(ColumnName(field));
+  grid.Clear();
+  OpenRows(*grsTable, rows.statement(), rows.failureLine);
+  FillGridFrom(grid, *grsTable, names);
+  grsTable->Close();
 }
 
 void FillGrid(Grid& grid, const QString& statement, const QString& failureLine,
@@ -156,8 +188,9 @@ void FillGrid(Grid& grid, const QString& statement, const QString& failureLine,
   const SkipGridEvents skip;
   grid.Clear();
   OpenRows(*grsTable, statement, failureLine);
-  grid.BeginLoad(static_cast<int>(grsTable->RecordCount()));
-  for (; !grsTable->EOF_(); grsTable->MoveNext()) grid.LoadRow(cells(*grsTable));
-  grid.EndLoad();
+  {
+    const GridLoad load(grid, grsTable->RecordCount());
+    for (; !grsTable->EOF_(); grsTable->MoveNext()) grid.LoadRow(cells(*grsTable));
+  }
   grsTable->Close();
 }

@@ -39,6 +39,8 @@ const GridRows* FindGridRows(const QString& key);
 void ShapeGrid(Grid& grid, const GridLayout& layout);
 // Empties the grid and fills it; the failure line stands in gstrErrorMessage meanwhile.
 void FillGrid(Grid& grid, const GridRows& rows);
+// The cells of an open recordset, by field name from column 1 on; rows are added in one load. The grid is emptied first.
+void FillGridFrom(Grid& grid, Recordset& rows, const std::vector<QString>& fields);
 // The same for a statement put together by the caller, with the cells of each row.
 void FillGrid(Grid& grid, const QString& statement, const QString& failureLine,
               const std::function<QStringList(Recordset&)>& cells);
