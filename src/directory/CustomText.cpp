@@ -39,8 +39,11 @@ void PutCaption(QObject& control, const QString& text, int column) {
 
 }  // namespace
 
+// A value of blanks is a value; around any other blanks mean nothing.
 QString CustomText::Value(const QString& key) const {
-  return gclsOF->ReadProfileString(section_, key, path_);
+  const QString text = gclsOF->ReadProfileString(section_, key, path_);
+  const QString trimmed = text.trimmed();
+  return trimmed.isEmpty() ? text : trimmed;
 }
 
 QString MissingCustomText(const QString& path) {

@@ -9,6 +9,7 @@
 #include "core/OstanaFunctions.h"
 #include "core/Procedure.h"
 #include "core/SqlText.h"
+#include "directory/ColumnValues.h"
 #include "directory/LibraryTextKeys.h"
 
 // --- Frames ---
@@ -236,9 +237,9 @@ bool LibraryScreen::Form_QueryUnload() {
   return gbVetoUnload;
 }
 
-bool LibraryScreen::HasRecordToUpdate() {
+bool LibraryScreen::HasRecordToUpdate(const QString& unchanged) {
   if (!mbRecordModified) {
-    Tell("Nothing has been changed.", MessageStyle::Stop);
+    Tell(unchanged, MessageStyle::Stop);
     return false;
   }
   if (gclsOF->LibraryId() >= 1 && !mstrDisplayedSymbol.isEmpty()) return true;
@@ -253,4 +254,9 @@ bool LibraryScreen::SymbolIsGiven() {
 
 QString LibraryScreen::PresentDate() {
   return gclsOF->SqlDate(Clock::Today());
+}
+
+QString LibraryScreen::UpdateOfRecord(const ColumnValues& values) {
+  return "UPDATE " + Sql::Table("ID_LIBRARY") + " SET      " + values.Assignments() +
+         " WHERE    LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId());
 }

@@ -11,6 +11,7 @@
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/TextBox.h"
 
+class ColumnValues;
 class DateBox;
 class OptionGroup;
 class QCheckBox;
@@ -83,13 +84,15 @@ class LibraryScreen : public Screen {
   bool Refuse(const QString& text, QWidget* box);
   // True when the handler may go on. Empty words ask nothing.
   bool GuardPassed(const QString& firstLine);
-  // "Nothing has been changed." and "A record must be displayed before you can update." in this order; True when
-  // there is something to save.
-  bool HasRecordToUpdate();
+  // The first two tests of Update: that something was changed (`unchanged` is what is said otherwise), and that a
+  // record is on show.
+  bool HasRecordToUpdate(const QString& unchanged = "Nothing has been changed.");
   // "Library Symbol is a required field." and "Please enter a value." on a line of its own.
   bool SymbolIsGiven();
-  // What stands at the start of every UPDATE of the record.
+  // LAST_MODIFIED and DATE_ENTERED of a statement written now.
   static QString PresentDate();
+  // "UPDATE ID_LIBRARY SET ..." of the current library.
+  static QString UpdateOfRecord(const ColumnValues& values);
 
   enum class ReadResult { Found, NoRow, Failed };
   // Reads the library and makes it the current one. A failure has been told and leaves the screen as it stood.

@@ -23,18 +23,6 @@ bool IsSearchable(const QString& text) {
   return true;
 }
 
-// The quoted pattern of a LIKE. What the engines take for a wildcard besides "%" is made an ordinary character; the
-// clause stands only where it is needed.
-QString Pattern(const QString& text) {
-  if (!text.contains('_') && !text.contains('[')) return Sql::National(text);
-  QString pattern;
-  for (const QChar letter : text) {
-    if (letter == '_' || letter == '[' || letter == '!') pattern += '!';
-    pattern += letter;
-  }
-  return Sql::National(pattern) + " ESCAPE '!'";
-}
-
 // Fills gLibraryMatches with the first rows of the statement: id, symbol. Returns their count.
 qint32 CollectMatches(const QString& sql) {
   gLibraryMatches.clear();
@@ -71,7 +59,8 @@ bool SearchLibrarySymbol(bool recordDisplayed, const QString& displayedSymbol, c
       count = CollectMatches(
           "SELECT   LIBRARY_ID, LIBRARY_SYMBOL "
           " FROM    " +
-          Sql::Table("ID_LIBRARY") + " WHERE  LIBRARY_SYMBOL LIKE  " + Pattern(text) + " Order By LIBRARY_SYMBOL");
+          Sql::Table("ID_LIBRARY") + " WHERE  LIBRARY_SYMBOL LIKE  " + LikePattern(text, Sql::National) +
+          " Order By LIBRARY_SYMBOL");
       gstrErrorMessage.clear();
       return true;
     }
@@ -96,7 +85,8 @@ bool SearchSymbol(const QString& text, qint32& libraryId, qint32& count, const Q
       count = CollectMatches(
           " SELECT   LIBRARY_ID, LIBRARY_SYMBOL "
           " FROM    " +
-          Sql::Table("ID_LIBRARY") + " WHERE  " + column + " LIKE  " + Pattern(text) + " Order By " + column + " ");
+          Sql::Table("ID_LIBRARY") + " WHERE  " + column + " LIKE  " + LikePattern(text, Sql::National) + " Order By " +
+          column + " ");
       return true;
     }
   }
@@ -124,4 +114,15 @@ bool FindLibrarySymbol(const QString& text, qint32& libraryId, const QString& co
     gclsOF->WriteLog("Database Statement: " + sql, {}, "S");
   }
   return libraryId >= 1;
+}
+
+// What engines take for a wildcard besides "%" is made an ordinary character; the clause stands only where needed.
+QString LikePattern(const QString& text, QString (*quoted)(const QString&)) {
+  if (!text.contains('_') && !text.contains('[')) return quoted(text);
+  QString pattern;
+  for (const QChar letter : text) {
+    if (letter == '_' || letter == '[' || letter == '!') pattern += '!';
+    pattern += letter;
+  }
+  return quoted(pattern) + " ESCAPE '!'";
 }

@@ -24,3 +24,6 @@ bool SearchSymbol(const QString& text, qint32& libraryId, qint32& count, const Q
 
 // True when a row holds exactly this text in the column; id is -1 when the text holds a wildcard, 0 otherwise.
 bool FindLibrarySymbol(const QString& text, qint32& libraryId, const QString& column);
+
+// The operand of a LIKE: the text as a quoted pattern, in which only "%" is a wildcard.
+QString LikePattern(const QString& text, QString (*quoted)(const QString&));
