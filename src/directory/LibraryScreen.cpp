@@ -260,3 +260,13 @@ QString LibraryScreen::UpdateOfRecord(const ColumnValues& values) {
   return "UPDATE " + Sql::Table("ID_LIBRARY") + " SET      " + values.Assignments() +
          " WHERE    LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId());
 }
+
+void LibraryScreen::TellUpdated() {
+  Tell("Library Symbol: (" + txtLibrarySymbol->Text() + ") has been updated.", MessageStyle::Information);
+  mbRecordModified = false;
+}
+
+qint64 LibraryScreen::ResetLoadBalancing() {
+  return ExecuteUpdate("UPDATE " + Sql::Table("ID_LIBRARY") + " SET      REQUESTS_PROCESSED = 0",
+                       "***** SQL error on ID_LIBRARY (Update) *****");
+}

@@ -64,6 +64,9 @@ class LibraryScreen : public Screen {
   void Enable(QPushButton* button, bool enabled);
   void ShowButton(QPushButton* button, bool shown);
   QPushButton* SiblingButton(LibrarySibling sibling) const { return siblings_.value(sibling); }
+  // The banner's boxes are for reading unless a screen makes them its own.
+  static void MakeReadOnly(TextBox* box);
+  static void MakeEditable(TextBox* box);
   // Any change of these counts as a change of the record, unless code is filling the screen.
   void Watch(std::initializer_list<TextBox*> boxes);
   void Watch(std::initializer_list<CodeComboBox*> boxes);
@@ -93,6 +96,10 @@ class LibraryScreen : public Screen {
   static QString PresentDate();
   // "UPDATE ID_LIBRARY SET ..." of the current library.
   static QString UpdateOfRecord(const ColumnValues& values);
+  // "Library Symbol: (...) has been updated."; nothing is left to save.
+  void TellUpdated();
+  // Sets the request counters of all libraries to 0. Rows found.
+  static qint64 ResetLoadBalancing();
 
   enum class ReadResult { Found, NoRow, Failed };
   // Reads the library and makes it the current one. A failure has been told and leaves the screen as it stood.

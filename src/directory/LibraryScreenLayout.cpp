@@ -29,15 +29,6 @@ void MakeBanner(QLabel* label, const QColor& colour) {
   label->hide();
 }
 
-// A read-only box looks like the window behind it.
-void MakeReadOnly(TextBox* box) {
-  box->setReadOnly(true);
-  QPalette palette = box->palette();
-  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
-  box->setPalette(palette);
-  box->setFocusPolicy(Qt::ClickFocus);
-}
-
 }  // namespace
 
 LibraryScreen::LibraryScreen(LibrarySibling self, QWidget* parent)
@@ -59,6 +50,21 @@ LibraryScreen::LibraryScreen(LibrarySibling self, QWidget* parent)
   MakeBanner(lblLibraryPendingMessage, PendingColour);
   BuildMenu();
   ConnectControls();
+}
+
+// A box that shows only looks like the window behind it.
+void LibraryScreen::MakeReadOnly(TextBox* box) {
+  box->setReadOnly(true);
+  QPalette palette = box->palette();
+  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  box->setPalette(palette);
+  box->setFocusPolicy(Qt::ClickFocus);
+}
+
+void LibraryScreen::MakeEditable(TextBox* box) {
+  box->setReadOnly(false);
+  box->setPalette({});
+  box->setFocusPolicy(Qt::StrongFocus);
 }
 
 // --- Menu ---

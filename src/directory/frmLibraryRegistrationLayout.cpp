@@ -51,12 +51,6 @@ void Embolden(QLabel* label) {
   label->setFont(bold);
 }
 
-void MakeEditable(TextBox* box) {
-  box->setReadOnly(false);
-  box->setPalette({});
-  box->setFocusPolicy(Qt::StrongFocus);
-}
-
 }  // namespace
 
 frmLibraryRegistration::frmLibraryRegistration(QWidget* parent)
