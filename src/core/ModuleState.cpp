@@ -13,6 +13,7 @@ void ResetModuleState() {
   gintDecimalSeparatorKey = u'.';
   gcolLanguageCode.clear();
   gcolLanguageDesc.clear();
+  gstrDefaultLanguageCode.clear();
 
   gbSkipGridEvents = false;
   gbSkipActivate = false;
@@ -32,6 +33,7 @@ void ResetModuleState() {
   glngFoundLibraryId = 0;
   gbSettingsChanged = false;
   gstrISO18626ConnectionId.clear();
+  gbISO18626SelectionMode = true;
 
   gbUseWebService = false;
   gstrWebServiceName.clear();

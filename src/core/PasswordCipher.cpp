@@ -105,9 +105,11 @@ QString PasswordCipherHelper::Decode(const QString& encoded) {
   if (encoded.isEmpty()) return {};
   const QByteArray text = encoded.toLatin1();
   if (!text.startsWith(Mark)) Fail("The password was not encoded by this system.");
-  const auto box = QByteArray::fromBase64Encoding(text.sliced(Mark.size()), QByteArray::AbortOnBase64DecodingErrors);
+  const QByteArray letters = text.sliced(Mark.size());
+  const QByteArray box = QByteArray::fromBase64(letters);
   QByteArray plain;
-  if (!box || !Unseal(Key(), *box, plain))
+  // One box has one writing only: the last letter's spare bits count too.
+  if (box.toBase64() != letters || !Unseal(Key(), box, plain))
     Fail(QStringLiteral("The password was not encoded with the key file '%1', or was changed.").arg(keyFile_));
   return QString::fromUtf8(plain);
 }

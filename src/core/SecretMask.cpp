@@ -24,7 +24,12 @@ bool NamesSecretColumn(const QString& text) {
 // Walks the tokens of a text that may begin with words that are no SQL.
 class Masker {
  public:
-  explicit Masker(std::vector<SqlToken> tokens) : tokens_(std::move(tokens)) {}
+  // What stands in a comment is not understood, so it is masked whole.
+  explicit Masker(std::vector<SqlToken> tokens) : tokens_(std::move(tokens)) {
+    for (SqlToken& token : tokens_) {
+      if (token.kind == SqlToken::Comment) token.text = Mask;
+    }
+  }
 
   QString Masked() {
     while (at_ < tokens_.size()) {

@@ -20,7 +20,7 @@ class ShellTest : public Desk {
     ChooseAt("cmb0Tables", Find<CodeComboBox>("cmb0Tables")->IndexOfCode("ID_LIBRARY_CAT"));
   }
   void Rights(const QString& add, const QString& update, const QString& remove) {
-    Another("UPDATE ID_USER_FUNCTION SET CAN_ADD = '" + add + "', CAN_UPDATE = '" + update + "', CAN_DELETE = '" +
+    Another("UPDATE ID_USER_FUNCTION SET ADD_FLAG = '" + add + "', UPDATE_FLAG = '" + update + "', DELETE_FLAG = '" +
             remove + "' WHERE FUNCTION_NAME = 'Tabulon'");
   }
 };

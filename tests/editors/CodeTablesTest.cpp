@@ -55,7 +55,7 @@ TEST_F(CodeTablesTest, ANewRowIsStoredInEveryLanguageAndIsSelected) {
   Mode("ID_LIBRARY_CAT", "F");
   Start();
   Pick("ID_LIBRARY_CAT");
-  Type("txt0Code", " q9 ");
+  Type("txt0Code", "q9");
   Type("txt0Description", "  O'Neill \\ \"quoted\"; -- text  ");
   EXPECT_TRUE(gbRecordModified);
   Prompt().Expect("Record Added", 64);

@@ -7,6 +7,11 @@
 #include <memory>
 
 #include "core/frmTabulon.h"
+#include "platform/controls/CodeComboBox.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/MemoBox.h"
+#include "platform/controls/TextBox.h"
+#include "support/Printing.h"
 #include "support/Script.h"
 #include "support/TestDatabase.h"
 

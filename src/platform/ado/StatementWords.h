@@ -25,8 +25,9 @@ void LimitForTop(Tokens& tokens);
 void FullVerbs(Tokens& tokens);
 // Words beginning with ID_ become upper case: the form in which tables were created.
 void UpperTableNames(Tokens& tokens);
-// LIKE becomes `operation`; `suffix` follows the pattern unless a word of the suffix's kind stands there already.
-void Patterns(Tokens& tokens, const QString& operation, const QString& suffix);
+// LIKE becomes `operation`; the pattern takes the collation where one is given, and `escape` in the place of the
+// backslash that engines take for an escape otherwise.
+void Patterns(Tokens& tokens, const QString& operation, const QString& collation, const QString& escape);
 // In CREATE TABLE and ALTER TABLE the column type `from` becomes `to`.
 void ColumnType(Tokens& tokens, const char* from, const QString& to);
 

@@ -40,6 +40,8 @@ class CodeComboBox : public QComboBox {
   bool IsNone() const;
   bool IsEmptyOrNone() const { return Text().trimmed().isEmpty() || IsNone(); }
 
+  void showPopup() override;
+
  Q_SIGNALS:
   // The user picked an entry, the one already chosen included. Choosing by code emits nothing.
   void Click();
@@ -48,7 +50,6 @@ class CodeComboBox : public QComboBox {
  protected:
   void focusInEvent(QFocusEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
-  void showPopup() override;
   void wheelEvent(QWheelEvent* event) override;  // scrolls the page, never the choice, unless focused
 
  private:

@@ -76,7 +76,8 @@ void Grid::SetCols(int count) {
 
 void Grid::ResetColumns() {
   columns_.assign(At(Cols()), {});
-  horizontalHeader()->setSortIndicatorShown(false);
+  sorted_.reset();
+  ShowSorted();
   for (int col = 0; col < Cols(); ++col) {
     setColumnHidden(col, false);
     SetColWidth(col, DefaultTwips);
@@ -88,8 +89,8 @@ void Grid::Clear() {
   loading_ = false;
   row_ = 0;
   model_->Clear();
-  horizontalHeader()->setSortIndicatorShown(false);
-  horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  sorted_.reset();
+  ShowSorted();
 }
 
 void Grid::SetRow(int row) {
@@ -250,11 +251,17 @@ void Grid::Sort(int col, Qt::SortOrder order, bool numeric) {
   {
     const QScopedValueRollback quiet(quiet_, true);
     row_ = model_->Sort(col, order, numeric, row_);
-    horizontalHeader()->setSortIndicatorShown(true);
-    horizontalHeader()->setSortIndicator(col, order);
+    sorted_ = {col, order};
+    ShowSorted();
     ShowCurrent(true);
   }
   Q_EMIT AfterSort(col);
+}
+
+void Grid::ShowSorted() {
+  horizontalHeader()->setSortIndicatorShown(sorted_.has_value());
+  const auto [col, order] = sorted_.value_or(std::pair(-1, Qt::AscendingOrder));
+  horizontalHeader()->setSortIndicator(col, order);
 }
 
 void Grid::SetFilter(const QString& text) {

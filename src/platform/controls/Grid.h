@@ -126,6 +126,7 @@ class Grid : public QTableView {
   bool EditByKey();
   void CopyRow() const;
   void HeadingClicked(int col);
+  void ShowSorted();
   void FitHeading(int col);
   void StretchLast();
   int FirstVisibleCol() const;
@@ -138,5 +139,6 @@ class Grid : public QTableView {
   bool loading_ = false;
   bool stretching_ = false;
   std::pair<int, int> pressed_;  // row and column of a press whose release is to come
-  std::optional<Edit> edit_;     // of an editor that is about to close
+  std::optional<std::pair<int, Qt::SortOrder>> sorted_;
+  std::optional<Edit> edit_;  // of an editor that is about to close
 };

@@ -176,10 +176,9 @@ void Grid::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void Grid::HeadingClicked(int col) {
-  if (col == 0) return;
-  const QHeaderView* heading = horizontalHeader();
-  const bool again = heading->isSortIndicatorShown() && heading->sortIndicatorSection() == col;
-  const bool downwards = again && heading->sortIndicatorOrder() == Qt::AscendingOrder;
+  // The heading has turned its own mark already; what counts is how the rows stand.
+  if (col == 0) return ShowSorted();
+  const bool downwards = sorted_ == std::pair(col, Qt::AscendingOrder);
   Sort(col, downwards ? Qt::DescendingOrder : Qt::AscendingOrder, model_->IsNumeric(col));
 }
 

@@ -23,13 +23,12 @@ void GridModel::SetColumns(int count) {
 }
 
 void GridModel::Clear() {
-  const int seen = rowCount();
-  if (seen > 0) beginRemoveRows({}, 0, seen - 1);
+  beginResetModel();
   rows_.clear();
   rows_.shrink_to_fit();
   shown_.clear();
   announced_ = 0;
-  if (seen > 0) endRemoveRows();
+  endResetModel();
 }
 
 QStringView GridModel::Cell(int row, int col) const {

@@ -1,0 +1,84 @@
+#include "core/ModuleState.h"
+
+#include <QRegularExpression>
+
+#include "core/OstanaFunctions.h"
+#include "core/WebServiceSettings.h"
+#include "core/WorkFolder.h"
+#include "platform/ado/Recordset.h"
+
+namespace {
+
+QString SourceText(const QString& name) {
+  QFile file(QStringLiteral(TABULON_SOURCE_DIR "/src/core/") + name);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  return QString::fromUtf8(file.readAll());
+}
+
+}  // namespace
+
+TEST(ModuleStateTest, EveryVariableIsReset) {
+  const QString reset = SourceText("ModuleState.cpp");
+  static const QRegularExpression variable("^inline [^;=]*\\b(\\w+)(?: = [^;]+)?;",
+                                           QRegularExpression::MultilineOption);
+  int variables = 0;
+  for (const char* header : {"ModuleState.h", "WebServiceSettings.h"}) {
+    auto match = variable.globalMatch(SourceText(header));
+    while (match.hasNext()) {
+      const QString name = match.next().captured(1);
+      EXPECT_TRUE(reset.contains(QRegularExpression("\\b" + name + "( =|\\.(clear|Reset)\\()"))) << name.toStdString();
+      ++variables;
+    }
+  }
+  EXPECT_GE(variables, 28);
+}
+
+TEST(ModuleStateTest, ResetBringsTheInitialValuesBack) {
+  gstrErrorMessage = "text";
+  gstrDecimalSeparator = ",";
+  gintDecimalSeparatorKey = 44;
+  gcolLanguageCode << "FRE";
+  gbRecordModified = true;
+  gbISO18626SelectionMode = false;
+  glngNCIPLibraryId = 5;
+  gstrWebServiceName = "BL";
+  gbUseWebService = true;
+  gWebService.deliveredCode = "X";
+  ResetModuleState();
+  EXPECT_TRUE(gstrErrorMessage.isEmpty());
+  EXPECT_EQ(gstrDecimalSeparator, ".");
+  EXPECT_EQ(gintDecimalSeparatorKey, 46);
+  EXPECT_TRUE(gcolLanguageCode.isEmpty());
+  EXPECT_FALSE(gbRecordModified);
+  EXPECT_TRUE(gbISO18626SelectionMode);
+  EXPECT_EQ(glngNCIPLibraryId, 0);
+  EXPECT_TRUE(gstrWebServiceName.isEmpty());
+  EXPECT_FALSE(gbUseWebService);
+  EXPECT_EQ(gWebService.deliveredCode, "DEL");
+}
+
+TEST(ModuleStateTest, CommonServicesAndRecordsetAreMadeNew) {
+  gclsOF->SetLibraryId(7);
+  const Recordset* const before = &*grsTable;
+  EXPECT_EQ(before, &*grsTable);
+  ResetModuleState();
+  EXPECT_EQ(gclsOF->LibraryId(), 0);
+  ResetModuleState();
+}
+
+TEST(ModuleStateTest, GuardsBringTheFormerValueBack) {
+  {
+    const SkipGridEvents outer;
+    {
+      const SkipGridEvents inner;
+      EXPECT_TRUE(gbSkipGridEvents);
+    }
+    EXPECT_TRUE(gbSkipGridEvents);
+  }
+  EXPECT_FALSE(gbSkipGridEvents);
+  {
+    const FillingFields filling;
+    EXPECT_TRUE(gbFillingFields);
+  }
+  EXPECT_FALSE(gbFillingFields);
+}

@@ -1,0 +1,134 @@
+#include "platform/controls/MemoBox.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QSignalSpy>
+
+#include "platform/Window.h"
+#include "platform/controls/TextBox.h"
+
+namespace {
+
+class MemoBoxTest : public testing::Test {
+ protected:
+  MemoBox* Make(int maxLength = 0) {
+    memo = window.Add(new MemoBox(&window, "txtNote", maxLength));
+    next = window.Add(new TextBox(&window, "txtNext"));
+    window.Show();
+    memo->setFocus();
+    return memo;
+  }
+
+  void Paste(const QString& text) {
+    QApplication::clipboard()->setText(text);
+    QTest::keySequence(memo, QKeySequence::Paste);
+  }
+
+  Window window;
+  MemoBox* memo = nullptr;
+  TextBox* next = nullptr;
+};
+
+TEST_F(MemoBoxTest, LimitStopsTypingAndCountsALineEndOnce) {
+  Make(4);
+  QTest::keyClicks(memo, "ab");
+  QTest::keyClick(memo, Qt::Key_Return);
+  QTest::keyClicks(memo, "cd");
+  EXPECT_EQ(memo->Text(), "ab\nc");
+  QTest::keyClick(memo, Qt::Key_Return);
+  EXPECT_EQ(memo->Text(), "ab\nc");
+}
+
+TEST_F(MemoBoxTest, LimitCutsWhatIsPasted) {
+  Make(5);
+  Paste("ab\r\ncdef");
+  EXPECT_EQ(memo->Text(), "ab\ncd");
+  memo->selectAll();
+  Paste("1234567");
+  EXPECT_EQ(memo->Text(), "12345");
+}
+
+TEST_F(MemoBoxTest, LimitNeverHalvesASurrogatePair) {
+  Make(3);
+  Paste("ab" + QString::fromUcs4(U"\U0001F4DA"));
+  EXPECT_EQ(memo->Text(), "ab");
+}
+
+TEST_F(MemoBoxTest, TypingReplacesASelectionInAFullBox) {
+  Make(3)->SetText("abc");
+  memo->selectAll();
+  QTest::keyClicks(memo, "x");
+  EXPECT_EQ(memo->Text(), "x");
+}
+
+TEST_F(MemoBoxTest, ControlCharactersNeverEnterByPasteTabsDo) {
+  Make();
+  Paste(QStringLiteral("a\u0002b\tc\u2028d") + QChar(0));
+  EXPECT_EQ(memo->Text(), "ab\tc\nd");
+}
+
+TEST_F(MemoBoxTest, TabMovesTheFocus) {
+  QTest::keyClick(Make(), Qt::Key_Tab);
+  EXPECT_TRUE(next->hasFocus());
+  EXPECT_EQ(memo->Text(), "");
+}
+
+TEST_F(MemoBoxTest, FillingByCodeIsChangeButNotEdited) {
+  Make();
+  QSignalSpy changed(memo, &MemoBox::Change), edited(memo, &MemoBox::Edited);
+  memo->SetText("one\r\ntwo");
+  EXPECT_EQ(memo->Text(), "one\ntwo");
+  EXPECT_EQ(changed.count(), 1);
+  memo->SetText("one\ntwo");
+  EXPECT_EQ(changed.count(), 1);
+  EXPECT_EQ(edited.count(), 0);
+  QTest::keyClicks(memo, "x");
+  EXPECT_EQ(edited.count(), 1);
+  EXPECT_EQ(changed.count(), 2);
+}
+
+TEST_F(MemoBoxTest, KeyPressMayRefuseAKeyThatEntersText) {
+  Make();
+  int asked = 0;
+  bool refuseAll = true;
+  QObject::connect(memo, &MemoBox::KeyPress, memo, [&](bool& refuse) {
+    ++asked;
+    refuse = refuseAll;
+  });
+  QTest::keyClicks(memo, "a");
+  QTest::keyClick(memo, Qt::Key_Return);
+  EXPECT_EQ(asked, 2);
+  EXPECT_EQ(memo->Text(), "");
+  QTest::keyClick(memo, Qt::Key_Left);
+  EXPECT_EQ(asked, 2);
+  refuseAll = false;
+  QTest::keyClicks(memo, "a");
+  EXPECT_EQ(asked, 3);
+  EXPECT_EQ(memo->Text(), "a");
+}
+
+TEST_F(MemoBoxTest, ComposedTextKeepsTheLimit) {
+  Make(3);
+  QInputMethodEvent event;
+  event.setCommitString("abcd");
+  QApplication::sendEvent(memo, &event);
+  EXPECT_EQ(memo->Text(), "abc");
+}
+
+TEST_F(MemoBoxTest, TrimsInPlace) {
+  Make()->SetText("\n a \n");
+  EXPECT_EQ(memo->TrimInPlace(), "a");
+  EXPECT_EQ(memo->Text(), "a");
+}
+
+TEST_F(MemoBoxTest, GotFocusByTab) {
+  Make();
+  QSignalSpy got(memo, &MemoBox::GotFocus);
+  next->setFocus();
+  QTest::keyClick(next, Qt::Key_Tab, Qt::ShiftModifier);
+  EXPECT_EQ(got.count(), 1);
+}
+
+}  // namespace

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <memory>
+
+#include "platform/ado/Connection.h"
+
+// A database of its own for a case: the full schema, the reference rows, the languages ENG, FRE and GER, and the user
+// "admin" with the password "secret" and all rights; with `sample`, the rows of the sample site as well. It lies on the
+// engine that TABULON_TEST_ENGINE names (sqlite, postgresql, mariadb; SQLite when it is not set), reached as
+// tests/support/with-engine tells, and is gone with the object.
+class TestDatabase {
+ public:
+  explicit TestDatabase(bool sample = false);
+  ~TestDatabase();
+  TestDatabase(const TestDatabase&) = delete;
+  TestDatabase& operator=(const TestDatabase&) = delete;
+
+  const ConnectionSettings& Settings() const { return settings_; }
+  // The section [Database] of a settings file.
+  QString IniSection() const;
+  // A second connection, as another program would have.
+  Connection& OtherClient();
+
+  static Engine TestEngine();
+  // Settings of an empty database that does not exist yet, on the engine of the test.
+  static ConnectionSettings FreshSettings(const QString& folder);
+  // Removes a database that was made from such settings.
+  static void Remove(const ConnectionSettings& settings);
+  static QString IniSection(const ConnectionSettings& settings);
+
+ private:
+  ConnectionSettings settings_;
+  std::unique_ptr<Connection> other_;
+};
