@@ -61,7 +61,7 @@ void FieldList::FillFromRow(const Grid& grid, int row) const {
 
 bool FieldList::EqualsRow(const Grid& grid, int row) const {
   for (const BoundField& field : fields_)
-    if (field.get() != grid.Text(row, field.column)) return false;
+    if (const QString cell = grid.Text(row, field.column); KeepLineEnds(field.get(), cell) != cell) return false;
   return true;
 }
 
@@ -98,6 +98,19 @@ void WatchAnyChange(TextBox* box) {
     gstrErrorMessage.clear();
     if (!gbFillingFields) gbRecordModified = true;
   });
+}
+
+void PassFocusOn(TextBox* box, QWidget* next) {
+  box->setReadOnly(true);
+  box->setFocusPolicy(Qt::ClickFocus);
+  QObject::connect(box, &TextBox::GotFocus, next, [next] { next->setFocus(); });
+}
+
+QString KeepLineEnds(const QString& text, const QString& stored) {
+  const auto lines = [](QString any) {
+    return any.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  };
+  return lines(text) == lines(stored) ? stored : text;
 }
 
 void KeepRowOnSort(Grid* grid) {
