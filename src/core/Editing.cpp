@@ -33,9 +33,11 @@ FieldList& FieldList::Add(MemoBox* box, int column, Trim trim) {
 }
 
 FieldList& FieldList::Add(OptionGroup* pair, int column, const QString& no) {
-  fields_.push_back({nullptr, column,
-                     [pair, no] { return pair->IsSet(0) ? QString("Y") : pair->IsSet(1) ? no : QString(); },
-                     [pair](const QString& text) { pair->Select(text == "Y" ? 0 : 1); }, [] {}, [pair] { pair->Unset(); }});
+  fields_.push_back(
+      {nullptr, column, [pair, no] { return pair->IsSet(0)   ? QString("Y")
+                                            : pair->IsSet(1) ? no
+                                                             : QString(); },
+       [pair](const QString& text) { pair->Select(text == "Y" ? 0 : 1); }, [] {}, [pair] { pair->Unset(); }});
   return *this;
 }
 

@@ -186,8 +186,7 @@ bool Audit::Audit_Update() {
 }
 
 QString Audit::UpdateStatement(const Kind& kind) const {
-  const QString flag =
-      &kind == &functions_ ? ", STAT_FUNCTION_DISP = " + Sql::National(FlagLetter()) : QString();
+  const QString flag = &kind == &functions_ ? ", STAT_FUNCTION_DISP = " + Sql::National(FlagLetter()) : QString();
   return "UPDATE   " + Sql::Table(kind.table) + " " + "SET      " + kind.codeColumn + "_DESC" +
          gclsOF->LanguageSuffix() + " = " + Sql::NationalOr(kind.description->Text(), "NULL") + flag + " " +
          "WHERE    " + kind.codeColumn + " = " + Sql::National(kind.code->Text());

@@ -276,9 +276,8 @@ bool AutoRejects::AutoRejects_Delete() {
       txt4Code->setFocus();
       return;
     }
-    ExecuteInTransaction(
-        "DELETE FROM " + Sql::Table(TableName()) + " WHERE " + gstrField + " = " + Sql::Plain(code),
-        FailureLine("DELETE"));
+    ExecuteInTransaction("DELETE FROM " + Sql::Table(TableName()) + " WHERE " + gstrField + " = " + Sql::Plain(code),
+                         FailureLine("DELETE"));
     shell().LoadDataInGrid();
     AutoRejects_Clear();
     Tell("Record Deleted", MessageStyle::Information);

@@ -95,16 +95,16 @@ void Departments::LoadGrid() {
   const QString one = cmbShowDepartments->IsEmptyOrNone()
                           ? QString()
                           : "AND      L.LIBRARY_SYMBOL = " + Sql::National(cmbShowDepartments->Code()) + " ";
-  FillGrid(*grd2Department,
-           {GridKey(),
-            [&] {
-              return "SELECT   D.DEPARTMENT, D." + description +
-                     ", D.DEPARTMENT_ADDR, D.NCIP_DEPARTMENT, L.LIBRARY_SYMBOL " + "FROM " +
-                     Sql::Table("ID_DEPARTMENT") + " D, " + Sql::Table("ID_LIBRARY") + " L " +
-                     "WHERE    L.LIBRARY_ID = D.LIBRARY_ID " + one + "ORDER BY L.LIBRARY_SYMBOL, D.DEPARTMENT";
-            },
-            "***** SQL error on OSTANA.ID_DEPARTMENT (Select) *****",
-            {"LIBRARY_SYMBOL", "DEPARTMENT", description, "DEPARTMENT_ADDR", "NCIP_DEPARTMENT"}});
+  FillGrid(*grd2Department, {GridKey(),
+                             [&] {
+                               return "SELECT   D.DEPARTMENT, D." + description +
+                                      ", D.DEPARTMENT_ADDR, D.NCIP_DEPARTMENT, L.LIBRARY_SYMBOL " + "FROM " +
+                                      Sql::Table("ID_DEPARTMENT") + " D, " + Sql::Table("ID_LIBRARY") + " L " +
+                                      "WHERE    L.LIBRARY_ID = D.LIBRARY_ID " + one +
+                                      "ORDER BY L.LIBRARY_SYMBOL, D.DEPARTMENT";
+                             },
+                             "***** SQL error on OSTANA.ID_DEPARTMENT (Select) *****",
+                             {"LIBRARY_SYMBOL", "DEPARTMENT", description, "DEPARTMENT_ADDR", "NCIP_DEPARTMENT"}});
 }
 
 void Departments::grd2Department_SelChange() {
@@ -115,9 +115,13 @@ void Departments::grd2Department_SelChange() {
   txt2Department->setFocus();
 }
 
-void Departments::FindDepartmentLibraryId() { glngDepartmentLibraryId_ = LibrarySymbol::IdOf(*txt2LibrarySymbol); }
+void Departments::FindDepartmentLibraryId() {
+  glngDepartmentLibraryId_ = LibrarySymbol::IdOf(*txt2LibrarySymbol);
+}
 
-QString Departments::WhereLibrary() const { return "AND      LIBRARY_ID = " + Sql::Number(glngDepartmentLibraryId_); }
+QString Departments::WhereLibrary() const {
+  return "AND      LIBRARY_ID = " + Sql::Number(glngDepartmentLibraryId_);
+}
 
 QString Departments::DepartmentOfDescription(const QString& failureLine) const {
   return FirstValue(QString("SELECT   DEPARTMENT ") + "FROM " + Sql::Table("ID_DEPARTMENT") + " " +
@@ -226,9 +230,10 @@ bool Departments::KeyIsThatOfRow(int row) {
   if (txt2Department->Text() == grd2Department->Text(row, Department) &&
       txt2LibrarySymbol->Text() == grd2Department->Text(row, Symbol))
     return true;
-  Tell("Only the Description, Address, and NCIP department may be updated.\n\n"
-       "If you wish to change the Department or Library Symbol the record must be deleted and a new record added.",
-       MessageStyle::Warning);
+  Tell(
+      "Only the Description, Address, and NCIP department may be updated.\n\n"
+      "If you wish to change the Department or Library Symbol the record must be deleted and a new record added.",
+      MessageStyle::Warning);
   fields_.FillFromRow(*grd2Department, row);
   gbRecordModified = false;
   txt2Description->setFocus();

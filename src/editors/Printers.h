@@ -39,6 +39,7 @@ class Printers : public TabPage {
 
   TextBox* const txt3Printer = new TextBox(this, "txt3Printer", 40);
   TextBox* const txt3Device = new TextBox(this, "txt3Device", 80);
-  QPushButton* const cmd3Select = Form::Button(this, "cmd3Select", "D&evice", "Choose the device in the printer dialog");
+  QPushButton* const cmd3Select =
+      Form::Button(this, "cmd3Select", "D&evice", "Choose the device in the printer dialog");
   Grid* const grd3Printer = new Grid(this, "grd3Printer", 3);
 };

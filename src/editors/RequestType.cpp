@@ -79,17 +79,16 @@ void RequestType::RequestType_Tab() {
 
 void RequestType::LoadGrid() {
   const QString description = "REQUEST_TYPE_DESC" + gclsOF->LanguageSuffix();
-  FillGrid(*grd9RequestType,
-           {GridKey(),
-            // A type without a library is listed as well.
-            [&] {
-              return "SELECT L.LIBRARY_SYMBOL, RT.REQUEST_TYPE, RT." + description +
-                     ", RT.INVOICE_FLAG, RT.CUSTOMER_ID " + "FROM " + Sql::Table("ID_REQUEST_TYPE") +
-                     " RT LEFT JOIN " + Sql::Table("ID_LIBRARY") + " L ON L.LIBRARY_ID = RT.LIBRARY_ID " +
-                     "ORDER BY RT.REQUEST_TYPE";
-            },
-            "***** SQL error on OSTANA.ID_REQUEST_TYPE (Select) *****",
-            {"REQUEST_TYPE", description, "LIBRARY_SYMBOL", "", "INVOICE_FLAG", "CUSTOMER_ID"}});
+  FillGrid(*grd9RequestType, {GridKey(),
+                              // A type without a library is listed as well.
+                              [&] {
+                                return "SELECT L.LIBRARY_SYMBOL, RT.REQUEST_TYPE, RT." + description +
+                                       ", RT.INVOICE_FLAG, RT.CUSTOMER_ID " + "FROM " + Sql::Table("ID_REQUEST_TYPE") +
+                                       " RT LEFT JOIN " + Sql::Table("ID_LIBRARY") +
+                                       " L ON L.LIBRARY_ID = RT.LIBRARY_ID " + "ORDER BY RT.REQUEST_TYPE";
+                              },
+                              "***** SQL error on OSTANA.ID_REQUEST_TYPE (Select) *****",
+                              {"REQUEST_TYPE", description, "LIBRARY_SYMBOL", "", "INVOICE_FLAG", "CUSTOMER_ID"}});
   LoadCustomers();
 }
 
@@ -123,7 +122,9 @@ void RequestType::grd9RequestType_SelChange() {
   txt9Description->setFocus();
 }
 
-QString RequestType::FlagLetter() const { return cmb9InvoiceFlag->Index() == 0 ? "Y" : "N"; }
+QString RequestType::FlagLetter() const {
+  return cmb9InvoiceFlag->Index() == 0 ? "Y" : "N";
+}
 
 void RequestType::cmb9InvoiceFlag_Click() {
   gstrErrorMessage.clear();
@@ -176,7 +177,9 @@ bool RequestType::EqualsRow(int row) const {
          cmb9CustomerID->Code() == grd9RequestType->Text(row, CustomerCode);
 }
 
-void RequestType::FindRequestLibraryId() { glngRequestLibraryId_ = LibrarySymbol::IdOf(*txt9LibrarySymbol); }
+void RequestType::FindRequestLibraryId() {
+  glngRequestLibraryId_ = LibrarySymbol::IdOf(*txt9LibrarySymbol);
+}
 
 // The customer id whose description is on show, read anew; of equal descriptions the one that was chosen.
 QString RequestType::StoredCustomer() const {
@@ -193,11 +196,10 @@ QString RequestType::StoredCustomer() const {
 
 QString RequestType::UpdateStatement(const QString& customer) const {
   return "UPDATE   " + Sql::Table("ID_REQUEST_TYPE") + " " + "SET      REQUEST_TYPE_DESC" + gclsOF->LanguageSuffix() +
-         " = " + Sql::NationalOr(txt9Description->Text(), "NULL") + ", " + "LIBRARY_ID = " +
-         (glngRequestLibraryId_ > 0 ? Sql::Number(glngRequestLibraryId_) : QString("Null")) + ", " +
-         "INVOICE_FLAG = " + Sql::National(FlagLetter()) + ", " +
-         "CUSTOMER_ID = " + Sql::NationalOr(customer, "NULL") + " " +
-         "WHERE    REQUEST_TYPE = " + Sql::National(txt9Code->Text());
+         " = " + Sql::NationalOr(txt9Description->Text(), "NULL") + ", " +
+         "LIBRARY_ID = " + (glngRequestLibraryId_ > 0 ? Sql::Number(glngRequestLibraryId_) : QString("Null")) + ", " +
+         "INVOICE_FLAG = " + Sql::National(FlagLetter()) + ", " + "CUSTOMER_ID = " + Sql::NationalOr(customer, "NULL") +
+         " " + "WHERE    REQUEST_TYPE = " + Sql::National(txt9Code->Text());
 }
 
 void RequestType::WriteRow(int row, const QString& customer) {

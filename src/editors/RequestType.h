@@ -8,8 +8,8 @@
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
 
-// Tab "Request Type": library, customer id and invoice flag of the request types. The types themselves are the system's,
-// so rows are only updated.
+// Tab "Request Type": library, customer id and invoice flag of the request types. The types themselves are the
+// system's, so rows are only updated.
 class RequestType : public TabPage {
   Q_OBJECT
 
