@@ -137,7 +137,7 @@ void Connection::RollbackTrans() {
   if (query.exec(QStringLiteral("ROLLBACK"))) return;
   // Either the engine has rolled back by itself, or the transaction is in doubt: it ends with the session.
   query = QSqlQuery();
-  d_->session.Drop();
+  d_->session.Close();
 }
 
 bool Connection::InTransaction() const {
@@ -169,7 +169,7 @@ const std::vector<ColumnInfo>& Connection::Columns(const QString& table) {
     auto columns = d_->session.dialect().ReadColumns(d_->session.Database(), key);
     return d_->columns[key] = std::move(columns);
   } catch (const AdoError& error) {
-    if (error.ConnectionLost()) d_->session.Drop();
+    if (error.ConnectionLost()) d_->session.Close();
     d_->NoteFailure();
     throw;
   }
@@ -180,7 +180,7 @@ QStringList Connection::Tables() {
   try {
     return d_->session.dialect().ReadTables(d_->session.Database());
   } catch (const AdoError& error) {
-    if (error.ConnectionLost()) d_->session.Drop();
+    if (error.ConnectionLost()) d_->session.Close();
     d_->NoteFailure();
     throw;
   }

@@ -23,6 +23,8 @@ struct StatementRecord {
 // The one database connection of a program, in ADO's vocabulary on QtSql. Every failure is an AdoError. Statements are
 // joined text in the words of the shared system; the engine's dialect carries them to its own. A text with a comment
 // outside of literals, with an unclosed literal or with more statements than the caller names is refused unsent.
+// No statement is ever repeated: the one that finds the server gone fails with ConnectionLost, the next one opens the
+// connection again. A transaction in which a statement failed takes no further statement and cannot be committed.
 class Connection {
  public:
   enum StateValue { Closed = 0, Opened = 1 };
@@ -38,7 +40,8 @@ class Connection {
   void Open(const QString& connectionString = {}, const QString& userId = {}, const QString& password = {},
             int options = -1);
   void Close();
-  // Opens when State is closed: the step before any statement.
+  // Opens when State is closed: the step before any statement. Statements do it themselves, except inside a transaction
+  // whose connection was lost, until RollbackTrans has been called.
   void EnsureOpen();
 
   // One level only: a second BeginTrans inside a transaction is an AdoError.

@@ -83,8 +83,9 @@ QString MariaDbDialect::Carry(const QString& statement, const ConnectionSettings
   StatementWords::FullVerbs(tokens);
   StatementWords::UpperTableNames(tokens);
   // The tables compare letter by letter; a pattern does not. The collation stands at the pattern, where it fits columns
-  // of every character set.
-  StatementWords::Patterns(tokens, QStringLiteral("LIKE"), QStringLiteral("COLLATE utf8mb4_unicode_520_ci"));
+  // of every character set. This engine knows no pattern without an escape: one that nobody types takes its place.
+  StatementWords::Patterns(tokens, QStringLiteral("LIKE"), QStringLiteral("utf8mb4_unicode_520_ci"),
+                           QStringLiteral("\x1f"));
   // TIMESTAMP would be moved by time zones, end in 2038 and change by itself.
   StatementWords::ColumnType(tokens, "TIMESTAMP", QStringLiteral("DATETIME"));
   return Join(tokens);

@@ -74,7 +74,7 @@ QString PostgreSqlDialect::Carry(const QString& statement, const ConnectionSetti
   StatementWords::DropOwner(tokens, settings.ownerPrefix);
   StatementWords::LimitForTop(tokens);
   StatementWords::FullVerbs(tokens);
-  StatementWords::Patterns(tokens, QStringLiteral("ILIKE"), QStringLiteral("ESCAPE ''"));
+  StatementWords::Patterns(tokens, QStringLiteral("ILIKE"), {}, {});
   return Join(tokens);
 }
 

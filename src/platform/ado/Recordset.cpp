@@ -1,6 +1,5 @@
 #include "platform/ado/Recordset.h"
 
-#include <QDateTime>
 #include <QHash>
 #include <QSqlField>
 #include <QSqlRecord>
@@ -8,6 +7,7 @@
 #include <map>
 
 #include "platform/ado/ConnectionPrivate.h"
+#include "platform/ado/DriverValues.h"
 #include "platform/ado/RowStore.h"
 #include "platform/ado/StatementWords.h"
 
@@ -15,62 +15,6 @@ namespace {
 
 const QString OpenSource = QStringLiteral("Recordset.Open");
 const QString UpdateSource = QStringLiteral("Recordset.Update");
-
-// For a column that no catalogue describes: an expression, or a source of several tables with the same name twice.
-int TypeOfDriver(QMetaType type) {
-  switch (type.id()) {
-    case QMetaType::Int:
-    case QMetaType::UInt:
-    case QMetaType::LongLong:
-    case QMetaType::ULongLong:
-      return AdoType::Integer;
-    case QMetaType::Double:
-      return AdoType::Numeric;
-    case QMetaType::QDate:
-      return AdoType::Date;
-    case QMetaType::QDateTime:
-      return AdoType::TimeStamp;
-    default:
-      return AdoType::VarWChar;
-  }
-}
-
-QString NotNull(QString text) {
-  return text.isNull() ? QString(QLatin1String("")) : text;
-}
-
-// The driver's value as the text that the system reads. A moment that the clock of this machine leaps over in spring is
-// invalid as a QDateTime but keeps its date and its time.
-QString TextOf(const QVariant& value, int scale) {
-  if (value.isNull()) return {};
-  switch (value.typeId()) {
-    case QMetaType::QString:
-      return NotNull(value.toString());
-    case QMetaType::QDate:
-      return value.toDate().toString(Qt::ISODate);
-    case QMetaType::QDateTime: {
-      const QDateTime moment = value.toDateTime();
-      return moment.date().toString(Qt::ISODate) + u' ' + moment.time().toString(u"hh:mm:ss");
-    }
-    case QMetaType::Double:
-      // 15 digits: all that a decimal number keeps on its way through a binary one.
-      return scale > 0 ? QString::number(value.toDouble(), 'f', scale) : QString::number(value.toDouble(), 'g', 15);
-    case QMetaType::Int:
-    case QMetaType::LongLong:
-      return scale > 0 ? QString::number(value.toLongLong()) + u'.' + QString(scale, u'0') : value.toString();
-    default:
-      return NotNull(value.toString());
-  }
-}
-
-// "SELECT TOP n": each dialect carries it to its engine's own form.
-QString Limited(const QString& select, int maxRecords) {
-  if (maxRecords <= 0) return select;
-  const QString word = QStringLiteral("SELECT");
-  return select.left(select.indexOf(word, 0, Qt::CaseInsensitive) + word.size()) +
-         QStringLiteral(" TOP %1 ").arg(maxRecords) +
-         select.mid(select.indexOf(word, 0, Qt::CaseInsensitive) + word.size());
-}
 
 bool IsNumber(const QString& text) {
   bool number = false;
@@ -97,7 +41,7 @@ struct Recordset::Private {
   const ColumnInfo& Info(int index);
   ColumnInfo FindInfo(int index) const;
   void ReadRows(QSqlQuery& query);
-  std::vector<int> ScalesOfEmbeddedEngine();
+  std::vector<ColumnInfo> ShapesOfEmbeddedEngine();
   QString Value(int index) const;
   QString Literal(int index, const QString& value);
   QString UpdateText();
@@ -144,23 +88,22 @@ const ColumnInfo& Recordset::Private::Info(int index) {
   return catalogue[size_t(index)];
 }
 
-// SQLite keeps 1.50 as a binary number and gives 1.5; the servers give NUMERIC with its digits.
-std::vector<int> Recordset::Private::ScalesOfEmbeddedEngine() {
-  std::vector<int> scales(names.size(), 0);
-  if (connection->dialect().engine() != Engine::Sqlite) return scales;
-  for (size_t i = 0; i < names.size(); ++i) {
-    if (driverTypes[i] == AdoType::Numeric) scales[i] = Info(int(i)).scale;
-  }
-  return scales;
+// The servers give every value in the shape of its column. SQLite keeps 1.50 as a binary number and a moment in a DATE
+// column as it was written, so that its catalogue must tell what to read.
+std::vector<ColumnInfo> Recordset::Private::ShapesOfEmbeddedEngine() {
+  std::vector<ColumnInfo> shapes(names.size());
+  if (connection->dialect().engine() != Engine::Sqlite) return shapes;
+  for (size_t i = 0; i < names.size(); ++i) shapes[i] = Info(int(i));
+  return shapes;
 }
 
 void Recordset::Private::ReadRows(QSqlQuery& query) {
   const int count = int(names.size());
-  const std::vector<int> scales = ScalesOfEmbeddedEngine();
+  const std::vector<ColumnInfo> shapes = ShapesOfEmbeddedEngine();
   rows = RowStore(count);
   std::vector<QString> cells(names.size());
   while (query.next()) {
-    for (int i = 0; i < count; ++i) cells[size_t(i)] = TextOf(query.value(i), scales[size_t(i)]);
+    for (int i = 0; i < count; ++i) cells[size_t(i)] = TextOf(query.value(i), shapes[size_t(i)]);
     rows.Add(cells);
   }
 }
@@ -238,7 +181,7 @@ void Recordset::Open(Connection& connection) {
     }
     opened->connection = &connection;
     opened->tables = StatementWords::TablesOfSelect(Source);
-    QSqlQuery query = session.session.Run(Limited(Source, MaxRecords), OpenSource);
+    QSqlQuery query = session.session.Run(StatementWords::WithTop(Source, MaxRecords), OpenSource);
     opened->TakeShape(query.record());
     opened->ReadRows(query);
     session.session.CheckEnd(query, OpenSource);

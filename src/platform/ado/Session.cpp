@@ -58,12 +58,12 @@ void Session::SetUp() {
     const quint32 number = dialect_.Translate(error, OpenSource).Number();
     const QString advice = dialect_.OpenAdvice(error, settings_);
     query = QSqlQuery();
-    Drop();
+    Close();
     throw AdoError(number, WithoutPassword(advice + u'\n' + dialect_.EngineText(error)), OpenSource);
   }
   if (check.isEmpty() || (query.next() && query.value(0).toString() == u"1")) return;
   query = QSqlQuery();
-  Drop();
+  Close();
   throw AdoError(AdoNumber::Unspecified,
                  QStringLiteral("%1 did not accept the settings that every session needs. Ask the database's "
                                 "administrator to lift the server's limits on session settings.")
@@ -72,15 +72,13 @@ void Session::SetUp() {
 }
 
 void Session::Close() {
-  Drop();
-}
-
-void Session::Drop() {
   open_ = false;
   if (database_.isValid()) database_.close();
 }
 
 QSqlQuery Session::Run(const QString& statement, const QString& source) {
+  // A failure here comes again with the statement itself.
+  if (const QString refresh = dialect_.SchemaRefresh(); !refresh.isEmpty()) QSqlQuery(database_).exec(refresh);
   QSqlQuery query(database_);
   query.setForwardOnly(dialect_.ReadsForwardOnly());
   if (query.exec(dialect_.Carry(statement, settings_))) return query;
@@ -98,7 +96,7 @@ AdoError Session::Failed(const QSqlError& error, const QString& source) {
   // PostgreSQL's driver sometimes tells a loss only by being closed.
   const bool lost = translated.ConnectionLost() || !database_.isOpen();
   if (!lost) return translated;
-  Drop();
+  Close();
   if (translated.ConnectionLost()) return translated;
   return {AdoNumber::Unspecified,
           QStringLiteral("The connection to the database was lost. ") + translated.Description(), source, true};

@@ -22,6 +22,7 @@ class Session {
 
   // AdoError with what a user can do about it; it never holds the password.
   void Open();
+  // The engine rolls back what is open.
   void Close();
 
   // One statement of the shared words. The query stands before its first row.
@@ -30,8 +31,6 @@ class Session {
   void CheckEnd(const QSqlQuery& query, const QString& source);
   // Closes when the error says that the server is gone.
   AdoError Failed(const QSqlError& error, const QString& source);
-  // Forgets the connection without a word to the server.
-  void Drop();
 
  private:
   void CheckDriver() const;

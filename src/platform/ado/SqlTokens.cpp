@@ -124,6 +124,8 @@ QStringList SplitStatements(const QString& sql) {
 
 QString WhyRefused(const QString& sql, int allowed) {
   if (sql.contains(QChar(u'\0'))) return QStringLiteral("The statement holds the character U+0000.");
+  // A field's limit can cut a character of two halves; no engine would store the half that is left.
+  if (!sql.isValidUtf16()) return QStringLiteral("The statement holds half of a character.");
   const std::vector<SqlToken> tokens = Tokenize(sql);
   for (size_t i = 0; i < tokens.size(); ++i) {
     const SqlToken& token = tokens[i];

@@ -29,6 +29,13 @@ void Erase(Tokens& tokens, size_t from, size_t end) {
                tokens.begin() + static_cast<Tokens::difference_type>(end));
 }
 
+// Gives the place behind the words.
+size_t InsertWords(Tokens& tokens, size_t index, const QString& words) {
+  const Tokens added = Tokenize(words);
+  tokens.insert(tokens.begin() + static_cast<Tokens::difference_type>(index), added.begin(), added.end());
+  return index + added.size();
+}
+
 // A plain word needs no quotes anywhere.
 bool IsPlainName(const QString& name) {
   const Tokens tokens = Tokenize(name);
@@ -140,6 +147,20 @@ void LimitForTop(Tokens& tokens) {
   }
 }
 
+QString WithTop(const QString& select, int n) {
+  Tokens tokens = Tokenize(select);
+  size_t verb = FirstOf(tokens);
+  if (n <= 0 || verb >= tokens.size() || !Is(tokens[verb], "SELECT")) return select;
+  size_t next = NextOf(tokens, verb);
+  if (next < tokens.size() && (Is(tokens[next], "DISTINCT") || Is(tokens[next], "ALL"))) {
+    verb = next;
+    next = NextOf(tokens, verb);
+  }
+  if (next < tokens.size() && Is(tokens[next], "TOP")) return select;
+  InsertWords(tokens, verb + 1, QStringLiteral(" TOP %1 ").arg(n));
+  return Join(tokens);
+}
+
 void FullVerbs(Tokens& tokens) {
   const size_t verb = FirstOf(tokens);
   if (verb >= tokens.size()) return;
@@ -161,18 +182,21 @@ void UpperTableNames(Tokens& tokens) {
   }
 }
 
-void Patterns(Tokens& tokens, const QString& operation, const QString& suffix) {
-  const QString suffixWord = suffix.section(u' ', 0, 0);
-  const QByteArray present = suffixWord.toLatin1();
+void Patterns(Tokens& tokens, const QString& operation, const QString& collation, const QString& escape) {
   for (size_t i = 0; i < tokens.size(); ++i) {
     if (!Is(tokens[i], "LIKE") && !Is(tokens[i], "ILIKE")) continue;
     tokens[i].text = operation;
-    const size_t end = EndOfOperand(tokens, NextOf(tokens, i));
-    const size_t next = end == 0 ? 0 : NextOf(tokens, end - 1);
-    if (next < tokens.size() && Is(tokens[next], present.constData())) continue;
-    Tokens added{Space};
-    for (const SqlToken& token : Tokenize(suffix)) added.push_back(token);
-    tokens.insert(tokens.begin() + static_cast<Tokens::difference_type>(end), added.begin(), added.end());
+    size_t end = EndOfOperand(tokens, NextOf(tokens, i));
+    size_t next = NextOf(tokens, end - 1);
+    if (next < tokens.size() && Is(tokens[next], "COLLATE")) {
+      end = std::min(NextOf(tokens, next) + 1, tokens.size());
+    } else if (!collation.isEmpty()) {
+      end = InsertWords(tokens, end, QLatin1String(" COLLATE ") + collation);
+    }
+    next = NextOf(tokens, end - 1);
+    if (next >= tokens.size() || !Is(tokens[next], "ESCAPE")) {
+      InsertWords(tokens, end, QLatin1String(" ESCAPE '") + escape + u'\'');
+    }
   }
 }
 

@@ -21,12 +21,15 @@ void PlainNames(Tokens& tokens);
 void DropOwner(Tokens& tokens, const QString& ownerPrefix);
 // SELECT TOP n ... becomes SELECT ... LIMIT n, within parentheses too.
 void LimitForTop(Tokens& tokens);
+// A SELECT with TOP n, or as it stands when n is 0 or it has a TOP of its own.
+QString WithTop(const QString& select, int n);
 // DELETE t becomes DELETE FROM t, INSERT t becomes INSERT INTO t.
 void FullVerbs(Tokens& tokens);
 // Words beginning with ID_ become upper case: the form in which tables were created.
 void UpperTableNames(Tokens& tokens);
-// LIKE becomes `operation`; `suffix` follows the pattern unless a word of the suffix's kind stands there already.
-void Patterns(Tokens& tokens, const QString& operation, const QString& suffix);
+// LIKE becomes `operation`; the pattern takes the collation where one is given, and `escape` in the place of the
+// backslash that engines take for an escape otherwise.
+void Patterns(Tokens& tokens, const QString& operation, const QString& collation, const QString& escape);
 // In CREATE TABLE and ALTER TABLE the column type `from` becomes `to`.
 void ColumnType(Tokens& tokens, const char* from, const QString& to);
 

@@ -1,0 +1,159 @@
+#include "ado/TestDatabase.h"
+#include "platform/ado/SqlTokens.h"
+
+namespace {
+
+// One text of the system and what each engine gets of it; empty where it gets the text as it stands.
+struct Golden {
+  const char* text;
+  const char* sqlite;
+  const char* postgreSql;
+  const char* mariaDb;
+  const char* sqlServer;
+};
+
+const Golden goldens[] = {
+    {"SELECT   * FROM ID_A", "", "", "", ""},
+    {"INSERT INTO ID_A VALUES(N'a', n'b', 'N''c''', Null)", "INSERT INTO ID_A VALUES('a', 'b', 'N''c''', Null)",
+     "INSERT INTO ID_A VALUES('a', 'b', 'N''c''', Null)", "INSERT INTO ID_A VALUES('a', 'b', 'N''c''', Null)", ""},
+    {"SELECT N'a'N'b''c'", "SELECT 'a' 'b''c'", "SELECT 'a' 'b''c'", "SELECT 'a' 'b''c'", ""},
+    {"INSERT  ID_A VALUES(1)", "INSERT  INTO ID_A VALUES(1)", "INSERT  INTO ID_A VALUES(1)",
+     "INSERT  INTO ID_A VALUES(1)", ""},
+    {"DELETE ID_A WHERE B = 'FROM'", "DELETE FROM ID_A WHERE B = 'FROM'", "DELETE FROM ID_A WHERE B = 'FROM'",
+     "DELETE FROM ID_A WHERE B = 'FROM'", ""},
+    {"delete   from ID_A", "", "", "", ""},
+    {"SELECT TOP 1 LIBRARY_ID FROM ID_A WHERE B = N'TOP 1' ", "SELECT LIBRARY_ID FROM ID_A WHERE B = 'TOP 1' LIMIT 1 ",
+     "SELECT LIBRARY_ID FROM ID_A WHERE B = 'TOP 1' LIMIT 1 ", "SELECT LIBRARY_ID FROM ID_A WHERE B = 'TOP 1' LIMIT 1 ",
+     ""},
+    {"SELECT A FROM ID_A WHERE A IN (SELECT DISTINCT TOP 2 B FROM ID_B ORDER BY B) AND C = 1",
+     "SELECT A FROM ID_A WHERE A IN (SELECT DISTINCT B FROM ID_B ORDER BY B LIMIT 2) AND C = 1",
+     "SELECT A FROM ID_A WHERE A IN (SELECT DISTINCT B FROM ID_B ORDER BY B LIMIT 2) AND C = 1",
+     "SELECT A FROM ID_A WHERE A IN (SELECT DISTINCT B FROM ID_B ORDER BY B LIMIT 2) AND C = 1", ""},
+    {"SELECT TOP FROM ID_A", "", "", "", ""},
+    {"SELECT [NOTE],[a b],X.[N]'x' FROM ID_A X", "SELECT NOTE,\"a b\",X.N 'x' FROM ID_A X",
+     "SELECT NOTE,\"a b\",X.N 'x' FROM ID_A X", "SELECT NOTE,\"a b\",X.N 'x' FROM ID_A X", ""},
+    {"UPDATE OSTANA.id_cover_info SET A='OSTANA.id_x' where B=1", "UPDATE id_cover_info SET A='OSTANA.id_x' where B=1",
+     "UPDATE id_cover_info SET A='OSTANA.id_x' where B=1", "UPDATE ID_COVER_INFO SET A='OSTANA.id_x' where B=1", ""},
+    {"SELECT X.OSTANA, Y.A FROM Ostana.ID_A X, OSTANA.ID_B Y", "SELECT X.OSTANA, Y.A FROM ID_A X, ID_B Y",
+     "SELECT X.OSTANA, Y.A FROM ID_A X, ID_B Y", "SELECT X.OSTANA, Y.A FROM ID_A X, ID_B Y", ""},
+    {"SELECT A FROM ID_A WHERE B LIKE  N'x\\%' Order By B", "SELECT A FROM ID_A WHERE B LIKE  'x\\%' Order By B",
+     "SELECT A FROM ID_A WHERE B ILIKE  'x\\%' ESCAPE '' Order By B",
+     "SELECT A FROM ID_A WHERE B LIKE  'x\\%' COLLATE utf8mb4_unicode_520_ci ESCAPE '\x1f' Order By B", ""},
+    {"SELECT A FROM ID_A WHERE (B NOT LIKE 'LIKE') AND C LIKE '%x'", "",
+     "SELECT A FROM ID_A WHERE (B NOT ILIKE 'LIKE' ESCAPE '') AND C ILIKE '%x' ESCAPE ''",
+     "SELECT A FROM ID_A WHERE (B NOT LIKE 'LIKE' COLLATE utf8mb4_unicode_520_ci ESCAPE '\x1f') AND C LIKE '%x' "
+     "COLLATE "
+     "utf8mb4_unicode_520_ci ESCAPE '\x1f'",
+     ""},
+    {"SELECT A FROM ID_A WHERE B LIKE 'x!%' || C ESCAPE '!' OR B = 1", "",
+     "SELECT A FROM ID_A WHERE B ILIKE 'x!%' || C ESCAPE '!' OR B = 1",
+     "SELECT A FROM ID_A WHERE B LIKE 'x!%' || C COLLATE utf8mb4_unicode_520_ci ESCAPE '!' OR B = 1", ""},
+    {"CREATE TABLE ID_A (TIMESTAMP VARCHAR(5), B TIMESTAMP NOT NULL, C VARCHAR(8000))", "", "",
+     "CREATE TABLE ID_A (TIMESTAMP VARCHAR(5), B DATETIME NOT NULL, C VARCHAR(8000))",
+     "CREATE TABLE ID_A (TIMESTAMP NVARCHAR(5), B DATETIME2(0) NOT NULL, C NVARCHAR(MAX))"},
+};
+
+const Engine engines[] = {Engine::Sqlite, Engine::PostgreSql, Engine::MariaDb, Engine::SqlServer};
+
+QString Carried(Engine engine, const QString& text) {
+  ConnectionSettings settings;
+  settings.ownerPrefix = "OSTANA.";
+  return Dialect::For(engine).Carry(text, settings);
+}
+
+TEST(DialectText, EachEngineGetsItsOwnWords) {
+  for (const Golden& golden : goldens) {
+    const char* const expected[] = {golden.sqlite, golden.postgreSql, golden.mariaDb, golden.sqlServer};
+    for (int i = 0; i < 4; ++i) {
+      EXPECT_EQ(Carried(engines[i], golden.text), *expected[i] ? expected[i] : golden.text) << "engine " << i;
+    }
+  }
+}
+
+TEST(DialectText, CarriedAgainNothingChanges) {
+  for (const Golden& golden : goldens) {
+    for (const Engine engine : engines) {
+      const QString once = Carried(engine, golden.text);
+      EXPECT_EQ(Carried(engine, once), once);
+    }
+  }
+}
+
+QStringList ValuesIn(const QString& sql) {
+  QStringList values;
+  for (const SqlToken& token : Tokenize(sql)) {
+    if (token.kind == SqlToken::NationalLiteral) values += token.text.mid(1);
+    if (token.kind == SqlToken::Literal) values += token.text;
+  }
+  return values;
+}
+
+TEST(DialectText, ValuesArriveAsTheyAre) {
+  const QStringList values{"",
+                           "'",
+                           "''",
+                           "N'x'",
+                           "'; DELETE FROM ID_A; '",
+                           "-- x",
+                           "/* x */",
+                           "C:\\",
+                           "\\'",
+                           "TOP 1",
+                           "OSTANA.ID_A",
+                           "[A]",
+                           "SELECT TOP 1 A LIKE 'b'",
+                           "\"q\"",
+                           "`",
+                           "$$",
+                           "id_a",
+                           "\n\t",
+                           "\u00e9\u4e2d",
+                           "\U0001f600",
+                           "%_!",
+                           "?:x",
+                           "E'",
+                           "{d 'x'}"};
+  for (const Engine engine : engines) {
+    const Dialect& dialect = Dialect::For(engine);
+    QString text = "INSERT OSTANA.ID_A VALUES(";
+    QStringList expected;
+    for (int i = 0; i < values.size(); ++i) {
+      const QString literal = "'" + dialect.Escape(values[i]) + "'";
+      text += (i == 0 ? "" : ", ") + QString(i % 2 == 0 ? "N" : "") + literal;
+      expected += literal;
+    }
+    text += ")";
+    EXPECT_EQ(WhyRefused(text, 1), "");
+    EXPECT_EQ(ValuesIn(Carried(engine, text)), expected);
+  }
+}
+
+TEST(DialectText, OwnerOfTwoPartsIsDroppedWhole) {
+  ConnectionSettings settings;
+  settings.ownerPrefix = "ILL.dbo.";
+  EXPECT_EQ(Dialect::For(Engine::Sqlite).Carry("SELECT * FROM ILL.dbo.ID_A, dbo.ID_B", settings),
+            "SELECT * FROM ID_A, dbo.ID_B");
+}
+
+TEST(DialectText, DateLiterals) {
+  const QDateTime moment(QDate(2024, 3, 1), QTime(7, 8, 9));
+  for (const Engine engine : {Engine::Sqlite, Engine::PostgreSql, Engine::MariaDb}) {
+    EXPECT_EQ(Dialect::For(engine).DateLiteral(moment.date()), "'2024-03-01'");
+    EXPECT_EQ(Dialect::For(engine).DateTimeLiteral(moment), "'2024-03-01 07:08:09'");
+  }
+  EXPECT_EQ(Dialect::For(Engine::SqlServer).DateLiteral(moment.date()), "'20240301'");
+  EXPECT_EQ(Dialect::For(Engine::SqlServer).DateTimeLiteral(moment), "'2024-03-01T07:08:09'");
+}
+
+TEST(DialectText, DatabaseTypesAndDrivers) {
+  const int types[] = {1, 2, 3, 5};
+  const char* const drivers[] = {"QSQLITE", "QPSQL", "QMYSQL", "QODBC"};
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_EQ(Dialect::For(engines[i]).engine(), engines[i]);
+    EXPECT_EQ(Dialect::For(engines[i]).DatabaseType(), types[i]);
+    EXPECT_EQ(Dialect::For(engines[i]).DriverName(), drivers[i]);
+    EXPECT_TRUE(Dialect::For(engines[i]).DriverPackage().startsWith("libqt6sql6-"));
+  }
+}
+
+}  // namespace
