@@ -76,9 +76,12 @@ TEST_F(ItemTypeTest, SelectedRowShowsNoForNAndYesOtherwise) {
 }
 
 TEST_F(ItemTypeTest, LoadFailure) {
-  Another("DROP TABLE ID_ACCESS_GROUP");
-  Prompt().Expect("***** SQL error on ID_ACCESS_GROUP (Select) *****", Say::Stop);
+  Another("DROP TABLE ID_ITEM_TYPE");
+  // The grid of the first tab and the list of the second.
+  Prompt().Expect("***** SQL error on ID_ITEM_TYPE (Select) *****", Say::Stop);
+  Prompt().Expect("***** SQL error on ID_ITEM_TYPE (Select) *****", Say::Stop);
   Open(Form);
+  EXPECT_TRUE(Logged("frmItemType.LoadDataInGrid"));
   EXPECT_TRUE(Logged("frmItemType.PopulateAccessGroupCombo"));
 }
 
