@@ -7,8 +7,11 @@
 #include "core/frmTabulon.h"
 #include "editors/CodeTables.h"
 #include "editors/Exceptions.h"
+#include "editors/Invoicing.h"
 #include "editors/LoansTab.h"
 #include "editors/Miscellaneous.h"
+#include "editors/frmAddExceptionNotes.h"
+#include "editors/frmLoans.h"
 #include "reference/frmCurrencyCodes.h"
 #include "reference/frmGeneralMessages.h"
 #include "reference/frmISONamespace.h"
@@ -16,11 +19,6 @@
 #include "reference/frmItemType.h"
 #include "reference/frmNotifyPatronMessages.h"
 #include "reference/frmServiceCode.h"
-#include "editors/frmAddExceptionNotes.h"
-#include "editors/Invoicing.h"
-#include "editors/LoansTab.h"
-#include "editors/Miscellaneous.h"
-#include "editors/frmLoans.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
