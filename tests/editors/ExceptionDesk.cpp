@@ -46,10 +46,27 @@ void ExceptionDesk::TakeAway(const QString& flag) {
 }
 
 bool ExceptionDesk::DropConnection() {
-  if (gclsOF->DatabaseType() != 2) return false;
-  Ask("SELECT COUNT(pg_terminate_backend(pid)) FROM pg_stat_activity WHERE datname = current_database() AND pid <> "
-      "pg_backend_pid()");
-  return true;
+  QString sessions, end;
+  switch (TestDatabase::TestEngine()) {
+    case Engine::Sqlite:
+    case Engine::SqlServer:
+      return false;
+    case Engine::PostgreSql:
+      sessions = "SELECT pid FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid()";
+      end = "SELECT pg_terminate_backend(%1)";
+      break;
+    case Engine::MariaDb:
+      sessions = "SELECT ID FROM INFORMATION_SCHEMA.PROCESSLIST WHERE DB = DATABASE() AND ID <> CONNECTION_ID()";
+      end = "KILL %1";
+      break;
+  }
+  QStringList numbers;
+  Recordset rows;
+  for (rows.Open(Database().OtherClient(), sessions); !rows.EOF_(); rows.MoveNext())
+    numbers.append(rows.Fields(0).Value());
+  rows.Close();
+  for (const QString& number : numbers) Another(end.arg(number));
+  return !numbers.isEmpty();
 }
 
 void ExceptionDesk::ShowText(const QString& combo, const QString& text) {
