@@ -65,6 +65,9 @@ void LoanPolicies::BuildControls() {
   right.Add("lbl6MessageOverdue3", "Overdue 3:", txt6MessageOverdue3);
   right.Add("lbl6MessageFinal", "Final Overdue:", txt6MessageFinal);
 
+  for (const PolicyField& field : fields_)
+    if (field.gridColumn == 0) field.box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
   auto* const renewal = new QWidget(this);
   Form::Rows(renewal).Add("lbl6RenewalFrom", "Renewal From:", opt6Renewal->Row());
 
@@ -179,8 +182,7 @@ QStringList LoanPolicies::Typed() const {
 }
 
 bool LoanPolicies::HasDigits(const PolicyField& field) {
-  if (!Numbers::IsNumeric(field.box->Text()))
-    return form_.Refuse(field.refusal, MessageStyle::Warning, txt6LoanCode);
+  if (!Numbers::IsNumeric(field.box->Text())) return form_.Refuse(field.refusal, MessageStyle::Warning, txt6LoanCode);
   field.box->TrimInPlace();
   return true;
 }
