@@ -6,6 +6,17 @@
 #include "core/Screens.h"
 #include "core/frmTabulon.h"
 #include "editors/CodeTables.h"
+#include "editors/Exceptions.h"
+#include "editors/LoansTab.h"
+#include "editors/Miscellaneous.h"
+#include "reference/frmCurrencyCodes.h"
+#include "reference/frmGeneralMessages.h"
+#include "reference/frmISONamespace.h"
+#include "reference/frmISOServiceLevels.h"
+#include "reference/frmItemType.h"
+#include "reference/frmNotifyPatronMessages.h"
+#include "reference/frmServiceCode.h"
+#include "editors/frmAddExceptionNotes.h"
 #include "editors/Invoicing.h"
 #include "editors/LoansTab.h"
 #include "editors/Miscellaneous.h"
@@ -16,6 +27,9 @@ void RegisterTabs(frmTabulon& shell) {
                MakeTab(&CodeTables::CodeTables_Tab, &CodeTables::CodeTables_Add, &CodeTables::CodeTables_Update,
                        &CodeTables::CodeTables_Delete, &CodeTables::CodeTables_Clear));
   shell.SetTab(frmTabulon::LoansTab, MakeTab(&LoansTab::Loans_Tab, nullptr, nullptr, nullptr, nullptr));
+  shell.SetTab(frmTabulon::ExceptionsTab,
+               MakeTab(&Exceptions::EnterTab, &Exceptions::Exception_Add, &Exceptions::Exception_Update,
+                       &Exceptions::Exception_Delete, &Exceptions::Exception_Clear));
   shell.SetTab(frmTabulon::InvoicingTab,
                MakeTab(&Invoicing::Invoicing_Tab, &Invoicing::Invoicing_Add, &Invoicing::Invoicing_Update,
                        &Invoicing::Invoicing_Delete, &Invoicing::Invoicing_Clear));
@@ -27,5 +41,13 @@ void RegisterDialogs() {
   RegisterScreen<frmSplash>("frmSplash");
   RegisterScreen<frmAboutOstana>("frmAboutOstana");
   RegisterScreen<frmAboutApp>("frmAboutApp");
+  RegisterScreen<frmCurrencyCodes>("frmCurrencyCodes");
+  RegisterScreen<frmISOServiceLevels>("frmISOServiceLevels");
+  RegisterScreen<frmISONamespace>("frmISONamespace");
+  RegisterScreen<frmGeneralMessages>("frmGeneralMessages");
+  RegisterScreen<frmNotifyPatronMessages>("frmNotifyPatronMessages");
+  RegisterScreen<frmServiceCode>("frmServiceCode");
+  RegisterScreen<frmItemType>("frmItemType");
+  RegisterScreen<frmAddExceptionNotes>("frmAddExceptionNotes");
   RegisterScreen<frmLoans>("frmLoans");
 }

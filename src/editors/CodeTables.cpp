@@ -30,6 +30,7 @@ void CodeTables::BuildControls() {
   rows.Add("lbl0Code", "C&ode:", txt0Code);
   rows.Add("lbl0Description", "D&escription:", txt0Description);
   rows.Add(lbl0CurrentLanguage, cmb0CurrentLanguage, chk0DefaultLanguage);
+  choices->layout()->setContentsMargins(0, 0, 0, 0);
 
   (new QHBoxLayout(fra0Display))->addWidget(opt0Display->Row());
   (new QHBoxLayout(fra0aDisplay))->addWidget(opt0DeliveryType->Row());
