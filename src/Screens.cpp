@@ -5,6 +5,11 @@
 #include "about/frmSplash.h"
 #include "core/Screens.h"
 #include "core/frmTabulon.h"
+#include "directory/frmLibraryBillingInfo.h"
+#include "directory/frmLibraryLoginInfo.h"
+#include "directory/frmLibraryRegistration.h"
+#include "directory/frmLibrarySearch.h"
+#include "directory/frmLibraryStatisticalInfo.h"
 #include "editors/CodeTables.h"
 #include "editors/LoansTab.h"
 #include "editors/Miscellaneous.h"
@@ -22,4 +27,9 @@ void RegisterDialogs() {
   RegisterScreen<frmSplash>("frmSplash");
   RegisterScreen<frmAboutOstana>("frmAboutOstana");
   RegisterScreen<frmAboutApp>("frmAboutApp");
+  RegisterScreen<frmLibraryRegistration>("frmLibraryRegistration");
+  RegisterScreen<frmLibraryLoginInfo>("frmLibraryLoginInfo");
+  RegisterScreen<frmLibraryStatisticalInfo>("frmLibraryStatisticalInfo");
+  RegisterScreen<frmLibraryBillingInfo>("frmLibraryBillingInfo");
+  RegisterScreen<frmLibrarySearch>("frmLibrarySearch");
 }
