@@ -7,6 +7,11 @@
 #include "core/frmTabulon.h"
 #include "editors/Audit.h"
 #include "editors/AutoRejects.h"
+#include "directory/frmLibraryBillingInfo.h"
+#include "directory/frmLibraryLoginInfo.h"
+#include "directory/frmLibraryRegistration.h"
+#include "directory/frmLibrarySearch.h"
+#include "directory/frmLibraryStatisticalInfo.h"
 #include "editors/CodeTables.h"
 #include "editors/CoverPages.h"
 #include "editors/Departments.h"
@@ -78,4 +83,9 @@ void RegisterDialogs() {
   RegisterScreen<frmPickupLocationEmail>("frmPickupLocationEmail");
   RegisterScreen<frmAddExceptionNotes>("frmAddExceptionNotes");
   RegisterScreen<frmLoans>("frmLoans");
+  RegisterScreen<frmLibraryRegistration>("frmLibraryRegistration");
+  RegisterScreen<frmLibraryLoginInfo>("frmLibraryLoginInfo");
+  RegisterScreen<frmLibraryStatisticalInfo>("frmLibraryStatisticalInfo");
+  RegisterScreen<frmLibraryBillingInfo>("frmLibraryBillingInfo");
+  RegisterScreen<frmLibrarySearch>("frmLibrarySearch");
 }
