@@ -5,10 +5,14 @@
 #include "about/frmSplash.h"
 #include "core/Screens.h"
 #include "core/frmTabulon.h"
+#include "directory/ForeignForm.h"
+#include "directory/frmDeliveryEmailTemplate.h"
+#include "directory/frmLibraryAnnotationTemplate.h"
 #include "directory/frmLibraryBillingInfo.h"
 #include "directory/frmLibraryLoginInfo.h"
 #include "directory/frmLibraryRegistration.h"
 #include "directory/frmLibrarySearch.h"
+#include "directory/frmLibrarySequence.h"
 #include "directory/frmLibraryStatisticalInfo.h"
 #include "editors/CodeTables.h"
 #include "editors/Exceptions.h"
@@ -58,4 +62,10 @@ void RegisterDialogs() {
   RegisterScreen<frmLibraryStatisticalInfo>("frmLibraryStatisticalInfo");
   RegisterScreen<frmLibraryBillingInfo>("frmLibraryBillingInfo");
   RegisterScreen<frmLibrarySearch>("frmLibrarySearch");
+  RegisterScreen<frmLibrarySequence>("frmLibrarySequence");
+  RegisterScreen<frmDeliveryEmailTemplate>("frmDeliveryEmailTemplate");
+  RegisterScreen<frmLibraryAnnotationTemplate>("frmLibraryAnnotationTemplate");
+  for (const QString name : {"frmRequestArticle", "frmRequestBook", "frmQueryRequests", "frmPatronRegistration",
+                             "frmSupplierRegistration"})
+    RegisterScreen(name, [name](QWidget* owner) { return std::make_unique<ForeignForm>(name, owner); });
 }
