@@ -29,9 +29,10 @@ class CurrencyCodesTest : public ReferenceDesk {
   }
   void Insert(const QString& code, const QString& description, const QString& country, const QString& rate,
               const QString& symbol, const QString& base) {
-    Another("INSERT INTO ID_CURRENCY_CODE (CURRENCY_CODE, CURRENCY_CODE_DESC, CURRENCY_COUNTRY, CURRENCY_EXCHANGE, "
-            "CURRENCY_SYMBOL, CURRENCY_BASE) VALUES ('" +
-            code + "', '" + description + "', '" + country + "', " + rate + ", '" + symbol + "', " + base + ")");
+    Another(
+        "INSERT INTO ID_CURRENCY_CODE (CURRENCY_CODE, CURRENCY_CODE_DESC, CURRENCY_COUNTRY, CURRENCY_EXCHANGE, "
+        "CURRENCY_SYMBOL, CURRENCY_BASE) VALUES ('" +
+        code + "', '" + description + "', '" + country + "', " + rate + ", '" + symbol + "', " + base + ")");
   }
   void OpenIt() {
     Open(Form);
@@ -188,8 +189,7 @@ TEST_F(CurrencyCodesTest, AddWritesNationalLiteralsAndEveryLanguage) {
   EXPECT_EQ(At(Table, 4, Code), "JPY");
   EXPECT_EQ(At(Table, 4, Base), "");
   EXPECT_EQ(Row(Table), 4);
-  EXPECT_EQ(Told("SELECT CURRENCY_CODE_DESC_GER FROM ID_CURRENCY_CODE WHERE CURRENCY_CODE = 'JPY'"),
-            "Yen's \\ -- 😀");
+  EXPECT_EQ(Told("SELECT CURRENCY_CODE_DESC_GER FROM ID_CURRENCY_CODE WHERE CURRENCY_CODE = 'JPY'"), "Yen's \\ -- 😀");
   ExpectInStep(Form, Table);
   Click("cmdClose");
   EXPECT_FALSE(IsOpen());
@@ -424,7 +424,9 @@ TEST_F(CurrencyCodesTest, SortKeepsRecordAndBase) {
 TEST_F(CurrencyCodesTest, LeavingAnEditedRowAsksAndUpdatesIt) {
   OpenIt();
   Type("txtExchangeRate", "1.1");
-  Prompt().ExpectTitled(Say::Modified, Say::Question, "Ostana - Currency Codes", Say::Yes).Expect(Say::Updated, Say::Info);
+  Prompt()
+      .ExpectTitled(Say::Modified, Say::Question, "Ostana - Currency Codes", Say::Yes)
+      .Expect(Say::Updated, Say::Info);
   SelectRow(Table, 3);
   EXPECT_EQ(RateOf("EUR"), "1.1000");
   EXPECT_EQ(Shown("txtCurrencyCode"), "USD");
@@ -464,8 +466,9 @@ TEST_F(CurrencyCodesTest, DeleteWritesAPlainLiteral) {
 }
 
 TEST_F(CurrencyCodesTest, CurrencyInUseMayBeDeleted) {
-  Another("INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME, CURRENCY_CODE) VALUES (101, 'ALPHA', "
-          "'Alpha', 'CHF')");
+  Another(
+      "INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME, CURRENCY_CODE) VALUES (101, 'ALPHA', "
+      "'Alpha', 'CHF')");
   OpenIt();
   SelectRowOf(Table, "CHF");
   Prompt().Expect(Say::Delete, Say::Question, Say::Yes).Expect(Say::Deleted, Say::Info);
