@@ -5,6 +5,11 @@
 #include "about/frmSplash.h"
 #include "core/Screens.h"
 #include "core/frmTabulon.h"
+#include "directory/frmLibraryBillingInfo.h"
+#include "directory/frmLibraryLoginInfo.h"
+#include "directory/frmLibraryRegistration.h"
+#include "directory/frmLibrarySearch.h"
+#include "directory/frmLibraryStatisticalInfo.h"
 #include "editors/CodeTables.h"
 #include "editors/Exceptions.h"
 #include "editors/Invoicing.h"
@@ -48,4 +53,9 @@ void RegisterDialogs() {
   RegisterScreen<frmItemType>("frmItemType");
   RegisterScreen<frmAddExceptionNotes>("frmAddExceptionNotes");
   RegisterScreen<frmLoans>("frmLoans");
+  RegisterScreen<frmLibraryRegistration>("frmLibraryRegistration");
+  RegisterScreen<frmLibraryLoginInfo>("frmLibraryLoginInfo");
+  RegisterScreen<frmLibraryStatisticalInfo>("frmLibraryStatisticalInfo");
+  RegisterScreen<frmLibraryBillingInfo>("frmLibraryBillingInfo");
+  RegisterScreen<frmLibrarySearch>("frmLibrarySearch");
 }

@@ -72,10 +72,10 @@ QString SchemaStatements::Check(const SchemaColumn& column) const {
     case SchemaColumn::Numeric:
       return number("'integer', 'real'", '1' + QString(column.size - column.scale, QLatin1Char('0')));
     case SchemaColumn::Date:
-      return QStringLiteral(" CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND date(%1) = %1))").arg(name);
+      return QStringLiteral(" CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND date(%1) IS %1))").arg(name);
     case SchemaColumn::TimeStamp:
       return QStringLiteral(
-                 " CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND substr(datetime(%1), 1, 10) = substr(%1, 1, 10)))")
+                 " CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND substr(datetime(%1), 1, 10) IS substr(%1, 1, 10)))")
           .arg(name);
   }
   return {};
