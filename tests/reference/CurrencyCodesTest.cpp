@@ -308,6 +308,23 @@ TEST_F(CurrencyCodesTest, ConnectionClosedBetweenTwoStatementsIsOpenedAgain) {
   EXPECT_EQ(RateOf("EUR"), "3.0000");
 }
 
+TEST_F(CurrencyCodesTest, KilledSessionLosesNothingAndTheNextPressWrites) {
+  if (gclsOF->DatabaseType() != 2) GTEST_SKIP() << "only a server's session can be killed";
+  OpenIt();
+  MoveBase(2);
+  Type("txtExchangeRate", "3");
+  Ask("SELECT COUNT(pg_terminate_backend(pid)) FROM pg_stat_activity WHERE datname = current_database() AND pid <> "
+      "pg_backend_pid()");
+  Prompt().Expect("An error has occurred.  Please Notify Support.", Say::Stop);
+  Click("cmdUpdate");
+  EXPECT_EQ(Bases(), "EUR");
+  Prompt().Expect(Say::Updated, Say::Info);
+  Click("cmdUpdate");
+  EXPECT_EQ(Bases(), "CHF");
+  EXPECT_EQ(RateOf("CHF"), "3.0000");
+  ExpectInStep(Form, Table);
+}
+
 // --- The base ---
 
 TEST_F(CurrencyCodesTest, CancelledQuestionKeepsTheOldBase) {
