@@ -47,9 +47,10 @@ TEST_F(LibraryLoginTest, ReadsTheRecord) {
   const QStringList statements = Statements();
   EXPECT_TRUE(statements.contains(
       "SELECT   LANGUAGE_CODE, LANGUAGE_CODE_DESC FROM ID_LANGUAGE_CODE ORDER BY LANGUAGE_CODE_DESC"));
-  EXPECT_TRUE(statements.contains("SELECT   LIBRARY_ACTIVE, LIBRARY_SYMBOL, INSTITUTION_NAME, LIBRARY, CONTACT, "
-                                  "USER_LOGIN, USER_PASSWORD, LANGUAGE_CODE FROM ID_LIBRARY "
-                                  "WHERE    LIBRARY_ID = 101"));
+  EXPECT_TRUE(
+      statements.contains("SELECT   LIBRARY_ACTIVE, LIBRARY_SYMBOL, INSTITUTION_NAME, LIBRARY, CONTACT, "
+                          "USER_LOGIN, USER_PASSWORD, LANGUAGE_CODE FROM ID_LIBRARY "
+                          "WHERE    LIBRARY_ID = 101"));
   EXPECT_EQ(Text("txtUserID"), "north");
   EXPECT_EQ(Text("txtPassword"), "hidden");
   EXPECT_EQ(Text("txtConfirmPassword"), "hidden");
@@ -131,11 +132,10 @@ TEST_F(LibraryLoginTest, UpdateWritesOneStatement) {
   Choose("cboLanguageCode", "(None)");
   Saves();
   const QString now = gclsOF->SqlDate(Noon);
-  EXPECT_EQ(Statements(),
-            QStringList({"SELECT   USER_LOGIN  FROM ID_LIBRARY WHERE    USER_LOGIN = N'n''orth'",
-                         "UPDATE ID_Library SET      LIBRARY_ACTIVE = N'Y', LAST_MODIFIED = " + now +
-                             ", USER_LOGIN = N'n''orth' , USER_PASSWORD = N'new' , LANGUAGE_CODE = NULL "
-                             "WHERE Library_ID = 101"}));
+  EXPECT_EQ(Statements(), QStringList({"SELECT   USER_LOGIN  FROM ID_LIBRARY WHERE    USER_LOGIN = N'n''orth'",
+                                       "UPDATE ID_Library SET      LIBRARY_ACTIVE = N'Y', LAST_MODIFIED = " + now +
+                                           ", USER_LOGIN = N'n''orth' , USER_PASSWORD = N'new' , LANGUAGE_CODE = NULL "
+                                           "WHERE Library_ID = 101"}));
   EXPECT_EQ(Column("USER_LOGIN"), "n'orth");
   EXPECT_EQ(Focus(), "txtLibrarySymbol");
 }

@@ -47,15 +47,14 @@ TEST_F(LibraryStatisticalTest, ListsAndTheirStart) {
   const char* const tables[] = {"VORN_SERVICE", "STATS_CAT_LIB", "LIBRARY_CAT", "LIBRARY_TYPE", "LOAN_CODE"};
   qsizetype at = -1;
   for (const QString table : tables) {
-    const qsizetype next =
-        lists.indexOf(QString("SELECT   %1, %1_DESC FROM ID_%1 ORDER BY %1_DESC").arg(table));
+    const qsizetype next = lists.indexOf(QString("SELECT   %1, %1_DESC FROM ID_%1 ORDER BY %1_DESC").arg(table));
     EXPECT_GT(next, at) << qPrintable(table);
     at = next;
   }
   EXPECT_EQ(Find<CodeComboBox>("cmbServiceType")->Code(), "2");
   EXPECT_LT(Find<CodeComboBox>("cmbServiceType")->IndexOfText("(None)"), 0);
-  for (const char* box : {"cboStatsCat1", "cboStatsCat2", "cboStatsCat3", "cboCategory", "cboLibraryType",
-                          "cmbLoanCode"}) {
+  for (const char* box :
+       {"cboStatsCat1", "cboStatsCat2", "cboStatsCat3", "cboCategory", "cboLibraryType", "cmbLoanCode"}) {
     EXPECT_EQ(Text(box), "(None)") << box;
     EXPECT_EQ(Find<CodeComboBox>(box)->IndexOfText("(None)"), 0) << box;
   }
@@ -159,9 +158,17 @@ TEST_F(LibraryStatisticalTest, ACostWithADecimalCommaReachesTheDatabaseWithAPoin
 TEST_F(LibraryStatisticalTest, UpdateWritesOneStatementInItsOrder) {
   Another("INSERT INTO ID_STATS_CAT_LIB (STATS_CAT_LIB, STATS_CAT_LIB_DESC) VALUES ('ZZ', 'Last of all')");
   OpenScreen();
-  TypeAll({{"txtVORNSymbol", "vn"}, {"txtVORNUserID", "u"}, {"txtVORNPassword", "p"}, {"txtVORNConfirmPassword", "p"},
-           {"txtBLUserID", "b"}, {"txtBLPassword", "q"}, {"txtBLConfirmPassword", "q"}, {"txtRapid", "R1"},
-           {"txtRapidBranchName", "Main's"}, {"txtDoclineSymbol", "D"}, {"txtNewZealand", "nz"},
+  TypeAll({{"txtVORNSymbol", "vn"},
+           {"txtVORNUserID", "u"},
+           {"txtVORNPassword", "p"},
+           {"txtVORNConfirmPassword", "p"},
+           {"txtBLUserID", "b"},
+           {"txtBLPassword", "q"},
+           {"txtBLConfirmPassword", "q"},
+           {"txtRapid", "R1"},
+           {"txtRapidBranchName", "Main's"},
+           {"txtDoclineSymbol", "D"},
+           {"txtNewZealand", "nz"},
            {"txtMaximumDays", "28"}});
   Click("optUseIFM(0)");
   Type("txtIFMMaxCost", "12");
@@ -268,7 +275,9 @@ TEST_F(LibraryStatisticalTest, ARapidCodeWithBothPasswordsEmptyIsAccepted) {
 
 TEST_F(LibraryStatisticalTest, AFailedUpdateMasksThePasswordsInTheLog) {
   OpenScreen();
-  TypeAll({{"txtVORNSymbol", "vn"}, {"txtVORNUserID", "u"}, {"txtVORNPassword", "topsecret"},
+  TypeAll({{"txtVORNSymbol", "vn"},
+           {"txtVORNUserID", "u"},
+           {"txtVORNPassword", "topsecret"},
            {"txtVORNConfirmPassword", "topsecret"}});
   Another("ALTER TABLE ID_LIBRARY RENAME COLUMN FD_SYMBOL TO MOVED");
   Prompt().Expect("An error has occurred.  Please Notify Support.", MessageStyle::Stop);
@@ -320,13 +329,16 @@ INSTANTIATE_TEST_SUITE_P(Symbols, OutsideSearchTest,
                                          OutsideCase{"txtNewZealand", "cmdSearchNewZealandSymbol", "NLNZ_SYMBOL"},
                                          OutsideCase{"txtRapid", "cmdSearchRapidCode", "RAPID_CODE"},
                                          OutsideCase{"txtAgent", "cmdSearchAgentSymbol", "AGENT_SYMBOL"}),
-                         [](const testing::TestParamInfo<OutsideCase>& info) { return std::string(info.param.column); });
+                         [](const testing::TestParamInfo<OutsideCase>& info) {
+                           return std::string(info.param.column);
+                         });
 
 TEST_P(OutsideSearchTest, AHitDisplaysTheLibraryThatOwnsTheIdentity) {
   Type(Box(), "XS");
   Click(GetParam().button);
-  EXPECT_EQ(Statements()[0], QString("SELECT   LIBRARY_ID, LIBRARY_SYMBOL, %1 FROM ID_LIBRARY WHERE    %1 = N'XS'")
-                                 .arg(GetParam().column));
+  EXPECT_EQ(
+      Statements()[0],
+      QString("SELECT   LIBRARY_ID, LIBRARY_SYMBOL, %1 FROM ID_LIBRARY WHERE    %1 = N'XS'").arg(GetParam().column));
   EXPECT_EQ(Text("txtLibrarySymbol"), "SOUTH");
   EXPECT_EQ(Text(Box()), "XS");
 }
@@ -381,7 +393,8 @@ TEST_P(OutsideSearchTest, AFailedLookUpIsInTheLogWithItsStatement) {
   Prompt().Expect("Record not found.", MessageStyle::Information);
   Click(GetParam().button);
   EXPECT_TRUE(LogHolds("* FindLibrarySymbol"));
-  EXPECT_TRUE(LogHolds(QString("* Database Statement: SELECT   LIBRARY_ID, LIBRARY_SYMBOL, %1").arg(GetParam().column)));
+  EXPECT_TRUE(
+      LogHolds(QString("* Database Statement: SELECT   LIBRARY_ID, LIBRARY_SYMBOL, %1").arg(GetParam().column)));
 }
 
 }  // namespace
