@@ -18,12 +18,6 @@ std::function<void()> Trimmer(Box* box, Trim trim) {
   };
 }
 
-void Compare(const QString& text, const Grid* grid, int column) {
-  gstrErrorMessage.clear();
-  if (gbFillingFields) return;
-  gbRecordModified = grid->Row() == 0 || grid->Text(grid->Row(), column) != text;
-}
-
 }  // namespace
 
 FieldList& FieldList::Add(TextBox* box, int column, Trim trim) {
@@ -84,12 +78,19 @@ void FieldList::Clear() const {
   for (const BoundField& field : fields_) field.clear();
 }
 
+void CompareWithRow(const QString& text, const Grid* grid, int column) {
+  gstrErrorMessage.clear();
+  if (gbFillingFields) return;
+  gbRecordModified = grid->Row() == 0 || grid->Text(grid->Row(), column) != text;
+}
+
 void WatchField(TextBox* box, const Grid* grid, int column) {
-  QObject::connect(box, &TextBox::Change, box, [grid, column](const QString& text) { Compare(text, grid, column); });
+  QObject::connect(box, &TextBox::Change, box,
+                   [grid, column](const QString& text) { CompareWithRow(text, grid, column); });
 }
 
 void WatchField(MemoBox* box, const Grid* grid, int column) {
-  QObject::connect(box, &MemoBox::Change, box, [box, grid, column] { Compare(box->Text(), grid, column); });
+  QObject::connect(box, &MemoBox::Change, box, [box, grid, column] { CompareWithRow(box->Text(), grid, column); });
 }
 
 void WatchAnyChange(TextBox* box) {

@@ -49,6 +49,7 @@ class FieldList {
 // The change handler of the main screen's fields: clears gstrErrorMessage, compares the text with the column of the
 // grid's current row, sets gbRecordModified when they differ (no row counts as different) and clears it when equal,
 // unless gbFillingFields.
+void CompareWithRow(const QString& text, const Grid* grid, int column);
 void WatchField(TextBox* box, const Grid* grid, int column);
 void WatchField(MemoBox* box, const Grid* grid, int column);
 // Just sets gbRecordModified, unless gbFillingFields.

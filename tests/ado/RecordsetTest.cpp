@@ -42,6 +42,18 @@ TEST_F(RecordsetTest, NullIsNotTheEmptyText) {
   EXPECT_EQ(rows.Fields(0).Value(), "c");
 }
 
+TEST_F(RecordsetTest, ColumnsThatAnotherClientAddedAreRead) {
+  Value("SELECT A FROM ID_A");
+  Connection other(database.Settings());
+  other.Open();
+  for (const char* name : {"D", "E", "F"}) other.Execute(QString("ALTER TABLE ID_A ADD %1 VARCHAR(10)").arg(name));
+  Recordset rows;
+  rows.Open(connection, "SELECT * FROM ID_A ORDER BY A");
+  EXPECT_EQ(rows.FieldCount(), 6);
+  EXPECT_TRUE(rows.Fields("F").IsNull());
+  EXPECT_EQ(rows.Fields("B").Value(), "One");
+}
+
 TEST_F(RecordsetTest, FieldsByNameAndPosition) {
   Recordset rows;
   rows.Open(connection, "select a, b as Described, count(*) from id_a group by a, b order by a");
@@ -133,6 +145,24 @@ TEST_F(RecordsetTest, WritesAndReadsWhileAnotherIsOpen) {
 TEST_F(RecordsetTest, TopGivesTheFirstRows) {
   EXPECT_EQ(Column("SELECT TOP 1 A FROM ID_A ORDER BY A DESC "), "3");
   EXPECT_EQ(Column("SELECT A FROM ID_A WHERE A IN (SELECT A FROM ID_A WHERE A < 3) ORDER BY A"), "1,2");
+}
+
+TEST_F(RecordsetTest, MaxRecordsLimitsTheRows) {
+  QStringList seen;
+  connection.AddObserver([&](const StatementRecord& record) { seen += record.text; });
+  Recordset rows;
+  rows.MaxRecords = 2;
+  for (const char* const select : {"SELECT   A FROM ID_A ORDER BY A", "SELECT DISTINCT A FROM ID_A ORDER BY A"}) {
+    rows.Open(connection, select);
+    EXPECT_EQ(rows.RecordCount(), 2);
+    EXPECT_EQ(rows.Fields(0).Value(), "1");
+    EXPECT_EQ(seen.last(), select);
+  }
+  rows.Open(connection, "SELECT TOP 1 A FROM ID_A ORDER BY A");
+  EXPECT_EQ(rows.RecordCount(), 1);
+  rows.MaxRecords = 0;
+  rows.Open(connection, "SELECT A FROM ID_A");
+  EXPECT_EQ(rows.RecordCount(), 3);
 }
 
 TEST_F(RecordsetTest, ManyRowsComeWhole) {

@@ -210,14 +210,17 @@ void Desk::Append(const QString& name, const QString& text) {
   Activate(box->window());
   box->setFocus();
   if (!box->inherits("QLineEdit") || !text.isEmpty()) QTest::keyClick(box, Qt::Key_End, Qt::ControlModifier);
-  for (const QChar& letter : text) {
+  for (qsizetype at = 0; at < text.size(); ++at) {
+    const QChar letter = text[at];
     if (letter == '\n') {
       QTest::keyClick(box, Qt::Key_Return);
       continue;
     }
-    // Letters beyond Latin-1 have no key code; they arrive as text, as from an input method.
+    // Letters beyond Latin-1 have no key code; they arrive as text, as from an input method, a surrogate pair at once.
+    const bool pair = letter.isHighSurrogate() && at + 1 < text.size();
     QKeyEvent press(QEvent::KeyPress, letter.unicode() < 128 ? QChar(letter).toUpper().unicode() : 0, Qt::NoModifier,
-                    QString(letter));
+                    text.mid(at, pair ? 2 : 1));
+    if (pair) ++at;
     QApplication::sendEvent(box, &press);
   }
 }
@@ -282,7 +285,9 @@ void Desk::SelectRow(const QString& name, int row) {
     return;
   }
   Activate(grid->window());
-  const QModelIndex cell = grid->model()->index(row - 1, 1);
+  int col = 1;
+  while (grid->ColHidden(col)) ++col;
+  const QModelIndex cell = grid->model()->index(row - 1, col);
   grid->scrollTo(cell);
   QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->visualRect(cell).center());
 }

@@ -16,15 +16,6 @@ namespace {
 const QString OpenSource = QStringLiteral("Recordset.Open");
 const QString UpdateSource = QStringLiteral("Recordset.Update");
 
-// "SELECT TOP n": each dialect carries it to its engine's own form.
-QString Limited(const QString& select, int maxRecords) {
-  if (maxRecords <= 0) return select;
-  const QString word = QStringLiteral("SELECT");
-  return select.left(select.indexOf(word, 0, Qt::CaseInsensitive) + word.size()) +
-         QStringLiteral(" TOP %1 ").arg(maxRecords) +
-         select.mid(select.indexOf(word, 0, Qt::CaseInsensitive) + word.size());
-}
-
 bool IsNumber(const QString& text) {
   bool number = false;
   text.toDouble(&number);
@@ -190,7 +181,7 @@ void Recordset::Open(Connection& connection) {
     }
     opened->connection = &connection;
     opened->tables = StatementWords::TablesOfSelect(Source);
-    QSqlQuery query = session.session.Run(Limited(Source, MaxRecords), OpenSource);
+    QSqlQuery query = session.session.Run(StatementWords::WithTop(Source, MaxRecords), OpenSource);
     opened->TakeShape(query.record());
     opened->ReadRows(query);
     session.session.CheckEnd(query, OpenSource);

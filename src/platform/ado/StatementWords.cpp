@@ -147,6 +147,20 @@ void LimitForTop(Tokens& tokens) {
   }
 }
 
+QString WithTop(const QString& select, int n) {
+  Tokens tokens = Tokenize(select);
+  size_t verb = FirstOf(tokens);
+  if (n <= 0 || verb >= tokens.size() || !Is(tokens[verb], "SELECT")) return select;
+  size_t next = NextOf(tokens, verb);
+  if (next < tokens.size() && (Is(tokens[next], "DISTINCT") || Is(tokens[next], "ALL"))) {
+    verb = next;
+    next = NextOf(tokens, verb);
+  }
+  if (next < tokens.size() && Is(tokens[next], "TOP")) return select;
+  InsertWords(tokens, verb + 1, QStringLiteral(" TOP %1 ").arg(n));
+  return Join(tokens);
+}
+
 void FullVerbs(Tokens& tokens) {
   const size_t verb = FirstOf(tokens);
   if (verb >= tokens.size()) return;

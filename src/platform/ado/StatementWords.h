@@ -21,6 +21,8 @@ void PlainNames(Tokens& tokens);
 void DropOwner(Tokens& tokens, const QString& ownerPrefix);
 // SELECT TOP n ... becomes SELECT ... LIMIT n, within parentheses too.
 void LimitForTop(Tokens& tokens);
+// A SELECT with TOP n, or as it stands when n is 0 or it has a TOP of its own.
+QString WithTop(const QString& select, int n);
 // DELETE t becomes DELETE FROM t, INSERT t becomes INSERT INTO t.
 void FullVerbs(Tokens& tokens);
 // Words beginning with ID_ become upper case: the form in which tables were created.

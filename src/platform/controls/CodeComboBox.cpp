@@ -31,7 +31,7 @@ CodeComboBox::CodeComboBox(QWidget* parent, const QString& name) : QComboBox(par
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   setFocusPolicy(Qt::StrongFocus);
   connect(this, &QComboBox::activated, this, [this] {
-    shown_.clear();
+    Show({});
     Q_EMIT Click();
   });
 }
@@ -41,7 +41,13 @@ void CodeComboBox::Clear() {
   clear();
   codes_.clear();
   noneIndex_ = -1;
-  shown_.clear();
+  Show({});
+}
+
+// A text that is no entry of the list; assistive technology reads the chosen entry alone.
+void CodeComboBox::Show(const QString& text) {
+  shown_ = text;
+  setAccessibleDescription(text);
   update();
 }
 
@@ -72,9 +78,8 @@ void CodeComboBox::Add(const QString& description, const QString& code) {
 
 void CodeComboBox::SetIndex(int index) {
   const QSignalBlocker quiet(this);
-  shown_.clear();
   setCurrentIndex(index >= 0 && index < count() ? index : -1);
-  update();
+  Show({});
 }
 
 QString CodeComboBox::Text() const {
@@ -83,8 +88,7 @@ QString CodeComboBox::Text() const {
 
 void CodeComboBox::SetText(const QString& text) {
   SetIndex(IndexOfText(text));
-  if (currentIndex() < 0) shown_ = text;
-  update();
+  if (currentIndex() < 0) Show(text);
 }
 
 QString CodeComboBox::Code() const {

@@ -54,6 +54,7 @@ class CodeComboBox : public QComboBox {
 
  private:
   void Append(const QString& description, const QString& code);
+  void Show(const QString& text);
 
   std::vector<QString> codes_;
   int noneIndex_ = -1;
