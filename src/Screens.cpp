@@ -5,10 +5,18 @@
 #include "about/frmSplash.h"
 #include "core/Screens.h"
 #include "core/frmTabulon.h"
+#include "directory/frmLibraryBillingInfo.h"
+#include "directory/frmLibraryLoginInfo.h"
+#include "directory/frmLibraryRegistration.h"
+#include "directory/frmLibrarySearch.h"
+#include "directory/frmLibraryStatisticalInfo.h"
 #include "editors/CodeTables.h"
 #include "editors/Exceptions.h"
+#include "editors/Invoicing.h"
 #include "editors/LoansTab.h"
 #include "editors/Miscellaneous.h"
+#include "editors/frmAddExceptionNotes.h"
+#include "editors/frmLoans.h"
 #include "reference/frmCurrencyCodes.h"
 #include "reference/frmGeneralMessages.h"
 #include "reference/frmISONamespace.h"
@@ -16,11 +24,6 @@
 #include "reference/frmItemType.h"
 #include "reference/frmNotifyPatronMessages.h"
 #include "reference/frmServiceCode.h"
-#include "editors/frmAddExceptionNotes.h"
-#include "editors/Invoicing.h"
-#include "editors/LoansTab.h"
-#include "editors/Miscellaneous.h"
-#include "editors/frmLoans.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
@@ -50,4 +53,9 @@ void RegisterDialogs() {
   RegisterScreen<frmItemType>("frmItemType");
   RegisterScreen<frmAddExceptionNotes>("frmAddExceptionNotes");
   RegisterScreen<frmLoans>("frmLoans");
+  RegisterScreen<frmLibraryRegistration>("frmLibraryRegistration");
+  RegisterScreen<frmLibraryLoginInfo>("frmLibraryLoginInfo");
+  RegisterScreen<frmLibraryStatisticalInfo>("frmLibraryStatisticalInfo");
+  RegisterScreen<frmLibraryBillingInfo>("frmLibraryBillingInfo");
+  RegisterScreen<frmLibrarySearch>("frmLibrarySearch");
 }

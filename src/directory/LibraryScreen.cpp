@@ -253,7 +253,7 @@ bool LibraryScreen::SymbolIsGiven() {
 }
 
 QString LibraryScreen::PresentDate() {
-  return gclsOF->SqlDate(Clock::Today());
+  return gclsOF->SqlDate(Clock::Now());
 }
 
 QString LibraryScreen::UpdateOfRecord(const ColumnValues& values) {

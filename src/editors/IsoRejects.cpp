@@ -33,6 +33,7 @@ IsoRejects::IsoRejects(frmTabulon& shell, const ExceptionCodes& codes) : Excepti
 
 void IsoRejects::BuildControls() {
   txt8RejectTypeCode->setReadOnly(true);
+  txt8RejectTypeCode->setFocusPolicy(Qt::ClickFocus);
   txt8RejectTypeCode->setFixedWidth(Form::FieldWidth(txt8RejectTypeCode, 5));
   txt8RejectTypeCode->setAccessibleName("Reject Type Code");
   cmb8ISOMessage->setMinimumContentsLength(48);
@@ -40,6 +41,7 @@ void IsoRejects::BuildControls() {
   Form::Rows rows(fields);
   rows.Add("lbl8RejectType", "Reject Type :", cmb8RejectType, txt8RejectTypeCode);
   rows.Add("lbl8ISOMessage", "ISO Message:", cmb8ISOMessage);
+  fields->layout()->setContentsMargins(0, 0, 0, 0);
   grd8ISO->setAccessibleName("ISO reject codes");
   Form::Column(this, {fields, grd8ISO})->setStretch(1, 1);
   Form::TabOrder({cmb8RejectType, cmb8ISOMessage, grd8ISO});

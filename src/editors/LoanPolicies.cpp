@@ -55,6 +55,9 @@ void LoanPolicies::BuildControls() {
   left.Add("lbl6FinalOverdue", "Final Overdue:", txt6FinalOverdue);
   left.Stretch();
 
+  for (const PolicyField& field : fields_)
+    if (field.gridColumn == 0) field.box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
   QGroupBox* const messages = Form::Frame(this, "fra6Messages", "Messages");
   Form::Rows right(messages);
   right.Add("lbl6MessageRenewal", "Renewal:", txt6MessageRenewal);
@@ -154,7 +157,10 @@ void LoanPolicies::grd6aTable_SelChange() {
   const FillingFields filling;
   const QStringList& record = RecordOf(row);
   txt6LoanCode->SetText(record.front());
-  for (size_t at = 0; at < fields_.size(); ++at) fields_[at].box->SetText(record.at(static_cast<int>(at) + 1));
+  for (size_t at = 0; at < fields_.size(); ++at) {
+    fields_[at].box->SetText(record.at(static_cast<int>(at) + 1));
+    fields_[at].box->home(false);  // a long text shows its beginning
+  }
   form_.SetRecordModified(RenewsFromDueDate() != loadedFromDueDate_);
 }
 
@@ -179,8 +185,7 @@ QStringList LoanPolicies::Typed() const {
 }
 
 bool LoanPolicies::HasDigits(const PolicyField& field) {
-  if (!Numbers::IsNumeric(field.box->Text()))
-    return form_.Refuse(field.refusal, MessageStyle::Warning, txt6LoanCode);
+  if (!Numbers::IsNumeric(field.box->Text())) return form_.Refuse(field.refusal, MessageStyle::Warning, txt6LoanCode);
   field.box->TrimInPlace();
   return true;
 }

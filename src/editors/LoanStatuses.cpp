@@ -47,10 +47,8 @@ void LoanStatuses::BuildControls() {
   rows.Add("lbl6UserDisplay", "User Display:", opt6UserDisplay->Row());
   rows.Add(lbl6bLoanCharge, txt6bLoanCharge);
   (new QHBoxLayout(frm6bFixedCharge))->addWidget(opt6bFixedCharge->Row());
-  auto* const fixed = new QHBoxLayout;
-  fixed->addWidget(frm6bFixedCharge);
-  fixed->addStretch();
-  rows.Wide(fixed);
+  frm6bFixedCharge->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+  rows.Wide(frm6bFixedCharge);
   Form::Column(this, {inputs})->addWidget(grd6bTable, 1);
 
   const char* const headings[] = {"", "Code", "Description", "Loan Charge", "Fixed", "Loan Complete", "User Display"};
@@ -59,7 +57,6 @@ void LoanStatuses::BuildControls() {
     grd6bTable->SetHeading(col, headings[col]);
     grd6bTable->SetColWidth(col, widths[col]);
   }
-  grd6bTable->AlignRight(LoanCharge);
   grd6bTable->setAccessibleName("Loan statuses");
 }
 

@@ -38,6 +38,7 @@ ValidExceptions::ValidExceptions(frmTabulon& shell, const ExceptionCodes& codes)
 void ValidExceptions::BuildControls() {
   for (TextBox* box : {txt8ProcessCode, txt8ProcessType, txt8Type}) {
     box->setReadOnly(true);
+    box->setFocusPolicy(Qt::ClickFocus);
     box->setFixedWidth(Form::FieldWidth(box, 5));
   }
   txt8ProcessCode->setAccessibleName("Exception Code");
@@ -59,6 +60,7 @@ void ValidExceptions::BuildControls() {
   rows.Add("lbl8Reroute1", "Reroute:", cmb8Reroute1);
   rows.Beside("lbl8DeliverySource", "Delivery Source:", cmb8DeliverySource);
   rows.Add(lblExceptionNote, txtExceptionNote, cmdMoreNotes);
+  fields->layout()->setContentsMargins(0, 0, 0, 0);
   grd8Document->setAccessibleName("Valid exceptions");
   Form::Column(this, {fields, grd8Document})->setStretch(1, 1);
   Form::TabOrder({cmb8DocumentSupply, cmb8ProcessType, txt8Message1, cmb8Reroute1, cmb8DeliverySource, txtExceptionNote,

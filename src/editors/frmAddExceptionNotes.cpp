@@ -27,6 +27,7 @@ frmAddExceptionNotes::frmAddExceptionNotes(QWidget* parent)
 
 void frmAddExceptionNotes::BuildControls() {
   txtExceptionCode->setReadOnly(true);
+  txtExceptionCode->setFocusPolicy(Qt::ClickFocus);
   txtExceptionCode->setFixedWidth(Form::FieldWidth(txtExceptionCode, 5));
   txtExceptionNote->SetLines(4);
   cmdUp->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
@@ -45,6 +46,7 @@ void frmAddExceptionNotes::BuildControls() {
   Form::Rows rows(fields);
   rows.Add("lblExceptionCode", "Exception Code:", txtExceptionCode);
   rows.Add("lblExceptionNote", "Exception N&ote:", txtExceptionNote);
+  fields->layout()->setContentsMargins(0, 0, 0, 0);
   auto* const order = new QVBoxLayout;
   order->addStretch();
   order->addWidget(cmdUp);
@@ -84,6 +86,7 @@ void frmAddExceptionNotes::Form_Load() {
   txtExceptionCode->SetText(gstrNotesExceptionCode);
   gbSaveExceptionNotes = false;
   PopulateFields();
+  txtExceptionNote->setFocus();
 }
 
 void frmAddExceptionNotes::PopulateFields() {

@@ -4,6 +4,7 @@
 
 #include "core/Messages.h"
 #include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "core/Procedure.h"
 #include "core/WebServiceSettings.h"
 #include "editors/LoanPolicies.h"
@@ -50,9 +51,18 @@ bool frmLoans::Refuse(const QString& text, int style, QWidget* focus) {
 
 void frmLoans::Form_Load() {
   Procedure("frmLoans.Form_Load").Step([this] {
+    ApplyRights();
     statuses_->ShowCharge(gbUseWebService);
     Loans_Tab();
   });
+}
+
+// A right that is missing on the main screen is missing here.
+void frmLoans::ApplyRights() {
+  cmdAdd->setEnabled(gclsOF->CanAdd());
+  cmdUpdate->setEnabled(gclsOF->CanUpdate());
+  cmdDelete->setEnabled(gclsOF->CanDelete());
+  cmdClear->setEnabled(gclsOF->CanUpdate() && gclsOF->CanDelete());
 }
 
 void frmLoans::LoadDataInGrid() {
@@ -77,7 +87,7 @@ void frmLoans::Loans_Tab() {
 void frmLoans::sstab6Loans_Click(int previous) {
   Procedure procedure("frmLoans.sstab6Loans_Click", this);
   procedure.Run([&] {
-    const bool modified = mbRecordModified;
+    const bool modified = mbRecordModified && cmdUpdate->isEnabled();
     const bool update = CloseButtonUpdate();
     const bool goesOn = update ? UpdateOn(previous) : !modified;
     if (!goesOn) {
@@ -90,7 +100,7 @@ void frmLoans::sstab6Loans_Click(int previous) {
 }
 
 bool frmLoans::CloseButtonUpdate() {
-  if (!mbRecordModified) return false;
+  if (!mbRecordModified || !cmdUpdate->isEnabled()) return false;
   return Tell("A record has been modified.\nDo you wish to apply the updates before continuing?",
               MessageStyle::Question) != MessageAnswer::No;
 }

@@ -33,6 +33,7 @@ class frmLoans : public Screen {
 
   void BuildControls();
   void ConnectControls();
+  void ApplyRights();
   void Loans_Tab();
   void sstab6Loans_Click(int previous);
   bool CloseButtonUpdate();

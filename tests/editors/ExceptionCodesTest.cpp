@@ -474,9 +474,7 @@ TEST_F(ExceptionCodesTest, DeleteNeedsACodeOfTheGrid) {
 
 TEST_F(ExceptionCodesTest, ACodeThatIsReferencedIsKept) {
   Enter();
-  Prompt()
-      .Expect(DeleteQuestion, MessageStyle::Question, MessageAnswer::Yes)
-      .Expect(Referenced, MessageStyle::Stop);
+  Prompt().Expect(DeleteQuestion, MessageStyle::Question, MessageAnswer::Yes).Expect(Referenced, MessageStyle::Stop);
   Click("cmdDelete");
   EXPECT_EQ(Count("ID_EXCEPTION_CODE", "EXCEPTION_CODE = 'AAA'"), 1);
   EXPECT_EQ(Text("txt8Code"), "AAA");

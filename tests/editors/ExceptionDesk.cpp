@@ -4,6 +4,7 @@
 
 void ExceptionDesk::SetUp() {
   Desk::SetUp();
+  Transaction rows(Database().OtherClient());
   for (const char* table :
        {"ID_EXCEPTION_NOTE", "ID_EXCEPTION_PROCESS", "ID_ACCESS_EXCEPTION", "ID_EXCEPTION_ISO", "ID_REJ_CALL_NUMBER",
         "ID_REJ_LIB_SYMBOL", "ID_RATE_SUPPLY", "ID_RATE_REJECT", "ID_EXCEPTION_CODE", "ID_EXCEPTION_TYPE",
@@ -17,10 +18,10 @@ void ExceptionDesk::SetUp() {
   insert("ID_EXCEPTION_CODE (EXCEPTION_CODE, EXCEPTION_CODE_DESC, EXCEPTION_TYPE, SERVICE_CHARGE)",
          {"'AAA', 'Alpha', 'B', NULL", "'BBB', 'Beta', 'C', 5.00", "'CCC', 'Gamma', 'L', 12.50",
           "'NNN', 'Neutral', 'N', NULL"});
-  insert("ID_PROCESS_TYPE (PROCESS_TYPE, PROCESS_TYPE_DESC)", {"'LON', 'Loan'", "'REN', 'Renewal'", "'REQ', 'Request'"});
+  insert("ID_PROCESS_TYPE (PROCESS_TYPE, PROCESS_TYPE_DESC)",
+         {"'LON', 'Loan'", "'REN', 'Renewal'", "'REQ', 'Request'"});
   insert("ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME)", {"9001, 'XXX9', 'Test Library'"});
-  insert("ID_SUPPLIER (LIBRARY_ID, SUPPLIER_CODE, SUPPLIER_CAT)",
-         {"9001, 'SUP1', 'I'", "9001, 'MAIL', 'M'"});
+  insert("ID_SUPPLIER (LIBRARY_ID, SUPPLIER_CODE, SUPPLIER_CAT)", {"9001, 'SUP1', 'I'", "9001, 'MAIL', 'M'"});
   insert("ID_EXCEPTION_PROCESS (EXCEPTION_CODE, PROCESS_TYPE, MESSAGE, REROUTE, DELIVERY, EXCEPTION_NOTE)",
          {"'AAA', 'LON', 'Alpha loan', 'Next', 'M', NULL", "'BBB', 'REN', NULL, 'Hold', 'P', 'First'",
           "'AAA', 'REQ', 'Alpha request', NULL, 'D', 'Only note'"});
@@ -28,9 +29,9 @@ void ExceptionDesk::SetUp() {
          {"'BBB', 'REN', 1, 'First'", "'BBB', 'REN', 2, 'Second'", "'AAA', 'REQ', 1, 'Only note'"});
   insert("ID_ACCESS_GROUP (ACCESS_GROUP, ACCESS_GROUP_DESC)", {"'STU', 'Students'", "'STF', 'Staff'"});
   insert("ID_ACCESS_EXCEPTION (ACCESS_GROUP, EXCEPTION_CODE)", {"'STU', 'AAA'", "'STU', 'BBB'"});
-  insert("ID_ISO_UNFILLED (ISO_UNFILLED, ISO_UNFILLED_DESC)",
-         {"1, 'Not available'", "2, 'At bindery'", "3, 'Lost'"});
+  insert("ID_ISO_UNFILLED (ISO_UNFILLED, ISO_UNFILLED_DESC)", {"1, 'Not available'", "2, 'At bindery'", "3, 'Lost'"});
   insert("ID_EXCEPTION_ISO (EXCEPTION_CODE, ISO_UNFILLED)", {"'AAA', 1"});
+  rows.Commit();
 }
 
 void ExceptionDesk::Enter(SubTab subTab) {
@@ -45,10 +46,27 @@ void ExceptionDesk::TakeAway(const QString& flag) {
 }
 
 bool ExceptionDesk::DropConnection() {
-  if (gclsOF->DatabaseType() != 2) return false;
-  Ask("SELECT COUNT(pg_terminate_backend(pid)) FROM pg_stat_activity WHERE datname = current_database() AND pid <> "
-      "pg_backend_pid()");
-  return true;
+  QString sessions, end;
+  switch (TestDatabase::TestEngine()) {
+    case Engine::Sqlite:
+    case Engine::SqlServer:
+      return false;
+    case Engine::PostgreSql:
+      sessions = "SELECT pid FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid()";
+      end = "SELECT pg_terminate_backend(%1)";
+      break;
+    case Engine::MariaDb:
+      sessions = "SELECT ID FROM INFORMATION_SCHEMA.PROCESSLIST WHERE DB = DATABASE() AND ID <> CONNECTION_ID()";
+      end = "KILL %1";
+      break;
+  }
+  QStringList numbers;
+  Recordset rows;
+  for (rows.Open(Database().OtherClient(), sessions); !rows.EOF_(); rows.MoveNext())
+    numbers.append(rows.Fields(0).Value());
+  rows.Close();
+  for (const QString& number : numbers) Another(end.arg(number));
+  return !numbers.isEmpty();
 }
 
 void ExceptionDesk::ShowText(const QString& combo, const QString& text) {

@@ -146,8 +146,7 @@ TEST_F(ExceptionGroupsTest, AddWritesBothKeys) {
   Choose("cmb8dException", "Gamma");
   Prompt().ExpectTitled("Record Added", MessageStyle::Information, Shell().Caption());
   Click("cmdAdd");
-  EXPECT_EQ(Writing(),
-            Texts({"INSERT INTO ID_ACCESS_EXCEPTION (ACCESS_GROUP, EXCEPTION_CODE ) VALUES('STU', 'CCC')"}));
+  EXPECT_EQ(Writing(), Texts({"INSERT INTO ID_ACCESS_EXCEPTION (ACCESS_GROUP, EXCEPTION_CODE ) VALUES('STU', 'CCC')"}));
   EXPECT_EQ(Cell("grd8dTable", Row("grd8dTable"), 1), "CCC");
   EXPECT_EQ(Text("cmb8dException"), "Gamma");
   EXPECT_EQ(Records(), 3);
@@ -235,8 +234,9 @@ TEST_F(ExceptionGroupsTest, AFailureOfDeleteNamesAnotherTableInTheLog) {
 }
 
 TEST_F(ExceptionGroupsTest, ARowThatIsReferencedIsKept) {
-  Another("CREATE TABLE ID_USES_ROW (ACCESS_GROUP VARCHAR(3), EXCEPTION_CODE VARCHAR(3), FOREIGN KEY (ACCESS_GROUP, "
-          "EXCEPTION_CODE) REFERENCES ID_ACCESS_EXCEPTION (ACCESS_GROUP, EXCEPTION_CODE))");
+  Another(
+      "CREATE TABLE ID_USES_ROW (ACCESS_GROUP VARCHAR(3), EXCEPTION_CODE VARCHAR(3), FOREIGN KEY (ACCESS_GROUP, "
+      "EXCEPTION_CODE) REFERENCES ID_ACCESS_EXCEPTION (ACCESS_GROUP, EXCEPTION_CODE))");
   Another("INSERT INTO ID_USES_ROW VALUES('STU', 'AAA')");
   EnterPage();
   Prompt().Expect(DeleteQuestion, MessageStyle::Question, MessageAnswer::Yes).Expect(Referenced, MessageStyle::Stop);

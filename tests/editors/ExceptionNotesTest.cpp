@@ -144,8 +144,9 @@ TEST_F(ExceptionNotesTest, CloseReplacesTheWholeList) {
   Prompt().ExpectTitled("Settings updated.", MessageStyle::Information, "Ostana - Add Exception Notes");
   Click("cmdClose");
   EXPECT_FALSE(IsOpen());
-  const QString into = "INSERT INTO ID_EXCEPTION_NOTE (EXCEPTION_CODE, PROCESS_TYPE, EXCEPTION_NOTE_SEQ, "
-                       "EXCEPTION_NOTE) VALUES('BBB', 'REN', ";
+  const QString into =
+      "INSERT INTO ID_EXCEPTION_NOTE (EXCEPTION_CODE, PROCESS_TYPE, EXCEPTION_NOTE_SEQ, "
+      "EXCEPTION_NOTE) VALUES('BBB', 'REN', ";
   EXPECT_EQ(Writing(),
             Texts({"DELETE FROM ID_EXCEPTION_NOTE WHERE EXCEPTION_CODE = 'BBB' AND PROCESS_TYPE = 'REN'",
                    into + "'1', 'Second')", into + "'2', 'First')", into + "'3', 'It''s third')",

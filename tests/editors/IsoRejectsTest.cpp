@@ -56,8 +56,9 @@ TEST_F(IsoRejectsTest, TheListsAreFilledOnTheFirstVisitAndTheGridOnEvery) {
 TEST_F(IsoRejectsTest, AChoiceOfValidExceptionsIsCarriedOverTheRefill) {
   Enter(Valid);
   SelectRowOf("grd8Document", "REQ", 2);
-  Another("INSERT INTO ID_EXCEPTION_CODE (EXCEPTION_CODE, EXCEPTION_CODE_DESC, EXCEPTION_TYPE) VALUES('AAB', 'Aardvark', "
-          "'B')");
+  Another(
+      "INSERT INTO ID_EXCEPTION_CODE (EXCEPTION_CODE, EXCEPTION_CODE_DESC, EXCEPTION_TYPE) VALUES('AAB', 'Aardvark', "
+      "'B')");
   Go(Iso);
   EXPECT_EQ(Entries("cmb8RejectType").value(1), "Aardvark");
   EXPECT_EQ(Text("cmb8RejectType"), "Alpha");
@@ -215,9 +216,8 @@ TEST_F(IsoRejectsTest, UpdateWritesTheNumberOfTheReason) {
   Statements();
   Prompt().Expect("Record Updated", MessageStyle::Information);
   Trigger("mnuOptionsUpdate");
-  EXPECT_EQ(Statements(),
-            Texts({"SELECT ISO_UNFILLED FROM ID_ISO_UNFILLED WHERE ISO_UNFILLED_DESC = N'At bindery'",
-                   "UPDATE ID_EXCEPTION_ISO SET ISO_UNFILLED = 2 WHERE EXCEPTION_CODE = 'AAA'"}));
+  EXPECT_EQ(Statements(), Texts({"SELECT ISO_UNFILLED FROM ID_ISO_UNFILLED WHERE ISO_UNFILLED_DESC = N'At bindery'",
+                                 "UPDATE ID_EXCEPTION_ISO SET ISO_UNFILLED = 2 WHERE EXCEPTION_CODE = 'AAA'"}));
   EXPECT_EQ(Cell("grd8ISO", 1, 3), "At bindery");
   EXPECT_EQ(Focus(), "cmb8RejectType");
 }
@@ -306,8 +306,9 @@ TEST_F(IsoRejectsTest, DeleteTellsWhatIsMissing) {
 }
 
 TEST_F(IsoRejectsTest, ARowThatIsReferencedIsKept) {
-  Another("CREATE TABLE ID_USES_ISO (EXCEPTION_CODE VARCHAR(3), FOREIGN KEY (EXCEPTION_CODE) REFERENCES "
-          "ID_EXCEPTION_ISO (EXCEPTION_CODE))");
+  Another(
+      "CREATE TABLE ID_USES_ISO (EXCEPTION_CODE VARCHAR(3), FOREIGN KEY (EXCEPTION_CODE) REFERENCES "
+      "ID_EXCEPTION_ISO (EXCEPTION_CODE))");
   Another("INSERT INTO ID_USES_ISO VALUES('AAA')");
   EnterPage();
   SelectRow("grd8ISO", 1);

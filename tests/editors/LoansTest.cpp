@@ -544,6 +544,21 @@ TEST_F(LoansTest, ClosingAChangedRecordOffersTheUpdateAndStays) {
   EXPECT_EQ(Stored("LON_PERIOD", "N"), "30");
 }
 
+TEST_F(LoansTest, AMissingRightIsMissingHereToo) {
+  Another("UPDATE ID_USER_FUNCTION SET UPDATE_FLAG = NULL WHERE USER_ID = 'admin' AND FUNCTION_NAME = 'Tabulon'");
+  Enter();
+  EXPECT_TRUE(IsEnabled("cmdAdd"));
+  EXPECT_FALSE(IsEnabled("cmdUpdate"));
+  EXPECT_TRUE(IsEnabled("cmdDelete"));
+  EXPECT_FALSE(IsEnabled("cmdClear"));
+  Type("txt6LoanPeriod", "30");
+  SelectTab("sstab6Loans", 1);
+  EXPECT_EQ(Find<QTabWidget>("sstab6Loans")->currentIndex(), 1);
+  Type("txt6bDescription", "30");
+  Click("cmdClose");
+  EXPECT_FALSE(loans_->isVisible());
+}
+
 TEST_F(LoansTest, ChangingTheSubTabWithAChangedRecordAsks) {
   Enter();
   Type("txt6LoanPeriod", "30");

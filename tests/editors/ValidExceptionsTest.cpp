@@ -126,8 +126,9 @@ TEST_F(ValidExceptionsTest, ALoanHasItsNoteControlsSwitchedOff) {
 TEST_F(ValidExceptionsTest, TheNoteOfSeveralSendsToTheButton) {
   EnterPage();
   SelectRow("grd8Document", BetaRenewal);
-  const QString words = "This Exception Code has multiple Exception Note records.\n\n"
-                        "Use the 'More Notes' button to modify the Exception Notes.";
+  const QString words =
+      "This Exception Code has multiple Exception Note records.\n\n"
+      "Use the 'More Notes' button to modify the Exception Notes.";
   auto* const note = Find<MemoBox>("txtExceptionNote");
   note->setEnabled(true);  // as a keyboard tool may reach it
   Prompt().Expect(words, MessageStyle::Stop);
@@ -470,8 +471,9 @@ TEST_F(ValidExceptionsTest, DeleteNeedsARowAndItsPair) {
 }
 
 TEST_F(ValidExceptionsTest, APairThatIsReferencedIsKept) {
-  Another("CREATE TABLE ID_USES_PAIR (EXCEPTION_CODE VARCHAR(3), PROCESS_TYPE VARCHAR(3), FOREIGN KEY (EXCEPTION_CODE, "
-          "PROCESS_TYPE) REFERENCES ID_EXCEPTION_PROCESS (EXCEPTION_CODE, PROCESS_TYPE))");
+  Another(
+      "CREATE TABLE ID_USES_PAIR (EXCEPTION_CODE VARCHAR(3), PROCESS_TYPE VARCHAR(3), FOREIGN KEY (EXCEPTION_CODE, "
+      "PROCESS_TYPE) REFERENCES ID_EXCEPTION_PROCESS (EXCEPTION_CODE, PROCESS_TYPE))");
   Another("INSERT INTO ID_USES_PAIR VALUES('AAA', 'LON')");
   EnterPage();
   SelectRow("grd8Document", AlphaLoan);

@@ -285,7 +285,9 @@ void Desk::SelectRow(const QString& name, int row) {
     return;
   }
   Activate(grid->window());
-  const QModelIndex cell = grid->model()->index(row - 1, 1);
+  int col = 1;
+  while (grid->ColHidden(col)) ++col;
+  const QModelIndex cell = grid->model()->index(row - 1, col);
   grid->scrollTo(cell);
   QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->visualRect(cell).center());
 }
