@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "Screens.h"
+#include "core/ModuleState.h"
 #include "core/frmTabulon.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
@@ -56,12 +57,16 @@ int main(int argc, char** argv) {
   TerminalPrompts prompts;
   SetPrompts(&prompts);
   RegisterDialogs();
-  frmTabulon window("\"\" \"admin\" \"secret\"");
-  RegisterTabs(window);
-  window.Form_Initialize();
-  window.show();
-  window.Form_Activate();
-  const int status = Tour(window, folder);
+  int status = 1;
+  {
+    frmTabulon window("\"\" \"admin\" \"secret\"");
+    RegisterTabs(window);
+    window.Form_Initialize();
+    window.show();
+    window.Form_Activate();
+    status = Tour(window, folder);
+  }
   SetPrompts(nullptr);
+  ResetModuleState();  // the connection goes before the application that owns the drivers
   return status;
 }
