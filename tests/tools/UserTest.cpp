@@ -1,3 +1,7 @@
+#include <pty.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "core/PasswordCipher.h"
 #include "core/UserRights.h"
 #include "support/Texts.h"
@@ -30,9 +34,6 @@ TEST_F(UserTest, AUserIsAddedWithADigestOfThePassword) {
   const Result added = Run({"user", "add", "eva", "--password", "Grüße 7"});
   EXPECT_EQ(added.exitCode, 0) << added.err.toStdString();
   EXPECT_TRUE(added.out.contains("tabulon-db user rights eva Tabulon add,update,delete"));
-  EXPECT_FALSE(
-      Record("eva").contains("7"
-                             "7"));
   EXPECT_TRUE(Record("eva").startsWith("pbkdf2-sha256$600000$"));
   EXPECT_TRUE(PasswordRecord::Matches("Grüße 7", Record("eva")));
   EXPECT_EQ(Logon("eva", "Grüße 7", "Tabulon"), "refused");
@@ -46,6 +47,53 @@ TEST_F(UserTest, WithoutTheOptionThePasswordComesFromTheInput) {
   EXPECT_TRUE(refused.err.contains("No password was given."));
   EXPECT_EQ(Run({"user", "add", "max", "--password", ""}).exitCode, 1);
   EXPECT_EQ(Count("ID_USER", "USER_ID = 'max'"), 0);
+}
+
+// Runs the tool on a terminal of its own, types the lines, and gives what the terminal showed.
+QString OnATerminal(const QString& folder, const QByteArrayList& arguments, const QByteArray& typed, int& exitCode) {
+  int terminal = -1;
+  const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
+  if (child == 0) {
+    setenv("OSTANA_HOME", folder.toUtf8().constData(), 1);
+    QByteArrayList all = QByteArrayList{QByteArray(TABULON_BINARY_DIR) + "/tabulon-db"} + arguments;
+    std::vector<char*> texts;
+    for (QByteArray& argument : all) texts.push_back(argument.data());
+    texts.push_back(nullptr);
+    execv(texts[0], texts.data());
+    _exit(127);
+  }
+  QByteArray shown;
+  char buffer[256];
+  qsizetype answered = 0;
+  const QByteArrayList lines = typed.split('\n');
+  // A line is typed when the question that it answers stands there.
+  for (ssize_t count = 0; (count = read(terminal, buffer, sizeof buffer)) > 0;) {
+    shown.append(buffer, count);
+    while (answered < lines.size() && shown.count(": ") > answered) {
+      const QByteArray line = lines[answered++] + '\n';
+      if (write(terminal, line.constData(), static_cast<size_t>(line.size())) < 0) break;
+    }
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  close(terminal);
+  exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return QString::fromUtf8(shown);
+}
+
+TEST_F(UserTest, OnATerminalThePasswordIsAskedForTwiceAndNotShown) {
+  int exitCode = -1;
+  const QString shown = OnATerminal(Folder(), {"user", "add", "eva"}, "hidden\nhidden", exitCode);
+  EXPECT_EQ(exitCode, 0);
+  EXPECT_TRUE(shown.contains("Password of eva: ")) << shown.toStdString();
+  EXPECT_TRUE(shown.contains("The same password again: "));
+  EXPECT_FALSE(shown.contains("hidden"));
+  EXPECT_TRUE(PasswordRecord::Matches("hidden", Record("eva")));
+
+  const QString differing = OnATerminal(Folder(), {"user", "password", "eva"}, "one\nother", exitCode);
+  EXPECT_EQ(exitCode, 1);
+  EXPECT_TRUE(differing.contains("The two passwords differ. Nothing was changed."));
+  EXPECT_TRUE(PasswordRecord::Matches("hidden", Record("eva")));
 }
 
 TEST_F(UserTest, ANameIsTakenOnce) {
