@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "Screens.h"
-#include "core/ModuleState.h"
+#include "core/ProcessEnd.h"
 #include "core/frmTabulon.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
@@ -57,16 +57,12 @@ int main(int argc, char** argv) {
   TerminalPrompts prompts;
   SetPrompts(&prompts);
   RegisterDialogs();
-  int status = 1;
-  {
-    frmTabulon window("\"\" \"admin\" \"secret\"");
-    RegisterTabs(window);
-    window.Form_Initialize();
-    window.show();
-    window.Form_Activate();
-    status = Tour(window, folder);
-  }
-  SetPrompts(nullptr);
-  ResetModuleState();  // the connection goes before the application that owns the drivers
-  return status;
+  frmTabulon window("\"\" \"admin\" \"secret\"");
+  RegisterTabs(window);
+  window.Form_Initialize();
+  window.show();
+  window.Form_Activate();
+  // Ends as the program itself does.
+  EndProcess(Tour(window, folder));
+  return 0;
 }
