@@ -8,6 +8,12 @@
 #include "editors/CodeTables.h"
 #include "editors/LoansTab.h"
 #include "editors/Miscellaneous.h"
+#include "interop/frmAPIServerConnection.h"
+#include "interop/frmISO18626Connect.h"
+#include "interop/frmNCIPProfile.h"
+#include "interop/frmNCIPServerConnection.h"
+#include "interop/frmNCIPStatusCodes.h"
+#include "interop/frmNCIPUnitLibraryMapping.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
@@ -22,4 +28,10 @@ void RegisterDialogs() {
   RegisterScreen<frmSplash>("frmSplash");
   RegisterScreen<frmAboutOstana>("frmAboutOstana");
   RegisterScreen<frmAboutApp>("frmAboutApp");
+  RegisterScreen<frmISO18626Connect>("frmISO18626Connect");
+  RegisterScreen<frmNCIPServerConnection>("frmNCIPServerConnection");
+  RegisterScreen<frmAPIServerConnection>("frmAPIServerConnection");
+  RegisterScreen<frmNCIPStatusCodes>("frmNCIPStatusCodes");
+  RegisterScreen<frmNCIPUnitLibraryMapping>("frmNCIPUnitLibraryMapping");
+  RegisterScreen<frmNCIPProfile>("frmNCIPProfile");
 }
