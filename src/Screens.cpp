@@ -34,6 +34,12 @@
 #include "reference/frmNotifyPatronMessages.h"
 #include "reference/frmPickupLocationEmail.h"
 #include "reference/frmServiceCode.h"
+#include "interop/frmAPIServerConnection.h"
+#include "interop/frmISO18626Connect.h"
+#include "interop/frmNCIPProfile.h"
+#include "interop/frmNCIPServerConnection.h"
+#include "interop/frmNCIPStatusCodes.h"
+#include "interop/frmNCIPUnitLibraryMapping.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
@@ -88,4 +94,10 @@ void RegisterDialogs() {
   RegisterScreen<frmLibraryStatisticalInfo>("frmLibraryStatisticalInfo");
   RegisterScreen<frmLibraryBillingInfo>("frmLibraryBillingInfo");
   RegisterScreen<frmLibrarySearch>("frmLibrarySearch");
+  RegisterScreen<frmISO18626Connect>("frmISO18626Connect");
+  RegisterScreen<frmNCIPServerConnection>("frmNCIPServerConnection");
+  RegisterScreen<frmAPIServerConnection>("frmAPIServerConnection");
+  RegisterScreen<frmNCIPStatusCodes>("frmNCIPStatusCodes");
+  RegisterScreen<frmNCIPUnitLibraryMapping>("frmNCIPUnitLibraryMapping");
+  RegisterScreen<frmNCIPProfile>("frmNCIPProfile");
 }
