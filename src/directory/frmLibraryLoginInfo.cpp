@@ -1,5 +1,7 @@
 #include "directory/frmLibraryLoginInfo.h"
 
+#include <QBoxLayout>
+
 #include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
@@ -50,7 +52,10 @@ void frmLibraryLoginInfo::BuildControls() {
   rows.Add("lblPassword", "Password:", txtPassword);
   rows.Add("lblConfirmPassword", "Confirm Password:", txtConfirmPassword);
   rows.Add("lblLanguage", "Language:", cboLanguageCode);
-  rows.Add("lblLibraryActive", "Library Active:", optActive->Row(), chkLibraryPending);
+  QWidget* const active = optActive->Row();
+  // Before the stretch at the end of the row.
+  static_cast<QBoxLayout*>(active->layout())->insertWidget(optActive->Count(), chkLibraryPending);
+  rows.Add("lblLibraryActive", "Library Active:", active);
   rows.Stretch();
   Compose(content, {cmdUpdate, cmdClear, cmdClose});
   resize(900, 480);
