@@ -12,6 +12,7 @@ namespace {
 
 const QString Null = "NULL";
 constexpr int CallNumberLength = 25;  // characters
+constexpr int LongestKeyword = 200;    // characters, width of the column
 
 // Upper case, without "NULL" (also inside a word) and apostrophes; hyphens, commas and full stops part words.
 QString Normalised(const QStringList& texts) {
@@ -33,7 +34,7 @@ void InsertWords(const QString& table, QString text, const QString& requestNumbe
   if (text.trimmed().isEmpty()) return;
   for (const QString& noise : gclsOF->KeywordNoiseStrings()) text.remove(noise.toUpper());
   for (const QString& word : text.split(' ', Qt::SkipEmptyParts)) {
-    const QString keyword = word.trimmed();
+    const QString keyword = word.trimmed().left(LongestKeyword);
     if (keyword.size() > 1 && !gclsOF->KeywordStopWords().contains(keyword, Qt::CaseInsensitive))
       InsertKeyword(table, keyword, requestNumber);
   }
