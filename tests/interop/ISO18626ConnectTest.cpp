@@ -638,13 +638,9 @@ TEST_F(ISO18626ConnectTest, AllOfItCanBeDoneWithTheKeyboard) {
   AddConnection("C1");
   AddConnection("C2");
   OpenPicker();
-  QStringList order;
-  for (int step = 0; step < 9; ++step) {
-    order.append(Focus());
-    Press(Focus(), Qt::Key_Tab);
-  }
-  EXPECT_EQ(order, (QStringList{"txtConnectionID", "cmbILLSystem", "cmbVersion", "cmbAuthType", "cmbConnectionType",
-                                "txtHostAddress", "txtUrl", "txtPort", "chkRetryEnabled"}));
+  EXPECT_EQ(TabStops("txtConnectionID", 9),
+            (QStringList{"txtConnectionID", "cmbILLSystem", "cmbVersion", "cmbAuthType", "cmbConnectionType",
+                         "txtHostAddress", "txtUrl", "txtPort", "chkRetryEnabled"}));
   Press(Grid1, Qt::Key_Down);
   EXPECT_EQ(Text("txtConnectionID"), "C1");
   Press(Grid1, Qt::Key_Down);

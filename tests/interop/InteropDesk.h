@@ -38,5 +38,15 @@ class InteropDesk : public Desk {
     const QStringList lines = LogLines();
     return lines.value(lines.size() - 1 - back).section("* ", 1);
   }
+  // Where Tab leads from the first control on.
+  QStringList TabStops(const QString& first, int count) {
+    QStringList stops;
+    Find<QWidget>(first)->setFocus();
+    for (int stop = 0; stop < count; ++stop) {
+      stops.append(Focus());
+      Press(Focus(), Qt::Key_Tab);
+    }
+    return stops;
+  }
   bool IsOpen() const { return Window() != nullptr && Window()->isVisible(); }
 };

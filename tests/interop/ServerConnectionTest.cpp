@@ -481,6 +481,22 @@ TEST_F(ServerConnectionTest, TheWindowsOwnCloseButtonIsCancel) {
   }
 }
 
+TEST_F(ServerConnectionTest, TabGoesThroughTheFieldsInReadingOrder) {
+  OpenForm(NcipForm);
+  EXPECT_EQ(TabStops("cmbNCIPSystem", 13),
+            (QStringList{"cmbNCIPSystem", "cmbConnect", "txtServerAddress", "txtNCIPURL", "txtPort", "rdVersion(0)",
+                         "txtApplicationProfile", "txtServerAgency", "txtAgencySchema", "txtToAgency", "txtFromAgency",
+                         "txtAgencyAuthentication", "chkLookupUser"}));
+  EXPECT_EQ(TabStops("chkDeleteItem", 5),
+            (QStringList{"chkDeleteItem", "cmdOK", "cmdDelete", "cmdCancel", "cmbNCIPSystem"}));
+  Click("cmdCancel");
+  OpenForm(ApiForm);
+  Click("rdUseAllLocationsNo");
+  EXPECT_EQ(TabStops("cmbILSSystem", 10),
+            (QStringList{"cmbILSSystem", "cmbConnect", "txtServerAddress", "txtAPIURL", "txtPort",
+                         "rdUseAllLocationsNo", "txtValidLocations", "cmdOK", "cmdDelete", "cmdCancel"}));
+}
+
 TEST_F(ServerConnectionTest, PicturesOfThem) {
   AddNcip(Server, "2.1", "YYNYNNYYNNYNYNY");
   AddApi(Own, "N");
