@@ -11,6 +11,7 @@
 #include "directory/frmLibrarySearch.h"
 #include "directory/frmLibraryStatisticalInfo.h"
 #include "editors/CodeTables.h"
+#include "editors/Delivery.h"
 #include "editors/Exceptions.h"
 #include "editors/Invoicing.h"
 #include "editors/LoansTab.h"
@@ -29,6 +30,9 @@ void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
                MakeTab(&CodeTables::CodeTables_Tab, &CodeTables::CodeTables_Add, &CodeTables::CodeTables_Update,
                        &CodeTables::CodeTables_Delete, &CodeTables::CodeTables_Clear));
+  shell.SetTab(frmTabulon::DeliveryTab,
+               MakeTab(&Delivery::Delivery_Tab, &Delivery::Delivery_Add, &Delivery::Delivery_Update,
+                       &Delivery::Delivery_Delete, &Delivery::Delivery_Clear));
   shell.SetTab(frmTabulon::LoansTab, MakeTab(&LoansTab::Loans_Tab, nullptr, nullptr, nullptr, nullptr));
   shell.SetTab(frmTabulon::ExceptionsTab,
                MakeTab(&Exceptions::EnterTab, &Exceptions::Exception_Add, &Exceptions::Exception_Update,
