@@ -20,6 +20,7 @@
 #include "editors/CodeTables.h"
 #include "editors/CoverPages.h"
 #include "editors/Departments.h"
+#include "editors/Delivery.h"
 #include "editors/Exceptions.h"
 #include "editors/Invoicing.h"
 #include "editors/LoansTab.h"
@@ -66,6 +67,9 @@ void RegisterTabs(frmTabulon& shell) {
                        &RequestType::RequestType_Clear));
   shell.SetTab(frmTabulon::AuditTab,
                MakeTab(&Audit::Audit_Tab, &Audit::Audit_Add, &Audit::Audit_Update, nullptr, &Audit::Audit_Clear));
+  shell.SetTab(frmTabulon::DeliveryTab,
+               MakeTab(&Delivery::Delivery_Tab, &Delivery::Delivery_Add, &Delivery::Delivery_Update,
+                       &Delivery::Delivery_Delete, &Delivery::Delivery_Clear));
   shell.SetTab(frmTabulon::LoansTab, MakeTab(&LoansTab::Loans_Tab, nullptr, nullptr, nullptr, nullptr));
   shell.SetTab(frmTabulon::ExceptionsTab,
                MakeTab(&Exceptions::EnterTab, &Exceptions::Exception_Add, &Exceptions::Exception_Update,
