@@ -31,6 +31,9 @@ void ResetModuleState() {
   gstrCoverRequestType.clear();
   glngNCIPLibraryId = 0;
   glngFoundLibraryId = 0;
+  gstrNotesExceptionCode.clear();
+  gstrNotesProcessType.clear();
+  gbSaveExceptionNotes = false;
   gbSettingsChanged = false;
   gstrISO18626ConnectionId.clear();
   gbISO18626SelectionMode = true;

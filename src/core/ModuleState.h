@@ -53,6 +53,9 @@ inline QString gstrSupplierCode;                 // input of frmSupplierRegistra
 inline QString gstrCoverRequestType;             // request type of the notice e-mail dialogs
 inline qint32 glngNCIPLibraryId = 0;             // owner of the NCIP connection and the unit mapping
 inline qint32 glngFoundLibraryId = 0;            // library found by the contact screen's look-up
+inline QString gstrNotesExceptionCode;           // pair whose notes frmAddExceptionNotes edits: exception code
+inline QString gstrNotesProcessType;             // and process type
+inline bool gbSaveExceptionNotes = false;        // its note list differs from the table
 inline bool gbSettingsChanged = false;           // the profile list differs from its table
 inline QString gstrISO18626ConnectionId;         // hand-over of the connection picker, both ways
 inline bool gbISO18626SelectionMode = true;      // the connection screen is opened as a picker

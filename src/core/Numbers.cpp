@@ -79,4 +79,9 @@ double Val(const QString& text) {
   return number.match(WithPointOnly(text)).captured(1).toDouble();
 }
 
+bool Same(const QString& text, const QString& other) {
+  const bool blank = text.trimmed().isEmpty();
+  return blank == other.trimmed().isEmpty() && (blank || Val(text) == Val(other));
+}
+
 }  // namespace Numbers

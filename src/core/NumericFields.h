@@ -29,4 +29,6 @@ QString Format(double value, const QString& pattern);
 bool IsNumeric(const QString& text);
 // The number at the start of the text, the locale's separator or "."; 0 when there is none.
 double Val(const QString& text);
+// Two writings of one number, "5" and "5.00"; a blank text equals only another one.
+bool Same(const QString& text, const QString& other);
 }  // namespace Numbers

@@ -13,10 +13,16 @@ std::map<QString, ScreenMaker>& Makers() {
   return makers;
 }
 
-// Successors named so far, one for each chain of screens that is open: Find Library opens a chain over a chain.
-std::vector<QString>& Successors() {
-  static std::vector<QString> successors;
-  return successors;
+// A chain of screens, each shown in the place of the one before.
+struct Chain {
+  QString next;
+  std::vector<std::function<void()>> afterwards;
+};
+
+// The chains that are open: Find Library opens a chain over a chain.
+std::vector<Chain>& Chains() {
+  static std::vector<Chain> chains;
+  return chains;
 }
 
 }  // namespace
@@ -37,20 +43,23 @@ QStringList RegisteredScreens() {
 
 void ShowModal(const QString& formName, QWidget* owner) {
   QWidget* const window = owner ? owner->window() : QApplication::activeWindow();
-  Successors().emplace_back();
+  Chains().emplace_back();
   try {
-    for (QString name = formName; !name.isEmpty(); name = std::exchange(Successors().back(), QString()))
+    for (QString name = formName; !name.isEmpty(); name = std::exchange(Chains().back().next, QString()))
       MakeScreen(name, window)->ShowModal();
   } catch (...) {
-    Successors().pop_back();
+    Chains().pop_back();
     throw;
   }
-  Successors().pop_back();
+  const Chain ended = std::move(Chains().back());
+  Chains().pop_back();
+  for (auto after = ended.afterwards.rbegin(); after != ended.afterwards.rend(); ++after) (*after)();
   auto* const form = dynamic_cast<ActivatedForm*>(window);
   if (form && window->isVisible()) form->Form_Activate();
 }
 
-void ShowNext(const QString& formName) {
-  if (Successors().empty()) throw std::logic_error("No modal screen is open to be followed");
-  Successors().back() = formName;
+void ShowNext(const QString& formName, std::function<void()> afterwards) {
+  if (Chains().empty()) throw std::logic_error("No modal screen is open to be followed");
+  Chains().back().next = formName;
+  if (afterwards) Chains().back().afterwards.push_back(std::move(afterwards));
 }

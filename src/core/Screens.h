@@ -22,5 +22,6 @@ QStringList RegisteredScreens();
 // Opens the screen as a modal dialog over `owner` (the active window when null) and returns when the user has closed
 // it and every successor it named. An unknown name is a std::logic_error.
 void ShowModal(const QString& formName, QWidget* owner = nullptr);
-// For a screen that hands its record on: it unloads itself and names what is shown next, in its place.
-void ShowNext(const QString& formName);
+// For a screen that hands its record on: it unloads itself and names what is shown next, in its place. `afterwards`
+// runs when that screen and every one that followed it have been closed, the last one named first.
+void ShowNext(const QString& formName, std::function<void()> afterwards = {});

@@ -13,10 +13,11 @@ QString Literal(const Connection& connection, const QString& text) {
   return "N'" + connection.dialect().Escape(text) + "'";
 }
 
-// A record that no password matches: an unknown user takes as long as a wrong password.
-const QString& NobodysRecord() {
-  static const QString record = PasswordRecord::Make("nobody");
-  return record;
+// A sound record that no password matches: an unknown user takes as long as a wrong password.
+QString NobodysRecord() {
+  return QStringLiteral("pbkdf2-sha256$%1$%2$%3")
+      .arg(PasswordRecord::Iterations)
+      .arg(QString(QByteArray(16, '\0').toBase64()), QString(QByteArray(32, '\0').toBase64()));
 }
 
 QString ReadPasswordRecord(Connection& connection, const QString& user) {

@@ -41,7 +41,7 @@ constexpr std::array<ServiceKey, 15> ServiceKeys{{{"ServerPort", false},
 
 bool FatalExit(const QString& text) {
   ShowMessage(text, MessageStyle::Stop);
-  EndProcess();
+  EndProcess(1);
   return false;
 }
 

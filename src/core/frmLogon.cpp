@@ -40,12 +40,13 @@ void frmLogon::BuildControls() {
   cmdOK = Form::Button(this, "cmdOK", "OK");
   cmdOK->setDefault(true);
   cmdCancel = Form::Button(this, "cmdCancel", "Cancel");
-  cmdCancel->setAutoDefault(false);
 
   auto* const fields = new QWidget(this);
   Form::Rows rows(fields);
   rows.Add("lblUser", "&User:", txtUser);
   rows.Add("lblPassword", "&Password:", txtPassword);
+  // Both as wide as most entries need; a longer password scrolls.
+  for (TextBox* field : {txtUser, txtPassword}) field->setFixedWidth(Form::FieldWidth(field, 30));
   auto* const column = Form::Column(this, {fields});
   column->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}));
   Form::TabOrder({txtUser, txtPassword, cmdOK, cmdCancel});

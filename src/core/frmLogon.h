@@ -19,7 +19,7 @@ class frmLogon : public QDialog {
   void accept() override;
 
  private:
-  TextBox* const txtUser = new TextBox(this, "txtUser", 50);
+  TextBox* const txtUser = new TextBox(this, "txtUser", 20);
   TextBox* const txtPassword = new TextBox(this, "txtPassword", 128);
   QPushButton* cmdOK = nullptr;
   QPushButton* cmdCancel = nullptr;

@@ -65,6 +65,8 @@ void frmTabulon::Enter(int index) {
   if (!pages_[at]) {
     pages_[at] = rows_[at].make(*this);
     sstabtables_->widget(index)->layout()->addWidget(pages_[at]);
+    // The layout would show it only when the event loop runs again, too late for the entry to set a focus.
+    pages_[at]->show();
   }
   buttonState();
   rows_[at].entry(*pages_[at]);

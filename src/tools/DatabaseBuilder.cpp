@@ -5,7 +5,6 @@
 #include <QFileInfo>
 
 #include "platform/ado/SqlTokens.h"
-#include "tools/Languages.h"
 #include "tools/SchemaModel.h"
 #include "tools/SchemaStatements.h"
 #include "tools/SqlScript.h"
@@ -14,8 +13,7 @@
 namespace {
 
 const QString Source = QStringLiteral("DatabaseBuilder");
-const QStringList ReferenceLanguages{"ENG"};
-const QStringList SampleLanguages{"ENG", "FRE", "GER"};
+const QString ReferenceLanguage = QStringLiteral("ENG");
 
 // --- Databases ---
 
@@ -24,11 +22,12 @@ bool MakeFile(const QString& path) {
   if (info.exists()) return false;
   QFile file(path);
   if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return true;
-  throw AdoError(AdoNumber::Unspecified,
-                 QStringLiteral("The database file \"%1\" could not be made (%2). Check that its folder exists and that "
-                                "this user may write there.")
-                     .arg(QDir::toNativeSeparators(path), file.errorString()),
-                 Source);
+  throw AdoError(
+      AdoNumber::Unspecified,
+      QStringLiteral("The database file \"%1\" could not be made (%2). Check that its folder exists and that "
+                     "this user may write there.")
+          .arg(QDir::toNativeSeparators(path), file.errorString()),
+      Source);
 }
 
 struct ServerWords {
@@ -41,7 +40,8 @@ ServerWords WordsOf(Engine engine) {
   if (engine == Engine::MariaDb)
     return {"information_schema", "SELECT SCHEMA_NAME FROM INFORMATION_SCHEMA.SCHEMATA",
             "CREATE DATABASE %1 CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin"};
-  return {"postgres", "SELECT datname FROM pg_catalog.pg_database", "CREATE DATABASE %1 ENCODING 'UTF8' TEMPLATE template0"};
+  return {"postgres", "SELECT datname FROM pg_catalog.pg_database",
+          "CREATE DATABASE %1 ENCODING 'UTF8' TEMPLATE template0"};
 }
 
 bool MakeOnServer(const ConnectionSettings& settings) {
@@ -90,10 +90,11 @@ void CreateTables(Connection& connection, const QStringList& languages, int& cre
   for (const QString& index : statements.CreateIndexes(model)) connection.Execute(index);
 }
 
-void InsertRows(Connection& connection, DatabaseBuilder::Rows rows, const QStringList& languages) {
+void InsertRows(Connection& connection, DatabaseBuilder::Rows rows, const std::vector<Languages::Language>& further) {
   DatabaseBuilder::RunScript(connection, SqlScript::Text("reference.sql"));
+  for (const Languages::Language& language : further) Languages::AddRow(connection, language);
   if (rows == DatabaseBuilder::Rows::Sample) DatabaseBuilder::RunScript(connection, SqlScript::Text("sample.sql"));
-  Languages::FillEmptyDescriptions(connection, languages);
+  Languages::FillEmptyDescriptions(connection, Languages::Codes(connection));
 }
 
 void DropTables(Connection& connection, int created) {
@@ -131,8 +132,9 @@ bool DatabaseBuilder::HasTables(Connection& connection) {
   return !connection.Tables().isEmpty();
 }
 
-void DatabaseBuilder::Create(Connection& connection, Rows rows) {
-  const QStringList& languages = rows == Rows::Sample ? SampleLanguages : ReferenceLanguages;
+void DatabaseBuilder::Create(Connection& connection, Rows rows, const std::vector<Languages::Language>& further) {
+  QStringList languages{ReferenceLanguage};
+  for (const Languages::Language& language : further) languages += language.code;
   connection.EnsureOpen();
   MakeOwner(connection);
   int created = 0;
@@ -144,7 +146,7 @@ void DatabaseBuilder::Create(Connection& connection, Rows rows) {
   if (connection.Settings().engine != Engine::MariaDb) {
     Transaction transaction(connection);
     tables();
-    InsertRows(connection, rows, languages);
+    InsertRows(connection, rows, further);
     transaction.Commit();
     return;
   }
@@ -152,7 +154,7 @@ void DatabaseBuilder::Create(Connection& connection, Rows rows) {
   try {
     tables();
     Transaction transaction(connection);
-    InsertRows(connection, rows, languages);
+    InsertRows(connection, rows, further);
     transaction.Commit();
   } catch (const AdoError&) {
     if (connection.State() == Connection::Opened) DropTables(connection, created);

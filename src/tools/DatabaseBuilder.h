@@ -3,6 +3,7 @@
 #include <QStringList>
 
 #include "platform/ado/Connection.h"
+#include "tools/Languages.h"
 
 // Makes the tables and rows of a database. Failures are AdoErrors.
 namespace DatabaseBuilder {
@@ -16,8 +17,9 @@ bool MakeMissing(const ConnectionSettings& settings);
 // True when the database holds tables of the system already.
 bool HasTables(Connection& connection);
 
-// Tables, keys, indexes and rows. What was made is gone again when it fails.
-void Create(Connection& connection, Rows rows);
+// Tables, keys, indexes and rows, with the language of the reference rows, English, and the further ones that are
+// named. The rows of the sample need FRE and GER among them. What was made is gone again when it fails.
+void Create(Connection& connection, Rows rows, const std::vector<Languages::Language>& further = {});
 
 // Runs a script whose statements name tables without owner.
 void RunScript(Connection& connection, const QString& text);

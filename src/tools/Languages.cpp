@@ -11,9 +11,8 @@ namespace {
 
 bool HasColumn(Connection& connection, const QString& table, const QString& column) {
   const auto& columns = connection.Columns(table);
-  return std::any_of(columns.begin(), columns.end(), [&](const ColumnInfo& info) {
-    return info.name.compare(column, Qt::CaseInsensitive) == 0;
-  });
+  return std::any_of(columns.begin(), columns.end(),
+                     [&](const ColumnInfo& info) { return info.name.compare(column, Qt::CaseInsensitive) == 0; });
 }
 
 int AddWhereMissing(Connection& connection, const QString& table, const SchemaColumn& column) {
@@ -29,26 +28,12 @@ void ForEachDescription(const std::function<void(const SchemaTable&, const Schem
       if (column.language) body(table, column);
 }
 
-void AddRow(Connection& connection, const QString& code, const QString& description) {
-  const QString literal = ToolSql::Literal(connection, description);
-  QString columns = "LANGUAGE_CODE, LANGUAGE_CODE_DESC";
-  QString values = ToolSql::Literal(connection, code) + ", " + literal;
-  for (const QString& language : Languages::Codes(connection) + QStringList{code}) {
-    if (!HasColumn(connection, "ID_LANGUAGE_CODE", LanguageColumn("LANGUAGE_CODE_DESC", language))) continue;
-    columns += ", " + LanguageColumn("LANGUAGE_CODE_DESC", language);
-    values += ", " + literal;
-  }
-  connection.Execute("INSERT INTO " + ToolSql::Table(connection, "ID_LANGUAGE_CODE") + " (" + columns + ") VALUES (" +
-                     values + ')');
-}
-
-int AddAll(Connection& connection, const QString& code, const QString& description, bool legacyColumns) {
-  int added = Languages::AddColumns(connection, code);
-  if (!Languages::Codes(connection).contains(code)) AddRow(connection, code, description);
-  Languages::FillEmptyDescriptions(connection, {code});
+int AddAll(Connection& connection, const Languages::Language& language, bool legacyColumns) {
+  int added = Languages::AddColumns(connection, language.code);
+  if (!Languages::Codes(connection).contains(language.code)) Languages::AddRow(connection, language);
+  Languages::FillEmptyDescriptions(connection, {language.code});
   if (legacyColumns)
-    for (const QString& language : Languages::Codes(connection))
-      added += Languages::AddLegacyColumns(connection, language);
+    for (const QString& code : Languages::Codes(connection)) added += Languages::AddLegacyColumns(connection, code);
   return added;
 }
 
@@ -84,6 +69,19 @@ int Languages::AddLegacyColumns(Connection& connection, const QString& language)
   return added;
 }
 
+void Languages::AddRow(Connection& connection, const Language& language) {
+  const QString literal = ToolSql::Literal(connection, language.description);
+  QString columns = "LANGUAGE_CODE, LANGUAGE_CODE_DESC";
+  QString values = ToolSql::Literal(connection, language.code) + ", " + literal;
+  for (const QString& code : Codes(connection) + QStringList{language.code}) {
+    if (!HasColumn(connection, "ID_LANGUAGE_CODE", LanguageColumn("LANGUAGE_CODE_DESC", code))) continue;
+    columns += ", " + LanguageColumn("LANGUAGE_CODE_DESC", code);
+    values += ", " + literal;
+  }
+  connection.Execute("INSERT INTO " + ToolSql::Table(connection, "ID_LANGUAGE_CODE") + " (" + columns + ") VALUES (" +
+                     values + ')');
+}
+
 void Languages::FillEmptyDescriptions(Connection& connection, const QStringList& languages) {
   ForEachDescription([&](const SchemaTable& table, const SchemaColumn& column) {
     for (const QString& language : languages) {
@@ -94,11 +92,11 @@ void Languages::FillEmptyDescriptions(Connection& connection, const QStringList&
   });
 }
 
-int Languages::Add(Connection& connection, const QString& code, const QString& description, bool legacyColumns) {
+int Languages::Add(Connection& connection, const Language& language, bool legacyColumns) {
   // MariaDB commits at each change of a table.
-  if (connection.Settings().engine == Engine::MariaDb) return AddAll(connection, code, description, legacyColumns);
+  if (connection.Settings().engine == Engine::MariaDb) return AddAll(connection, language, legacyColumns);
   Transaction transaction(connection);
-  const int added = AddAll(connection, code, description, legacyColumns);
+  const int added = AddAll(connection, language, legacyColumns);
   transaction.Commit();
   return added;
 }

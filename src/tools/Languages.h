@@ -11,6 +11,11 @@ namespace Languages {
 // Three characters, a letter first: the part of column names behind "_".
 bool IsCode(const QString& code);
 
+struct Language {
+  QString code;
+  QString description;
+};
+
 // Codes of ID_LANGUAGE_CODE, in order.
 QStringList Codes(Connection& connection);
 
@@ -26,10 +31,13 @@ std::vector<LegacyColumn> LegacyColumns();
 int AddColumns(Connection& connection, const QString& language);
 int AddLegacyColumns(Connection& connection, const QString& language);
 
+// The row of a language whose columns are there.
+void AddRow(Connection& connection, const Language& language);
+
 // Descriptions of the default language go where a language has none.
 void FillEmptyDescriptions(Connection& connection, const QStringList& languages);
 
 // The row, the columns, the descriptions. Number of columns added. A language that is there already is completed.
-int Add(Connection& connection, const QString& code, const QString& description, bool legacyColumns);
+int Add(Connection& connection, const Language& language, bool legacyColumns);
 
 }  // namespace Languages

@@ -78,8 +78,9 @@ class Parser {
     if (Accept(word)) return;
     QString rest;
     for (size_t i = position_; i < tokens_.size() && rest.size() < 40; ++i) rest += tokens_[i].text;
-    throw std::runtime_error(
-        QStringLiteral("The schema has \"%1\" where %2 is expected.").arg(rest.simplified(), QLatin1String(word)).toStdString());
+    throw std::runtime_error(QStringLiteral("The schema has \"%1\" where %2 is expected.")
+                                 .arg(rest.simplified(), QLatin1String(word))
+                                 .toStdString());
   }
 
   QStringList Names() {
@@ -175,9 +176,8 @@ class Parser {
 
 template <class Named>
 const Named* FindNamed(const std::vector<Named>& all, const QString& name) {
-  const auto found = std::find_if(all.begin(), all.end(), [&](const Named& one) {
-    return one.name.compare(name, Qt::CaseInsensitive) == 0;
-  });
+  const auto found = std::find_if(all.begin(), all.end(),
+                                  [&](const Named& one) { return one.name.compare(name, Qt::CaseInsensitive) == 0; });
   return found == all.end() ? nullptr : &*found;
 }
 

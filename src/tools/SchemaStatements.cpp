@@ -11,9 +11,8 @@ bool BeginsWith(const QStringList& key, const QStringList& columns) {
 bool HasIndex(const SchemaModel& model, const SchemaTable& table, const QStringList& columns) {
   const auto begins = [&](const QStringList& key) { return BeginsWith(key, columns); };
   return begins(table.primaryKey) || std::any_of(table.uniqueKeys.begin(), table.uniqueKeys.end(), begins) ||
-         std::any_of(model.indexes.begin(), model.indexes.end(), [&](const SchemaIndex& index) {
-           return index.table == table.name && begins(index.columns);
-         });
+         std::any_of(model.indexes.begin(), model.indexes.end(),
+                     [&](const SchemaIndex& index) { return index.table == table.name && begins(index.columns); });
 }
 
 }  // namespace
@@ -62,7 +61,8 @@ QString SchemaStatements::Check(const SchemaColumn& column) const {
   if (engine_ != Engine::Sqlite) return {};
   const QString name = Name(column.name);
   const auto number = [&](const QString& types, const QString& limit) {
-    return QStringLiteral(" CHECK (%1 IS NULL OR (typeof(%1) IN (%2) AND %1 > -%3 AND %1 < %3))").arg(name, types, limit);
+    return QStringLiteral(" CHECK (%1 IS NULL OR (typeof(%1) IN (%2) AND %1 > -%3 AND %1 < %3))")
+        .arg(name, types, limit);
   };
   switch (column.type) {
     case SchemaColumn::Text:
@@ -71,10 +71,13 @@ QString SchemaStatements::Check(const SchemaColumn& column) const {
       return number("'integer'", "2147483648");
     case SchemaColumn::Numeric:
       return number("'integer', 'real'", '1' + QString(column.size - column.scale, QLatin1Char('0')));
-    case SchemaColumn::Date:
-      return QStringLiteral(" CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND date(%1) = %1))").arg(name);
+    case SchemaColumn::Date:  // the modifier makes 30 February another date than was written
+      return QStringLiteral(" CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND date(%1, '+0 days') IS %1))").arg(name);
     case SchemaColumn::TimeStamp:
-      return QStringLiteral(" CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND substr(datetime(%1), 1, 10) = substr(%1, 1, 10)))").arg(name);
+      return QStringLiteral(
+                 " CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND substr(datetime(%1, '+0 days'), 1, 10) IS substr(%1, "
+                 "1, 10)))")
+          .arg(name);
   }
   return {};
 }
@@ -93,12 +96,11 @@ QString SchemaStatements::Create(const SchemaTable& table, const QStringList& la
   if (!table.primaryKey.isEmpty()) elements += "PRIMARY KEY " + Names(table.primaryKey);
   for (const QStringList& key : table.uniqueKeys) elements += "UNIQUE " + Names(key);
   for (const SchemaForeignKey& key : table.foreignKeys) {
-    elements += "FOREIGN KEY " + Names(key.columns) + " REFERENCES " + owner_ + key.table + ' ' + Names(key.references) +
-                (key.actions.isEmpty() ? QString() : ' ' + key.actions);
+    elements += "FOREIGN KEY " + Names(key.columns) + " REFERENCES " + owner_ + key.table + ' ' +
+                Names(key.references) + (key.actions.isEmpty() ? QString() : ' ' + key.actions);
   }
   QString statement = "CREATE TABLE " + owner_ + table.name + " (" + elements.join(", ") + ')';
-  if (engine_ == Engine::MariaDb)
-    statement += " ENGINE=InnoDB DEFAULT CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin";
+  if (engine_ == Engine::MariaDb) statement += " ENGINE=InnoDB DEFAULT CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin";
   return statement;
 }
 

@@ -5,7 +5,8 @@
 
 #include "platform/ado/SqlTokens.h"
 
-// The resources of a static library are linked only where they are asked for, and the macro stands outside of namespaces.
+// The resources of a static library are linked only where they are asked for, and the macro stands outside of
+// namespaces.
 static void InitializeResources() {
   Q_INIT_RESOURCE(database);
 }

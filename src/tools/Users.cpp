@@ -34,8 +34,8 @@ QString Users::FunctionName(const QString& name) {
 }
 
 bool Users::Exists(Connection& connection, const QString& name) {
-  return !ToolSql::Values(connection, "SELECT USER_ID FROM " + ToolSql::Table(connection, "ID_USER") +
-                                          WhereUser(connection, name))
+  return !ToolSql::Values(connection,
+                          "SELECT USER_ID FROM " + ToolSql::Table(connection, "ID_USER") + WhereUser(connection, name))
               .isEmpty();
 }
 

@@ -42,6 +42,18 @@ TEST_F(RecordsetTest, NullIsNotTheEmptyText) {
   EXPECT_EQ(rows.Fields(0).Value(), "c");
 }
 
+TEST_F(RecordsetTest, ColumnsThatAnotherClientAddedAreRead) {
+  Value("SELECT A FROM ID_A");
+  Connection other(database.Settings());
+  other.Open();
+  for (const char* name : {"D", "E", "F"}) other.Execute(QString("ALTER TABLE ID_A ADD %1 VARCHAR(10)").arg(name));
+  Recordset rows;
+  rows.Open(connection, "SELECT * FROM ID_A ORDER BY A");
+  EXPECT_EQ(rows.FieldCount(), 6);
+  EXPECT_TRUE(rows.Fields("F").IsNull());
+  EXPECT_EQ(rows.Fields("B").Value(), "One");
+}
+
 TEST_F(RecordsetTest, FieldsByNameAndPosition) {
   Recordset rows;
   rows.Open(connection, "select a, b as Described, count(*) from id_a group by a, b order by a");

@@ -186,7 +186,7 @@ TEST_F(OstanaFunctionsTest, PasswordCipherUsesTheKeyBesideTheSettings) {
 
 TEST_F(OstanaFunctionsTest, RegisteredSymbolIsFound) {
   MustLoad();
-  Another("INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL) VALUES (10000123, 'O''B')");
+  Another("INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME) VALUES (10000123, 'O''B', 'X')");
   qint32 id = 7;
   EXPECT_TRUE(gclsOF->FindLibraryId(" O'B ", id));
   EXPECT_EQ(id, 10000123);

@@ -136,6 +136,7 @@ TEST_F(UserRightsTest, SlowCheckIsMadeOnce) {
 
 TEST_F(UserRightsTest, QuotesInNamesDoNoHarm) {
   AddUser("o'brien", "it's; --");
+  AddUser("o''brien", "another");
   AddFunction("o''brien", "Tabulon", "Y", "N", "N");
   EXPECT_FALSE(Valid("o'brien", "it's; --"));
   EXPECT_EQ(gclsOF->LastError(), "You do not have access to this function");

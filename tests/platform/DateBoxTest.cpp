@@ -82,6 +82,15 @@ TEST_F(DateBoxTest, FormatOfTheSettings) {
   EXPECT_EQ(edit->text(), "2024-05-07T");
 }
 
+TEST_F(DateBoxTest, TabLeavesTheDate) {
+  date->SetDate({2024, 5, 17});
+  auto* next = window.Add(new QCheckBox("next", &window));
+  QTest::qWait(1);
+  edit->setFocus();
+  QTest::keyClick(edit, Qt::Key_Tab);
+  EXPECT_TRUE(next->hasFocus());
+}
+
 TEST_F(DateBoxTest, OldDatesKeepTheirYear) {
   date->SetDate({1601, 1, 1});
   EXPECT_EQ(date->Date(), QDate(1601, 1, 1));

@@ -154,6 +154,10 @@ TEST_F(GridByHandTest, OneRowStaysHighlightedWhateverTheModifiers) {
   EXPECT_EQ(grid->selectionModel()->selectedRows().size(), 1);
   QTest::keyClick(grid, Qt::Key_Space, Qt::ControlModifier);
   EXPECT_EQ(Highlighted(), 4);
+  QTest::keySequence(grid, QKeySequence::SelectAll);
+  EXPECT_EQ(grid->Row(), 4);
+  EXPECT_EQ(Highlighted(), 4);
+  EXPECT_EQ(grid->selectionModel()->selectedRows().size(), 1);
 }
 
 TEST_F(GridByHandTest, PressBesideTheRowsChangesNothing) {
@@ -265,6 +269,14 @@ TEST_F(GridByHandTest, CopyTakesTheVisibleCellsOfTheRow) {
   grid->HideCol(2, true);
   QTest::keySequence(grid, QKeySequence::Copy);
   EXPECT_EQ(QApplication::clipboard()->text(), "998\t2");
+}
+
+TEST_F(GridByHandTest, ShrinkingKeepsTheCurrentRowInSight) {
+  grid->SetRow(10);
+  ASSERT_TRUE(grid->viewport()->rect().contains(Cell(10, 1)));
+  window.resize(700, 220);
+  QTest::qWait(10);
+  EXPECT_TRUE(grid->viewport()->rect().contains(Cell(10, 1)));
 }
 
 TEST_F(GridByHandTest, TabLeavesTheGrid) {

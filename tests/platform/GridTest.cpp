@@ -369,6 +369,25 @@ TEST_F(GridTest, HeadingIsNeverCutOff) {
   EXPECT_EQ(grid->ColWidth(1), 300);
 }
 
+TEST_F(GridTest, ColumnThatComesBackHasItsOwnWidth) {
+  window.resize(900, 300);
+  window.Show();
+  grid->SetColWidth(3, 1500);
+  EXPECT_GT(grid->columnWidth(3), 300);
+  grid->HideCol(3, true);
+  grid->HideCol(3, false);
+  grid->SetCols(4);
+  grid->SetColWidth(1, 30000);
+  EXPECT_EQ(grid->columnWidth(3), 100);
+}
+
+TEST_F(GridTest, AsksForRoomForSomeRows) {
+  const int row = grid->verticalHeader()->defaultSectionSize();
+  EXPECT_GT(grid->minimumSizeHint().height(), 3 * row);
+  EXPECT_LT(grid->minimumSizeHint().height(), 6 * row);
+  EXPECT_GT(grid->sizeHint().height(), 8 * row);
+}
+
 TEST_F(GridTest, DraggedWidthStays) {
   window.resize(900, 300);
   window.Show();

@@ -59,6 +59,17 @@ TEST_F(TextBoxTest, WithoutLimitTakesLongText) {
   EXPECT_EQ(box->Text(), text);
 }
 
+TEST_F(TextBoxTest, LimitMayComeLater) {
+  EXPECT_EQ(Make()->MaxLength(), 0);
+  box->SetMaxLength(2);
+  EXPECT_EQ(box->MaxLength(), 2);
+  QTest::keyClicks(box, "abc");
+  EXPECT_EQ(box->Text(), "ab");
+  box->SetMaxLength(0);
+  QTest::keyClicks(box, "c");
+  EXPECT_EQ(box->Text(), "abc");
+}
+
 TEST_F(TextBoxTest, LimitNeverHalvesASurrogatePair) {
   Make(3)->SetText("ab" + Emoji);
   EXPECT_EQ(box->Text(), "ab");
@@ -209,8 +220,8 @@ TEST_F(TextBoxTest, NothingIsPastedIntoAReadOnlyBox) {
 TEST_F(TextBoxTest, UpperCaseAsTypedAndPasted) {
   Make()->UpperCaseAsTyped();
   QTest::keyClicks(box, "ab");
-  Paste("c\u00e4");
-  EXPECT_EQ(box->Text(), QStringLiteral("ABC\u00c4"));
+  Paste(QStringLiteral("c\u00e4\u00df"));
+  EXPECT_EQ(box->Text(), QStringLiteral("ABC\u00c4\u00df"));
 }
 
 TEST_F(TextBoxTest, TypedEmojiIsOneCharacterForTheFilter) {

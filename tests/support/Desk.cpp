@@ -210,14 +210,17 @@ void Desk::Append(const QString& name, const QString& text) {
   Activate(box->window());
   box->setFocus();
   if (!box->inherits("QLineEdit") || !text.isEmpty()) QTest::keyClick(box, Qt::Key_End, Qt::ControlModifier);
-  for (const QChar& letter : text) {
+  for (qsizetype at = 0; at < text.size(); ++at) {
+    const QChar letter = text[at];
     if (letter == '\n') {
       QTest::keyClick(box, Qt::Key_Return);
       continue;
     }
-    // Letters beyond Latin-1 have no key code; they arrive as text, as from an input method.
+    // Letters beyond Latin-1 have no key code; they arrive as text, as from an input method, a surrogate pair at once.
+    const bool pair = letter.isHighSurrogate() && at + 1 < text.size();
     QKeyEvent press(QEvent::KeyPress, letter.unicode() < 128 ? QChar(letter).toUpper().unicode() : 0, Qt::NoModifier,
-                    QString(letter));
+                    text.mid(at, pair ? 2 : 1));
+    if (pair) ++at;
     QApplication::sendEvent(box, &press);
   }
 }
@@ -282,7 +285,9 @@ void Desk::SelectRow(const QString& name, int row) {
     return;
   }
   Activate(grid->window());
-  const QModelIndex cell = grid->model()->index(row - 1, 1);
+  int col = 1;
+  while (grid->ColHidden(col)) ++col;
+  const QModelIndex cell = grid->model()->index(row - 1, col);
   grid->scrollTo(cell);
   QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->visualRect(cell).center());
 }
@@ -388,3 +393,35 @@ int Desk::Count(const QString& table, const QString& where) {
 }
 
 void Desk::Another(const QString& sql) { database_->OtherClient().Execute(sql); }
+
+void Desk::TakeAway(const QString& flag) {
+  Another("UPDATE ID_USER_FUNCTION SET " + flag + " = NULL WHERE USER_ID = 'admin'");
+}
+
+bool Desk::DropConnection() {
+  QString sessions, end;
+  switch (TestDatabase::TestEngine()) {
+    case Engine::Sqlite:
+    case Engine::SqlServer:
+      return false;
+    case Engine::PostgreSql:
+      sessions = "SELECT pid FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid()";
+      end = "SELECT pg_terminate_backend(%1)";
+      break;
+    case Engine::MariaDb:
+      sessions = "SELECT ID FROM INFORMATION_SCHEMA.PROCESSLIST WHERE DB = DATABASE() AND ID <> CONNECTION_ID()";
+      end = "KILL %1";
+      break;
+  }
+  QStringList numbers;
+  Recordset rows;
+  for (rows.Open(Database().OtherClient(), sessions); !rows.EOF_(); rows.MoveNext())
+    numbers.append(rows.Fields(0).Value());
+  rows.Close();
+  for (const QString& number : numbers) Another(end.arg(number));
+  return !numbers.isEmpty();
+}
+
+bool Desk::LogHolds(const QString& text) const {
+  return LogLines().join('\n').contains(text);
+}

@@ -3,7 +3,6 @@
 #include <unistd.h>
 
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 #include <map>
 #include <stdexcept>
@@ -43,11 +42,8 @@ Connection& Administrator() {
 void Fill(const ConnectionSettings& settings, bool sample) {
   Connection connection(settings);
   connection.Open();
-  DatabaseBuilder::Create(connection, sample ? DatabaseBuilder::Rows::Sample : DatabaseBuilder::Rows::Reference);
-  if (!sample) {
-    Languages::Add(connection, "FRE", "French", false);
-    Languages::Add(connection, "GER", "German", false);
-  }
+  DatabaseBuilder::Create(connection, sample ? DatabaseBuilder::Rows::Sample : DatabaseBuilder::Rows::Reference,
+                          {{"FRE", "French"}, {"GER", "German"}});
   if (!Users::Exists(connection, "admin")) Users::Add(connection, "admin", {});
   // Few rounds: a test logs on hundreds of times.
   Users::SetPassword(connection, "admin", PasswordRecord::Make("secret", 1000));
@@ -55,130 +51,187 @@ void Fill(const ConnectionSettings& settings, bool sample) {
     Users::SetRight(connection, "admin", {function, true, true, true});
 }
 
-// Databases that are made once and copied for each case.
-class Templates {
+// SQLite: a file that is made once a process and copied for each case.
+class FileCopies {
  public:
-  ~Templates() {
-    // The servers of the tests are thrown away as a whole; SQLite's files go with their folder.
-  }
-
-  const ConnectionSettings& Of(bool sample) {
-    ConnectionSettings& settings = made_[sample];
-    if (settings.name.isEmpty()) {
-      settings = TestDatabase::FreshSettings(folder_.path());
+  ConnectionSettings Take(bool sample) {
+    QString& original = originals_[sample];
+    if (original.isEmpty()) {
+      const ConnectionSettings settings = TestDatabase::FreshSettings(folder_.path());
       DatabaseBuilder::MakeMissing(settings);
       Fill(settings, sample);
+      original = settings.name;
     }
-    return settings;
+    const ConnectionSettings copy = TestDatabase::FreshSettings(folder_.path());
+    if (!QFile::copy(original, copy.name)) throw std::runtime_error("The test's database could not be copied");
+    return copy;
   }
 
  private:
   QTemporaryDir folder_;
-  std::map<bool, ConnectionSettings> made_;
+  std::map<bool, QString> originals_;
 };
 
-Templates& AllTemplates() {
-  static Templates templates;
-  return templates;
-}
-
-ConnectionSettings CopyFile(const ConnectionSettings& original) {
-  ConnectionSettings copy = original;
-  copy.name = QFileInfo(original.name).dir().filePath(NextName() + ".db");
-  if (!QFile::copy(original.name, copy.name)) throw std::runtime_error("The test's database could not be copied");
-  return copy;
-}
-
-ConnectionSettings CopyPostgreSql(const ConnectionSettings& original) {
-  const ConnectionSettings copy = ServerSettings(NextName());
-  Administrator().Execute("CREATE DATABASE " + copy.name + " TEMPLATE " + original.name + " STRATEGY FILE_COPY");
-  return copy;
-}
-
-// MariaDB takes a second for all tables. So one database serves all cases of a process: before each case its rows are
-// made equal to the template's. Only a case that changed the tables themselves leaves one to be made anew.
-class MariaDbCopies {
+// A server takes a quarter of a second (PostgreSQL) or many (MariaDB) to make a database. So one serves all cases of a
+// process: it keeps a second set of its tables, and before each case its rows are made equal to those. A case that
+// changed the tables themselves leaves one that is thrown away.
+class ServerDatabases {
  public:
-  ConnectionSettings Take(const ConnectionSettings& original) {
-    if (free_.name.isEmpty() || Shape(free_.name) != Shape(original.name)) {
-      if (!free_.name.isEmpty()) TestDatabase::Remove(free_);
-      free_ = ServerSettings(NextName());
-      MakeTables(original);
-    } else {
-      CopyRows(original, true);
+  ConnectionSettings Take(bool sample) {
+    for (auto free = free_.begin(); free != free_.end(); ++free) {
+      if (free->sample != sample) continue;
+      const Kept kept = *free;
+      free_.erase(free);
+      if (Restore(kept)) return Used(kept);
+      TestDatabase::Remove(kept.settings);
+      break;
     }
-    return std::exchange(free_, {});
+    Kept made{sample, ServerSettings(NextName()), {}};
+    DatabaseBuilder::MakeMissing(made.settings);
+    Fill(made.settings, sample);
+    Connection connection(made.settings);
+    connection.Open();
+    Keep(connection);
+    made.shape = Shape(connection);
+    return Used(made);
   }
 
-  void Return(const ConnectionSettings& settings) { free_ = settings; }
+  void Return(const ConnectionSettings& settings) {
+    free_.push_back(used_.at(settings.name));
+    used_.erase(settings.name);
+  }
 
  private:
-  // Changes with every table and column.
-  static QString Shape(const QString& database) {
-    return ToolSql::Values(Administrator(),
-                           "SELECT COUNT(*) || ' ' || SUM(CRC32(TABLE_NAME || '.' || COLUMN_NAME || COLUMN_TYPE)) FROM "
-                           "INFORMATION_SCHEMA.COLUMNS WHERE TABLE_SCHEMA = '" +
-                               database + "'")
-        .value(0);
+  struct Kept {
+    bool sample;
+    ConnectionSettings settings;
+    QString shape;  // changes with every table, column, key and trigger
+  };
+
+  const ConnectionSettings& Used(const Kept& kept) { return (used_[kept.settings.name] = kept).settings; }
+
+  static bool IsPostgreSql() { return TestDatabase::TestEngine() == Engine::PostgreSql; }
+
+  static QString KeptTable(const Connection& connection, const QString& table) {
+    return (IsPostgreSql() ? QString("kept") : connection.Settings().name + "_kept") + '.' + table;
   }
 
-  void MakeTables(const ConnectionSettings& original) {
-    DatabaseBuilder::MakeMissing(free_);
-    Connection connection(free_);
-    connection.Open();
-    connection.Execute("SET SESSION foreign_key_checks = 0");
-    Connection source(original);
-    source.Open();
-    for (const QString& table : source.Tables())
-      connection.Execute(ToolSql::Rows(source, "SHOW CREATE TABLE " + table).value(0).value(1));
-    CopyRows(original, false);
+  static void Keep(Connection& connection) {
+    connection.Execute(
+        (IsPostgreSql() ? "CREATE SCHEMA kept" : "CREATE DATABASE " + connection.Settings().name + "_kept"));
+    QString body;
+    for (const SchemaTable& table : SchemaModel::Get().tables) {
+      const QString kept = KeptTable(connection, table.name);
+      connection.Execute("CREATE TABLE " + kept + (IsPostgreSql() ? "" : " ENGINE=MEMORY") + " AS SELECT * FROM " +
+                         table.name);
+      body +=
+          QStringLiteral("IF EXISTS (SELECT 1 FROM %1) THEN DELETE FROM %1; END IF; INSERT INTO %1 SELECT * FROM %2; ")
+              .arg(table.name, kept);
+    }
+    if (IsPostgreSql())
+      connection.Execute(
+          "CREATE FUNCTION kept.restore() RETURNS integer LANGUAGE plpgsql SET session_replication_role = "
+          "replica AS 'BEGIN " +
+          body + "RETURN 1; END'");
   }
 
-  void CopyRows(const ConnectionSettings& original, bool emptyFirst) {
-    Connection connection(free_);
-    connection.Open();
+  // False when the tables are no longer those that were made.
+  static bool Restore(const Kept& kept) {
+    EndSessions(kept.settings.name);
+    try {
+      Connection connection(kept.settings);
+      connection.Open();
+      if (Shape(connection) != kept.shape) return false;
+      if (IsPostgreSql()) return ToolSql::Values(connection, "SELECT kept.restore()").value(0) == "1";
+      RestoreOneByOne(connection);
+      return true;
+    } catch (const AdoError&) {
+      return false;
+    }
+  }
+
+  static void RestoreOneByOne(Connection& connection) {
     connection.Execute("SET SESSION foreign_key_checks = 0");
     Transaction transaction(connection);
-    for (const SchemaTable& table : SchemaModel::Get().tables) {
-      if (emptyFirst) connection.Execute("DELETE FROM " + table.name);
-      connection.Execute("INSERT INTO " + table.name + " SELECT * FROM " + original.name + '.' + table.name);
-    }
+    for (const QString& table : Filled(connection, [](const QString& name) { return name; }))
+      connection.Execute("DELETE FROM " + table);
+    for (const QString& table : Filled(connection, [&](const QString& name) { return KeptTable(connection, name); }))
+      connection.Execute("INSERT INTO " + table + " SELECT * FROM " + KeptTable(connection, table));
     transaction.Commit();
   }
 
-  ConnectionSettings free_;
+  // The tables of the schema that hold rows, under the name that `place` gives them.
+  template <class Place>
+  static QStringList Filled(Connection& connection, Place place) {
+    QStringList selects;
+    for (const SchemaTable& table : SchemaModel::Get().tables)
+      selects += "SELECT '" + table.name + "' FROM DUAL WHERE EXISTS (SELECT 1 FROM " + place(table.name) + ')';
+    return ToolSql::Values(connection, selects.join(" UNION ALL "));
+  }
+
+  // A session that a case forgot could hold locks.
+  static void EndSessions(const QString& database) {
+    if (IsPostgreSql()) {
+      ToolSql::Values(
+          Administrator(),
+          "SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity WHERE datname = '" + database + "'");
+      return;
+    }
+    for (const QString& id : ToolSql::Values(
+             Administrator(), "SELECT ID FROM INFORMATION_SCHEMA.PROCESSLIST WHERE DB = '" + database + "'")) {
+      try {
+        Administrator().Execute("KILL " + id);
+      } catch (const AdoError& error) {
+        if (!error.Description().contains("Unknown thread")) throw;  // it has ended meanwhile
+      }
+    }
+  }
+
+  static QString Shape(Connection& connection) {
+    static const QString postgreSql =
+        "SELECT md5(string_agg(item, ',' ORDER BY item)) FROM ("
+        "SELECT relname || relkind::text AS item FROM pg_class WHERE relnamespace = 'public'::regnamespace UNION ALL "
+        "SELECT attrelid::regclass::text || attname || format_type(atttypid, atttypmod) || attnotnull FROM "
+        "pg_attribute "
+        "WHERE attnum > 0 AND attrelid IN (SELECT oid FROM pg_class WHERE relnamespace = 'public'::regnamespace) "
+        "UNION ALL SELECT conname || conrelid::text FROM pg_constraint WHERE connamespace = 'public'::regnamespace "
+        "UNION ALL "
+        "SELECT tgname FROM pg_trigger WHERE NOT tgisinternal UNION ALL SELECT rulename FROM pg_rules UNION ALL "
+        "SELECT proname FROM pg_proc WHERE pronamespace = 'public'::regnamespace) AS items";
+    static const QString mariaDb =
+        "SELECT CONCAT_WS('/', (SELECT SUM(CRC32(CONCAT(TABLE_NAME, COLUMN_NAME, COLUMN_TYPE, IS_NULLABLE))) FROM "
+        "INFORMATION_SCHEMA.COLUMNS WHERE TABLE_SCHEMA = DATABASE()), (SELECT SUM(CRC32(CONCAT(TABLE_NAME, "
+        "CONSTRAINT_NAME))) FROM INFORMATION_SCHEMA.TABLE_CONSTRAINTS WHERE CONSTRAINT_SCHEMA = DATABASE()), (SELECT "
+        "COUNT(*) FROM INFORMATION_SCHEMA.TRIGGERS WHERE TRIGGER_SCHEMA = DATABASE()), (SELECT COUNT(*) FROM "
+        "INFORMATION_SCHEMA.ROUTINES WHERE ROUTINE_SCHEMA = DATABASE()))";
+    return ToolSql::Values(connection, IsPostgreSql() ? postgreSql : mariaDb).value(0);
+  }
+
+  std::vector<Kept> free_;
+  std::map<QString, Kept> used_;
 };
 
-MariaDbCopies& AllCopies() {
-  static MariaDbCopies copies;
+FileCopies& Files() {
+  static FileCopies copies;
   return copies;
+}
+
+ServerDatabases& Servers() {
+  static ServerDatabases databases;
+  return databases;
 }
 
 }  // namespace
 
-TestDatabase::TestDatabase(bool sample) {
-  const ConnectionSettings& original = AllTemplates().Of(sample);
-  switch (TestEngine()) {
-    case Engine::Sqlite:
-      settings_ = CopyFile(original);
-      return;
-    case Engine::PostgreSql:
-      settings_ = CopyPostgreSql(original);
-      return;
-    case Engine::MariaDb:
-      settings_ = AllCopies().Take(original);
-      return;
-    case Engine::SqlServer:
-      break;
-  }
-}
+TestDatabase::TestDatabase(bool sample)
+    : settings_(TestEngine() == Engine::Sqlite ? Files().Take(sample) : Servers().Take(sample)) {}
 
 TestDatabase::~TestDatabase() {
   other_.reset();
-  if (settings_.engine == Engine::MariaDb) {
-    AllCopies().Return(settings_);
-  } else {
+  if (settings_.engine == Engine::Sqlite) {
     Remove(settings_);
+  } else {
+    Servers().Return(settings_);
   }
 }
 
@@ -214,6 +267,7 @@ void TestDatabase::Remove(const ConnectionSettings& settings) {
     Administrator().Execute("DROP DATABASE IF EXISTS " + settings.name + " WITH (FORCE)");
   } else {
     Administrator().Execute("DROP DATABASE IF EXISTS " + settings.name);
+    Administrator().Execute("DROP DATABASE IF EXISTS " + settings.name + "_kept");
   }
 }
 

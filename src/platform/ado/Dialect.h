@@ -37,6 +37,9 @@ class Dialect {
   // A SELECT that verifies the set-up: its one value must equal "1". Empty where there is nothing to verify.
   virtual QString SessionCheck() const { return {}; }
   virtual QString BeginStatement() const = 0;
+  // Run before each statement where the session itself keeps an image of the tables that another client may have made
+  // stale. Empty where the server looks after that.
+  virtual QString SchemaRefresh() const { return {}; }
   // True where the driver would keep a second copy of all rows otherwise.
   virtual bool ReadsForwardOnly() const = 0;
 

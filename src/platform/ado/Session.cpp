@@ -77,6 +77,8 @@ void Session::Close() {
 }
 
 QSqlQuery Session::Run(const QString& statement, const QString& source) {
+  // A failure here comes again with the statement itself.
+  if (const QString refresh = dialect_.SchemaRefresh(); !refresh.isEmpty()) QSqlQuery(database_).exec(refresh);
   QSqlQuery query(database_);
   query.setForwardOnly(dialect_.ReadsForwardOnly());
   if (query.exec(dialect_.Carry(statement, settings_))) return query;

@@ -32,6 +32,8 @@ class Guarded : public Widget {
     else
       event->ignore();
   }
+  // Tab leaves the date as it leaves any field; the arrow keys go from year to month to day.
+  bool focusNextPrevChild(bool next) override { return QWidget::focusNextPrevChild(next); }
 
  private:
   LeaveGuard* const& guard_;

@@ -26,21 +26,46 @@ bool IsTall(const QWidget* field) {
   return qobject_cast<const QAbstractScrollArea*>(field) != nullptr;
 }
 
-void LendName(QWidget* field, const QString& caption) {
-  if (field->accessibleName().isEmpty()) field->setAccessibleName(caption);
-  for (QWidget* part : field->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
-    const bool takesFocus = part->focusPolicy() != Qt::NoFocus && qobject_cast<QAbstractButton*>(part) == nullptr;
-    if (takesFocus && part->accessibleName().isEmpty() && qobject_cast<QAbstractScrollArea*>(field) == nullptr)
-      part->setAccessibleName(caption);
-  }
+// What takes the focus in a field of several parts: a row of options, a date with its check.
+QList<QWidget*> Parts(QWidget* field) {
+  QList<QWidget*> parts = field->findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+  parts.removeIf([](const QWidget* part) { return part->focusPolicy() == Qt::NoFocus; });
+  return parts;
 }
 
-// What takes the focus in a field of several parts.
-QWidget* Buddy(QWidget* field) {
-  if (field->focusPolicy() != Qt::NoFocus || field->focusProxy() != nullptr) return field;
-  for (QWidget* part : field->findChildren<QWidget*>())
-    if (part->focusPolicy() != Qt::NoFocus) return part;
-  return field;
+// A label whose mnemonic moves the focus and does nothing else, where the toolkit would also click an option.
+class FieldLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  bool event(QEvent* event) override {
+    if (event->type() != QEvent::Shortcut || buddy() == nullptr) return QLabel::event(event);
+    if (QWidget* target = Target(buddy()); target != nullptr) target->setFocus(Qt::ShortcutFocusReason);
+    return true;
+  }
+
+ private:
+  static QWidget* Target(QWidget* field) {
+    if (field->focusPolicy() != Qt::NoFocus) return field;
+    QWidget* first = nullptr;
+    for (QWidget* part : Parts(field)) {
+      const auto* option = qobject_cast<QRadioButton*>(part);
+      if (option != nullptr && option->isChecked()) return part;
+      if (first == nullptr && part->isEnabled()) first = part;
+    }
+    return first;
+  }
+};
+
+void LendName(QWidget* field, const QString& caption) {
+  if (field->accessibleName().isEmpty()) field->setAccessibleName(caption);
+  if (field->focusPolicy() != Qt::NoFocus) return;
+  for (QWidget* part : Parts(field)) {
+    const auto* button = qobject_cast<QAbstractButton*>(part);
+    const bool speaksForItself = button != nullptr && !button->text().isEmpty();
+    if (!speaksForItself && part->accessibleName().isEmpty()) part->setAccessibleName(caption);
+  }
 }
 
 QHBoxLayout* Line(QWidget* field, QWidget* behind) {
@@ -74,7 +99,7 @@ int FieldWidth(const QWidget* field, int characters) {
 }
 
 QLabel* Label(QWidget* parent, const QString& name, const QString& caption) {
-  auto* label = new QLabel(caption, parent);
+  auto* label = new FieldLabel(caption, parent);
   label->setObjectName(name);
   label->setTextFormat(Qt::PlainText);
   return label;
@@ -149,7 +174,7 @@ QLabel* Rows::Beside(const QString& labelName, const QString& caption, QWidget* 
 
 void Rows::Place(QLabel* label, QWidget* field, QWidget* behind, int column) {
   const QString caption = PlainCaption(label->text());
-  label->setBuddy(Buddy(field));
+  label->setBuddy(field);
   LendName(field, caption);
   const bool tall = IsTall(field);
   // The first line of a tall field and its label stand on one line.
@@ -209,9 +234,7 @@ void TabOrder(std::initializer_list<QWidget*> widgets) {
       next(widget);
       continue;
     }
-    // A row of options, a date with its check: their parts in the order they were made.
-    for (QWidget* part : widget->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-      if (part->focusPolicy() != Qt::NoFocus) next(part);
+    for (QWidget* part : Parts(widget)) next(part);
   }
 }
 

@@ -2,7 +2,9 @@
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <QTimer>
+#include <numeric>
 
 #include "platform/controls/GridDelegate.h"
 #include "platform/controls/GridModel.h"
@@ -10,6 +12,8 @@
 namespace {
 constexpr int DefaultTwips = 960;
 constexpr int TwipsAnInch = 1440;
+constexpr int NarrowestGrid = 160, WidestGrid = 900;  // pixels asked of a layout
+constexpr int FewestRows = 3, UsualRows = 8;
 std::size_t At(int index) {
   return static_cast<std::size_t>(index);
 }
@@ -42,20 +46,39 @@ void Grid::SetUpHeaders() {
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setMinimumSectionSize(1);
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
   QHeaderView* heading = horizontalHeader();
   heading->setMinimumSectionSize(8);
   heading->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   heading->setHighlightSections(false);
   heading->setSectionsClickable(true);
   heading->setTextElideMode(Qt::ElideRight);
-  heading->setFixedHeight(fontMetrics().height() + 10);
+  SetHeights();
   connect(heading, &QHeaderView::sectionClicked, this, &Grid::HeadingClicked);
   connect(heading, &QHeaderView::sectionResized, this, [this](int col, int, int width) {
     if (stretching_ || width == 0) return;
     columns_[At(col)].pixels = width;
     StretchLast();
   });
+}
+
+void Grid::SetHeights() {
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
+  horizontalHeader()->setFixedHeight(fontMetrics().height() + 10);
+}
+
+int Grid::HeightOf(int rows) const {
+  return horizontalHeader()->height() + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth();
+}
+
+QSize Grid::sizeHint() const {
+  const int columns = std::accumulate(columns_.begin(), columns_.end(), 0,
+                                      [](int sum, const Column& column) { return sum + column.pixels; });
+  const int width = columns + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+  return {std::clamp(width, NarrowestGrid, WidestGrid), HeightOf(UsualRows)};
+}
+
+QSize Grid::minimumSizeHint() const {
+  return {NarrowestGrid, HeightOf(FewestRows)};
 }
 
 int Grid::Rows() const {
@@ -79,7 +102,7 @@ void Grid::ResetColumns() {
   sorted_.reset();
   ShowSorted();
   for (int col = 0; col < Cols(); ++col) {
-    setColumnHidden(col, false);
+    HideCol(col, false);
     SetColWidth(col, DefaultTwips);
   }
 }
@@ -202,9 +225,17 @@ void Grid::FitHeading(int col) {
   StretchLast();
 }
 
+void Grid::FitAllHeadings() {
+  for (int col = 0; col < Cols(); ++col) FitHeading(col);
+}
+
 void Grid::HideCol(int col, bool hidden) {
   if (col < 0 || col >= Cols()) return;
-  setColumnHidden(col, hidden);
+  {
+    // What a column shrinks to and comes back from is no width that somebody gave it.
+    const QScopedValueRollback stretching(stretching_, true);
+    setColumnHidden(col, hidden);
+  }
   StretchLast();
 }
 

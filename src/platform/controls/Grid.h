@@ -77,6 +77,9 @@ class Grid : public QTableView {
   void SetFilter(const QString& text);
   bool RowHidden(int row) const;
 
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
  Q_SIGNALS:
   // Another row became current, by hand or by SetRow. Not emitted for row 0 on clearing a grid.
   void SelChange();
@@ -115,6 +118,8 @@ class Grid : public QTableView {
   };
 
   void SetUpHeaders();
+  void SetHeights();
+  int HeightOf(int rows) const;
   void ResetColumns();
   void ShowCurrent(bool scroll);
   bool InStep() const;
@@ -128,6 +133,7 @@ class Grid : public QTableView {
   void HeadingClicked(int col);
   void ShowSorted();
   void FitHeading(int col);
+  void FitAllHeadings();
   void StretchLast();
   int FirstVisibleCol() const;
   int NextEditable(int col, int step) const;

@@ -220,11 +220,15 @@ void Grid::focusOutEvent(QFocusEvent* event) {
 void Grid::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
   if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange) return;
-  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
-  horizontalHeader()->setFixedHeight(fontMetrics().height() + 10);
+  SetHeights();
+  FitAllHeadings();
 }
 
 void Grid::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
   StretchLast();
+  // The current row does not slip out of sight with the lower edge.
+  const QModelIndex current = row_ == 0 ? QModelIndex() : currentIndex();
+  const QRect cell = visualRect(current);
+  if (current.isValid() && cell.top() >= 0 && cell.top() < event->oldSize().height()) scrollTo(current);
 }

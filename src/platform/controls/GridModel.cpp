@@ -59,11 +59,11 @@ void GridModel::SetRowData(int row, qint64 data) {
   if (Holds(row, 0)) rows_[At(row - 1)].SetData(data);
 }
 
-PackedRow GridModel::Pack(std::span<const QStringView> cellsFromColumn1) const {
-  std::vector<QStringView> cells(At(Columns()));
-  const std::size_t given = std::min(cellsFromColumn1.size(), cells.size() - 1);
-  std::copy_n(cellsFromColumn1.begin(), given, cells.begin() + 1);
-  return PackedRow(cells);
+PackedRow GridModel::Pack(std::span<const QStringView> cellsFromColumn1) {
+  scratch_.assign(At(Columns()), {});
+  const std::size_t given = std::min(cellsFromColumn1.size(), scratch_.size() - 1);
+  std::copy_n(cellsFromColumn1.begin(), given, scratch_.begin() + 1);
+  return PackedRow(scratch_);
 }
 
 void GridModel::Append(std::span<const QStringView> cellsFromColumn1) {
@@ -158,11 +158,12 @@ void GridModel::Permute(const std::vector<int>& order, const std::vector<int>& p
 }
 
 bool GridModel::IsNumeric(int col) const {
+  const QChar separator = GridOrder::DecimalSeparator();
   bool any = false;
   for (const PackedRow& packed : rows_) {
     const QStringView cell = packed.Cell(col);
     if (cell.isEmpty()) continue;
-    if (!GridOrder::Number(cell)) return false;
+    if (!GridOrder::Number(cell, separator)) return false;
     any = true;
   }
   return any;

@@ -71,13 +71,14 @@ class GridModel : public QAbstractTableModel {
     QStringList choices;
   };
 
-  PackedRow Pack(std::span<const QStringView> cellsFromColumn1) const;
+  PackedRow Pack(std::span<const QStringView> cellsFromColumn1);
   bool Passes(int position) const;
   void Permute(const std::vector<int>& order, const std::vector<int>& placeOf);
 
   // Positions count from 0, as the view does; row = position + 1.
   std::vector<PackedRow> rows_;
   std::vector<Column> columns_;
+  std::vector<QStringView> scratch_;  // cells of the row that is being packed
   int announced_ = 0;
   QString filter_;
   std::vector<int> filterColumns_;

@@ -41,10 +41,11 @@ std::vector<int> OrderOfTexts(const std::vector<QStringView>& cells, Qt::SortOrd
 std::vector<int> OrderOfNumbers(const std::vector<QStringView>& cells, Qt::SortOrder order) {
   const QCollator collator = Collation();
   constexpr double Infinity = std::numeric_limits<double>::infinity();
+  const QChar separator = GridOrder::DecimalSeparator();
   std::vector<double> values;
   values.reserve(cells.size());
   for (const QStringView cell : cells)
-    values.push_back(cell.isEmpty() ? -Infinity : GridOrder::Number(cell).value_or(Infinity));
+    values.push_back(cell.isEmpty() ? -Infinity : GridOrder::Number(cell, separator).value_or(Infinity));
   return StableOrder(cells.size(), order, [&](int a, int b) {
     const auto left = static_cast<std::size_t>(a), right = static_cast<std::size_t>(b);
     if (values[left] != values[right] || values[left] != Infinity) return values[left] < values[right];
@@ -60,8 +61,11 @@ std::vector<int> Order(const std::vector<QStringView>& cells, Qt::SortOrder orde
   return numeric ? OrderOfNumbers(cells, order) : OrderOfTexts(cells, order);
 }
 
-std::optional<double> Number(QStringView cell) {
-  static const QString separator = QLocale().decimalPoint();
+QChar DecimalSeparator() {
+  return QLocale().decimalPoint().front();
+}
+
+std::optional<double> Number(QStringView cell, QChar separator) {
   std::array<char, 40> digits{};
   const QStringView text = cell.trimmed();
   if (text.isEmpty() || text.size() >= static_cast<qsizetype>(digits.size())) return {};

@@ -13,7 +13,8 @@ namespace GridOrder {
 // order[i] is the index of the cell that stands at place i. Numeric: empty cells, then numbers by value, then texts.
 std::vector<int> Order(const std::vector<QStringView>& cells, Qt::SortOrder order, bool numeric);
 
-// A whole cell that is a number: sign, digits and one decimal separator, the locale's or ".".
-std::optional<double> Number(QStringView cell);
+QChar DecimalSeparator();
+// A whole cell that is a number: sign, digits and one decimal separator, the given one or ".".
+std::optional<double> Number(QStringView cell, QChar separator);
 
 }  // namespace GridOrder

@@ -52,7 +52,8 @@ void LeaveGuard::Check(bool byMouse) {
   Enter(Phase::Checking);
   released_ = false;
   const QPointer<LeaveGuard> self = this;
-  const bool mayLeave = check_();
+  const auto check = check_;  // which may put another one in its own place
+  const bool mayLeave = check();
   if (self.isNull()) return;
   if (!mayLeave && !FocusIsInside()) control_->setFocus(Qt::OtherFocusReason);
   // A press whose release went to a message box would leave the button down for ever.

@@ -15,6 +15,7 @@ class MemoBox : public QPlainTextEdit {
   void SetText(const QString& text);
   QString Trimmed() const { return toPlainText().trimmed(); }
   QString TrimInPlace();
+  void SetMaxLength(int limit) { maxLength_ = limit > 0 ? limit : 0; }
   int MaxLength() const { return maxLength_; }
   // Height of that many lines as the least and the wished one; 4 lines when never said.
   void SetLines(int lines);

@@ -15,6 +15,7 @@
 
 namespace {
 constexpr char16_t Backspace = 8, Enter = 13;
+constexpr int Unlimited = std::numeric_limits<int>::max();
 constexpr int WidestField = 60, UnlimitedField = 40, NarrowestField = 3;  // characters
 
 bool IsEnter(const QKeyEvent& event) {
@@ -25,10 +26,19 @@ bool IsEnter(const QKeyEvent& event) {
 
 TextBox::TextBox(QWidget* parent, const QString& name, int maxLength) : QLineEdit(parent) {
   setObjectName(name);
-  setMaxLength(maxLength > 0 ? maxLength : std::numeric_limits<int>::max());
+  SetMaxLength(maxLength);
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   connect(this, &QLineEdit::textChanged, this, &TextBox::Change);
   connect(this, &QLineEdit::textEdited, this, &TextBox::Edited);
+}
+
+void TextBox::SetMaxLength(int limit) {
+  setMaxLength(limit > 0 ? limit : Unlimited);
+  updateGeometry();
+}
+
+int TextBox::MaxLength() const {
+  return maxLength() == Unlimited ? 0 : maxLength();
 }
 
 void TextBox::SetText(const QString& text) {
@@ -71,7 +81,7 @@ void TextBox::SetEnterAction(std::function<void()> action) {
 }
 
 QSize TextBox::sizeHint() const {
-  const int characters = maxLength() == std::numeric_limits<int>::max() ? UnlimitedField : maxLength();
+  const int characters = MaxLength() == 0 ? UnlimitedField : MaxLength();
   return {Form::FieldWidth(this, std::clamp(characters, NarrowestField, WidestField)), QLineEdit::sizeHint().height()};
 }
 
@@ -96,11 +106,17 @@ QString TextBox::Filtered(const QString& typed) {
         ch = filter_(ch.unicode());
         refused = ch.isNull();
       }
-      if (upperCase_) ch = ch.toUpper();
     }
-    if (!refused) entered += piece;
+    if (!refused) entered += Cased(piece);
   }
   return entered;
+}
+
+// Character by character, so that none becomes two.
+QString TextBox::Cased(QString text) const {
+  if (upperCase_)
+    for (QChar& ch : text) ch = ch.toUpper();
+  return text;
 }
 
 void TextBox::EnterKey(QKeyEvent* event) {
@@ -143,7 +159,7 @@ void TextBox::PasteText(const QString& foreign) {
     const QString fitting = TextInput::Fitting(text, Room());
     if (!fitting.isEmpty()) insert(fitting);
   };
-  if (!filter_ || pasteUnfiltered_) return enter(upperCase_ ? line.toUpper() : line);
+  if (!filter_ || pasteUnfiltered_) return enter(Cased(line));
   // One by one, since a filter looks at what stands in the box already.
   for (qsizetype i = 0; i < line.size() && (Room() > 0); ++i) {
     const bool pair = line[i].isHighSurrogate() && i + 1 < line.size();

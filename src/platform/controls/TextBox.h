@@ -37,6 +37,10 @@ class TextBox : public QLineEdit {
 
   // Enter in the box runs the action and goes no further.
   void SetEnterAction(std::function<void()> action);
+  // As in the constructor: for limits that are the database's, known when the form is loaded.
+  void SetMaxLength(int limit);
+  int MaxLength() const;
+
   // Whatever way the focus comes: by Tab, click or code.
   void SelectAllOnFocus() { selectOnFocus_ = true; }
 
@@ -63,6 +67,7 @@ class TextBox : public QLineEdit {
  private:
   void EnterKey(QKeyEvent* event);
   QString Filtered(const QString& typed);
+  QString Cased(QString text) const;
   qsizetype Room() const;
   void PasteText(const QString& foreign);
   void PasteClipboard();

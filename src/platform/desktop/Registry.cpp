@@ -8,6 +8,7 @@
 #ifdef Q_OS_WIN
 #include <qt_windows.h>
 
+#include <cstring>
 #include <vector>
 #endif
 

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <span>
+
+class QWidget;
+
+// What a site calls things: the custom text file, an INI file with one section for each screen of the directory. A key
+// that is missing or empty leaves the built-in text alone.
+
+// A key and the control that it renames: title of the form ("" as control), caption of a menu, entry, button, option,
+// frame or label, heading of a grid's column, or, for a key that ends in "ToolTip", the control's tip.
+struct TextKey {
+  const char* key;
+  const char* control;
+  int column = 0;  // of a grid
+};
+
+class CustomText {
+ public:
+  CustomText(QString path, QString section) : path_(std::move(path)), section_(std::move(section)) {}
+  // Empty when the key is missing.
+  QString Value(const QString& key) const;
+
+ private:
+  QString path_;
+  QString section_;
+};
+
+// How a screen of the directory has its texts replaced.
+struct CustomTextReader {
+  QString logName;
+  QString section;
+  // What is shown, with this path, when the file is not there.
+  std::function<QString(const QString& path)> missingText;
+};
+
+// The words of the record screens.
+QString MissingCustomText(const QString& path);
+
+// Puts the texts of the keys on the form's controls, then lets `further` read what is no caption. A failure is told
+// and leaves the rest of the built-in texts; the screen opens in any case. A key whose control the form does not have
+// is a std::logic_error.
+void LoadCustomText(QWidget& form, const CustomTextReader& reader, std::span<const TextKey> keys,
+                    const std::function<void(const CustomText&)>& further = {});
+// One key's text on its control.
+void PutText(QWidget& form, const TextKey& key, const QString& text);

@@ -1,0 +1,185 @@
+#include "directory/frmLibraryBillingInfo.h"
+
+#include "core/Clock.h"
+#include "core/Messages.h"
+#include "core/ModuleState.h"
+#include "core/NumericFields.h"
+#include "core/OstanaFunctions.h"
+#include "core/Procedure.h"
+#include "directory/ColumnValues.h"
+
+namespace {
+
+const QString Processed = "#######0", Weight = "#####0.00", Quota = "######0";
+
+QString ListOf(const QString& code, const QString& table) {
+  const QString description = code + "_DESC" + gclsOF->LanguageSuffix();
+  return "SELECT   " + code + ", " + description + " FROM " + Sql::Table(table) + " ORDER BY " + description;
+}
+
+// In the writing of the machine; a NULL leaves the box empty.
+QString Shown(const QString& stored, const QString& mask) {
+  return stored.isEmpty() ? QString() : Numbers::Format(Numbers::Val(stored), mask);
+}
+
+void ShowCode(CodeComboBox* box, const QString& code) {
+  if (code.isEmpty() || !box->SetCode(code)) box->SetCode({});
+}
+
+}  // namespace
+
+// --- Loading ---
+
+void frmLibraryBillingInfo::LoadSettings() {
+  txtQuotaResetDate->SetFormat("yyyy-mm-dd");
+  txtQuotaResetDate->SetDate(Clock::Today());
+  txtQuotaResetDate->SetNone();
+  mnuOptionsResetLoadBalancing->setVisible(gbUseLoadBalancing);
+}
+
+void frmLibraryBillingInfo::PopulateComboBoxes() {
+  FillCombo(*cboBillingType, "(None)", ListOf("BILLING_TYPE", "ID_BILLING_TYPE"),
+            "***** SQL error on ID_BILLING_TYPE (Select) *****", 1, 0);
+  FillCombo(*cboBillingRate, "(None)", ListOf("BILLING_RATE", "ID_BILLING_RATE"),
+            "***** SQL error on ID_BILLING_RATE (Select) *****", 1, 0);
+  FillCombo(*cmbCurrency, "(None)", ListOf("CURRENCY_CODE", "ID_CURRENCY_CODE"),
+            "***** SQL error on ID_CURRENCY_CODE (Select) *****", 1, 0);
+  FillCombo(*cboCCType, "(None)", ListOf("CREDIT_CARD", "ID_CREDIT_CARD"),
+            "***** SQL error on ID_CREDIT_CARD (Select) *****", 1, 0);
+  for (DefaultCode* code : Defaults()) code->Choose(this);
+}
+
+void frmLibraryBillingInfo::LoadedEmpty() {
+  const FillingFields filling;
+  txtQTotal->SetText(defaultQuotaTotal_);
+  ShowButton(cmdSequenceSupplier, false);
+}
+
+void frmLibraryBillingInfo::EnableRecord(bool enabled) {
+  LibraryScreen::EnableRecord(enabled);
+  mnuOptionsAnnotation->setEnabled(enabled);
+}
+
+// --- The record ---
+
+QString frmLibraryBillingInfo::Columns() const {
+  return ", BILLING_TYPE, BILLING_RATE, BILL_ADDRESS1, BILL_ADDRESS2, BILL_CITY, BILL_PROV_STATE, BILL_COUNTRY, "
+         "BILL_POST_ZIPCODE, BILL_CONTACT, BILL_PHONE, BILL_FAX, LIBRARY_ACCOUNT, CURRENCY_CODE, CREDIT_CARD, "
+         "CREDIT_CARD_NAME, CREDIT_CARD_NUM, CREDIT_CARD_EXP, CREDIT_CARD_CODE, QUOTA_TOTAL, QUOTA_FILLED, "
+         "QUOTA_RESET_DATE, REQUESTS_PROCESSED, WEIGHTING_FACTOR";
+}
+
+void frmLibraryBillingInfo::ShowRecord(const Recordset& rows) {
+  txtStreet1->SetText(Value(rows, "BILL_ADDRESS1"));
+  txtStreet2->SetText(Value(rows, "BILL_ADDRESS2"));
+  txtCity->SetText(Value(rows, "BILL_CITY"));
+  txtStateProvince->SetText(Value(rows, "BILL_PROV_STATE"));
+  txtCountry->SetText(Value(rows, "BILL_COUNTRY"));
+  txtZipPostalCode->SetText(Value(rows, "BILL_POST_ZIPCODE"));
+  txtBillingContact->SetText(Value(rows, "BILL_CONTACT"));
+  txtPhone->SetText(Value(rows, "BILL_PHONE"));
+  txtFax->SetText(Value(rows, "BILL_FAX"));
+  txtAccountNumber->SetText(Value(rows, "LIBRARY_ACCOUNT"));
+  ShowCode(cboBillingType, Value(rows, "BILLING_TYPE"));
+  ShowCode(cboBillingRate, Value(rows, "BILLING_RATE"));
+  ShowCode(cmbCurrency, Value(rows, "CURRENCY_CODE"));
+  txtNumberProcessed->SetText(Shown(Value(rows, "REQUESTS_PROCESSED"), Processed));
+  txtWeightingFactor->SetText(Shown(Value(rows, "WEIGHTING_FACTOR"), Weight));
+  txtQTotal->SetText(Shown(Value(rows, "QUOTA_TOTAL"), Quota));
+  txtQFilled->SetText(Value(rows, "QUOTA_FILLED"));
+  txtQuotaResetDate->SetDate(QDate::fromString(Value(rows, "QUOTA_RESET_DATE").left(10), Qt::ISODate));
+  // A stored card is never shown again. What these boxes hold is what the next Update stores.
+  for (TextBox* box : {txtCCName, txtCCNumber, txtCCExpirationDate, txtCCCode}) box->clear();
+  cboCCType->SetCode({});
+  ShowSequence(gclsOF->LibraryId());
+}
+
+void frmLibraryBillingInfo::ShowSequence(qint32 libraryId) {
+  bool found = false;
+  FirstValue(
+      "SELECT   SUPPLIER_CODE "
+      " FROM " +
+          Sql::Table("ID_SUPPLIER") + " WHERE    LIBRARY_ID = " + Sql::Number(libraryId),
+      "***** SQL error on ID_SUPPLIER (Select) *****", &found);
+  ShowButton(cmdSequenceSupplier, found);
+}
+
+void frmLibraryBillingInfo::ClearFields() {
+  for (TextBox* box : {txtStreet1, txtStreet2, txtCity, txtStateProvince, txtCountry, txtZipPostalCode,
+                       txtBillingContact, txtPhone, txtFax, txtAccountNumber, txtNumberProcessed, txtWeightingFactor,
+                       txtCCName, txtCCNumber, txtCCExpirationDate, txtCCCode, txtQFilled})
+    box->clear();
+  for (DefaultCode* code : Defaults()) code->Choose(this);
+  txtQTotal->SetText(defaultQuotaTotal_);
+  txtQuotaResetDate->SetNone();
+  ShowButton(cmdSequenceSupplier, false);
+}
+
+// --- Update ---
+
+void frmLibraryBillingInfo::cmdUpdate_Click() {
+  RunUpdate("cmdUpdate_Click", Texts::NotifySupport, [this] {
+    if (!HasRecordToUpdate() || !SymbolIsGiven()) return;
+    {
+      const FillingFields filling;
+      for (TextBox* box :
+           {txtLibrarySymbol, txtInstitution, txtBillingContact, txtNumberProcessed, txtWeightingFactor, txtQTotal})
+        box->TrimInPlace();
+    }
+    if (!ResetDateIsValid()) return;
+    ExecuteUpdate(UpdateStatement(), "***** SQL error on ID_library (Insert) *****");
+    TellUpdated();
+  });
+}
+
+// A day begins before the present moment, so that today is refused too.
+bool frmLibraryBillingInfo::ResetDateIsValid() {
+  if (txtQuotaResetDate->IsNone() || txtQuotaResetDate->Date().startOfDay() >= Clock::Now()) return true;
+  return Refuse("The Quota Reset Date must be a future date.", txtQuotaResetDate);
+}
+
+QString frmLibraryBillingInfo::UpdateStatement() const {
+  const QDate reset = txtQuotaResetDate->Date();
+  ColumnValues row;
+  row.Bare("LAST_MODIFIED", PresentDate())
+      .Text("BILL_ADDRESS1", txtStreet1->Text())
+      .Text("BILL_ADDRESS2", txtStreet2->Text())
+      .Text("BILL_CITY", txtCity->Text())
+      .Text("BILL_PROV_STATE", txtStateProvince->Text())
+      .Text("BILL_COUNTRY", txtCountry->Text())
+      .Text("BILL_POST_ZIPCODE", txtZipPostalCode->Text())
+      .Text("BILLING_TYPE", cboBillingType->Code())
+      .Text("BILL_FAX", txtFax->Text())
+      .Text("BILL_PHONE", txtPhone->Text())
+      .Text("BILLING_RATE", cboBillingRate->Code())
+      .Number("REQUESTS_PROCESSED", txtNumberProcessed->Text())
+      .Number("WEIGHTING_FACTOR", txtWeightingFactor->Text())
+      .Text("CREDIT_CARD_NAME", txtCCName->Text())
+      .Text("BILL_CONTACT", txtBillingContact->Text())
+      .Text("CREDIT_CARD_EXP", txtCCExpirationDate->Text())
+      .Text("CREDIT_CARD_CODE", txtCCCode->Text())
+      .Number("QUOTA_TOTAL", txtQTotal->Text())
+      .Text("LIBRARY_ACCOUNT", txtAccountNumber->Text())
+      .Text("CURRENCY_CODE", cmbCurrency->Code())
+      .Text("CREDIT_CARD", cboCCType->Code())
+      .Bare("QUOTA_RESET_DATE", reset.isValid() ? gclsOF->SqlDate(reset) : "Null");
+  return UpdateOfRecord(row);
+}
+
+// --- Load balancing ---
+
+void frmLibraryBillingInfo::mnuOptionsResetLoadBalancing_Click() {
+  const QString failed =
+      "An error has occurred while attempting to reset Load Balancing.  If the error persists notify support.";
+  RunUpdate("mnuOptionsResetLoadBalancing_Click", failed, [this] {
+    if (Tell("Are you sure wish to reset Load Balancing?", MessageStyle::Question) != MessageAnswer::Yes) return;
+    ResetLoadBalancing();
+    // The number on show would bring the old counter back with the next Update.
+    if (mbRecordDisplayed) {
+      const FillingFields filling;
+      txtNumberProcessed->SetText(Numbers::Format(0, Processed));
+    }
+    Tell("Load Balancing has been reset.", MessageStyle::Information);
+    gclsOF->WriteLog("Load Balancing has been reset.", {}, "L");
+  });
+}

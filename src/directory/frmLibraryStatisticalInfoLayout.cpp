@@ -1,0 +1,181 @@
+// Controls of the statistical screen.
+#include <QHBoxLayout>
+#include <QMouseEvent>
+
+#include "core/NumericFields.h"
+#include "directory/frmLibraryStatisticalInfo.h"
+
+namespace {
+
+const char* const StatsCatFailed = "***** SQL error on ID_STATS_CAT_LIB (Select) *****";
+
+DefaultCode::Facts StatsCategory(const char* key, const char* warning) {
+  return {key, "SELECT   STATS_CAT_LIB_DESC", "ID_STATS_CAT_LIB", "STATS_CAT_LIB", StatsCatFailed, warning, ""};
+}
+
+// The caption of an option: a click on it is a click on the option.
+class OptionCaption : public QLabel {
+ public:
+  OptionCaption(QWidget* parent, const QString& name, const QString& caption, QRadioButton* option)
+      : QLabel(caption, parent), option_(option) {
+    setObjectName(name);
+    setTextFormat(Qt::PlainText);
+    setBuddy(option);
+    option->setAccessibleName(caption);
+  }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    if (event->button() == Qt::LeftButton) option_->click();
+  }
+
+ private:
+  QRadioButton* option_;
+};
+
+QVBoxLayout* Stack(std::initializer_list<QWidget*> parts) {
+  auto* const stack = new QVBoxLayout;
+  for (QWidget* part : parts) stack->addWidget(part);
+  stack->addStretch();
+  return stack;
+}
+
+}  // namespace
+
+frmLibraryStatisticalInfo::frmLibraryStatisticalInfo(QWidget* parent)
+    : LibraryScreen(LibrarySibling::Statistics, parent),
+      defaultStatsCat1_(cboStatsCat1,
+                        StatsCategory("LIBRARY_Default_STATS_CAT_LIB1", "Warning: The Default Stats Category 1 *")),
+      defaultStatsCat2_(cboStatsCat2,
+                        StatsCategory("LIBRARY_Default_STATS_CAT_LIB2", "Warning: The Default Stats Category 2 *")),
+      defaultStatsCat3_(cboStatsCat3,
+                        StatsCategory("LIBRARY_Default_STATS_CAT_LIB3", "Warning: The Default Stats Category 3 *")),
+      defaultCategory_(cboCategory,
+                       {"LIBRARY_Default_LIBRARY_CAT", "SELECT   LIBRARY_CAT_DESC", "ID_LIBRARY_CAT", "LIBRARY_CAT",
+                        "***** SQL error on LIBRARY_CAT  (Select) *****", "Warning: The Default Category *", ""}),
+      defaultType_(cboLibraryType,
+                   {"LIBRARY_Default_LIBRARY_TYPE", "SELECT   LIBRARY_TYPE_DESC", "ID_LIBRARY_TYPE", "LIBRARY_TYPE",
+                    "***** SQL error on ID_LIBRARY_TYPE  (Select) *****", "Warning: The Default Library Type *", ""}),
+      defaultLoanCode_(cmbLoanCode,
+                       {"LIBRARY_Default_LOAN_CODE", "SELECT   LOAN_CODE_DESC", "ID_LOAN_CODE", "LOAN_CODE",
+                        "***** SQL error on ID_LOAN_CODE  (Select) *****", "Warning: The Default Loan Code *", ""}) {
+  BuildControls();
+  ConnectControls();
+}
+
+void frmLibraryStatisticalInfo::BuildControls() {
+  txtVORNSymbol->UpperCaseAsTyped();
+  txtNewZealand->UpperCaseAsTyped();
+  for (TextBox* box : {txtVORNPassword, txtVORNConfirmPassword, txtBLPassword, txtBLConfirmPassword, txtRapidPassword,
+                       txtRapidConfirmPassword})
+    box->setEchoMode(QLineEdit::Password);
+  for (TextBox* box : {txtDateEntered, txtDateLastUpdated}) MakeReadOnly(box);
+  MakeNumeric(*txtIFMMaxCost, lblIFMMaxCost, "9999.99", "#####0.00", true, true);
+  MakeNumeric(*txtMaximumCost, lblMaximumCost, "9999.99", "#####0.00", true, true);
+  MakeNumeric(*txtMaximumDays, lblMaximumDays, "9999", "###0", true, true);
+
+  auto* const content = new QWidget(this);
+  auto* const columns = new QHBoxLayout(content);
+  columns->setContentsMargins(0, 0, 0, 0);
+  columns->addLayout(Stack({VornPart(), BritishLibraryPart()}), 1);
+  columns->addLayout(Stack({RapidPart(), SymbolsPart()}), 1);
+  columns->addLayout(Stack({CategoriesPart(), LimitsPart()}), 1);
+  Compose(content, {cmdUpdate, cmdClear, cmdClose});
+  resize(1240, 680);
+}
+
+QWidget* frmLibraryStatisticalInfo::OptionRow(OptionGroup* options, const QString& labelName) {
+  auto* const row = new QWidget(this);
+  auto* const line = new QHBoxLayout(row);
+  line->setContentsMargins(0, 0, 0, 0);
+  const char* const captions[] = {"Yes", "No"};
+  for (const Option option : {Yes, No}) {
+    QRadioButton* const button = options->Button(option);
+    button->setParent(row);
+    line->addWidget(button);
+    line->addWidget(new OptionCaption(row, QString("%1(%2)").arg(labelName).arg(option), captions[option], button));
+  }
+  line->addStretch();
+  return row;
+}
+
+QWidget* frmLibraryStatisticalInfo::VornPart() {
+  Form::Rows rows(fraVORN);
+  rows.Add("lblVORNSymbol", "Symbol:", txtVORNSymbol, cmdSearchVORNSymbol);
+  rows.Add("lblVORNUserID", "User ID:", txtVORNUserID);
+  rows.Add("lblVORNPassword", "Password:", txtVORNPassword);
+  rows.Add("lblVORNConfirmPassword", "Confirm Password:", txtVORNConfirmPassword);
+  rows.Add("lblServiceType", "Service Type:", cmbServiceType);
+  rows.Add("lblUseIFM", "Use IFM:", OptionRow(optUseIFM, "lblUseIFMRadio"));
+  rows.Add(lblIFMMaxCost, txtIFMMaxCost);
+  return fraVORN;
+}
+
+QWidget* frmLibraryStatisticalInfo::BritishLibraryPart() {
+  Form::Rows rows(fraBritishLibrary);
+  rows.Add("lblBLUserID", "User ID:", txtBLUserID);
+  rows.Add("lblBLPassword", "Password:", txtBLPassword);
+  rows.Add("lblBLConfirmPassword", "Confirm Password:", txtBLConfirmPassword);
+  return fraBritishLibrary;
+}
+
+QWidget* frmLibraryStatisticalInfo::RapidPart() {
+  Form::Rows rows(fraRapid);
+  rows.Add("lblRapid", "Rapid ILL Code:", txtRapid, cmdSearchRapidCode);
+  rows.Add("lblRapidBranchName", "Branch Name:", txtRapidBranchName);
+  rows.Add("lblRapidUserName", "User Name:", txtRapidUserName);
+  rows.Add("lblRapidAllowLocal", "Allow Local:", OptionRow(optRapidAllowLocal, "lblRapidAllowLocalRadio"));
+  rows.Add("lblRapidPassword", "Password:", txtRapidPassword);
+  rows.Add("lblRapidConfirmPassword", "Confirm Password:", txtRapidConfirmPassword);
+  return fraRapid;
+}
+
+QWidget* frmLibraryStatisticalInfo::SymbolsPart() {
+  auto* const part = Form::Frame(this, "fraSymbols", "Symbols");
+  Form::Rows rows(part);
+  rows.Add("lblDoclineSymbol", "DOCLINE:", txtDoclineSymbol, cmdSearchDoclineSymbol);
+  rows.Add("lblNewZealand", "NLNZ:", txtNewZealand, cmdSearchNewZealandSymbol);
+  rows.Add("lblFD", "FD:", txtFD, cmdSearchFDSymbol);
+  rows.Add("lblAgent", "Agent:", txtAgent, cmdSearchAgentSymbol);
+  return part;
+}
+
+QWidget* frmLibraryStatisticalInfo::CategoriesPart() {
+  auto* const part = Form::Frame(this, "fraCategories", "Categories");
+  Form::Rows rows(part);
+  rows.Add("lblStatsCat1", "Stats Category 1:", cboStatsCat1);
+  rows.Add("lblStatsCat2", "Stats Category 2:", cboStatsCat2);
+  rows.Add("lblStatsCat3", "Stats Category 3:", cboStatsCat3);
+  rows.Add("lblCategory", "Category:", cboCategory);
+  rows.Add("lblLibraryType", "Library Type:", cboLibraryType);
+  return part;
+}
+
+QWidget* frmLibraryStatisticalInfo::LimitsPart() {
+  auto* const part = Form::Frame(this, "fraLimits", "Limits");
+  Form::Rows rows(part);
+  rows.Add("lblLoanCode", "Loan Code:", cmbLoanCode);
+  rows.Add(lblMaximumCost, txtMaximumCost);
+  rows.Add(lblMaximumDays, txtMaximumDays);
+  rows.Add("lblDateEntered", "Date Entered:", txtDateEntered);
+  rows.Add("lblDateLastUpdated", "Last Updated:", txtDateLastUpdated);
+  return part;
+}
+
+void frmLibraryStatisticalInfo::ConnectControls() {
+  Watch({txtVORNSymbol, txtVORNUserID, txtVORNPassword, txtVORNConfirmPassword, txtIFMMaxCost, txtBLUserID,
+         txtBLPassword, txtBLConfirmPassword, txtRapid, txtRapidBranchName, txtRapidUserName, txtRapidPassword,
+         txtRapidConfirmPassword, txtDoclineSymbol, txtNewZealand, txtFD, txtAgent, txtMaximumCost, txtMaximumDays});
+  Watch({cmbServiceType, cboStatsCat1, cboStatsCat2, cboStatsCat3, cboCategory, cboLibraryType, cmbLoanCode});
+  Watch({optUseIFM, optRapidAllowLocal});
+  connect(optUseIFM, &OptionGroup::Click, this, &frmLibraryStatisticalInfo::optUseIFM_Click);
+  for (const OutsideSymbol& symbol : {OutsideSymbol{txtVORNSymbol, cmdSearchVORNSymbol, "VORN_SYMBOL"},
+                                      OutsideSymbol{txtDoclineSymbol, cmdSearchDoclineSymbol, "DOCLINE_SYMBOL"},
+                                      OutsideSymbol{txtFD, cmdSearchFDSymbol, "FD_SYMBOL"},
+                                      OutsideSymbol{txtNewZealand, cmdSearchNewZealandSymbol, "NLNZ_SYMBOL"},
+                                      OutsideSymbol{txtRapid, cmdSearchRapidCode, "RAPID_CODE"},
+                                      OutsideSymbol{txtAgent, cmdSearchAgentSymbol, "AGENT_SYMBOL"}}) {
+    connect(symbol.search, &QPushButton::clicked, this, [this, symbol] { SearchOutside(symbol); });
+    symbol.box->SetEnterAction([symbol] { symbol.search->click(); });
+  }
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "core/Editing.h"
+#include "core/TabPage.h"
+#include "platform/controls/CodeComboBox.h"
+#include "platform/controls/FormLayout.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/TextBox.h"
+
+// Sub-tab "Billing Rate Codes": the billing rates that the rate tables price.
+class BillingRates : public TabPage {
+  Q_OBJECT
+
+ public:
+  // `codeOfRateTables` is the code box of the other sub-tab: an empty code sends the focus there.
+  BillingRates(frmTabulon& shell, QWidget* codeOfRateTables);
+
+  bool Add();
+  bool Update();
+  bool Delete();
+  void Clear();
+  void SelectFirstRow();
+  void FocusFirstInput() { txt7BillingCode->setFocus(); }
+  // Code of the current row; empty without one.
+  QString CurrentCode() const;
+  bool HasCurrentRow() const { return grd7BillingRate->Row() > 0; }
+
+  QString GridKey() const override { return "7 billing rates"; }
+
+ private:
+  enum Column { Marker, Code, Description, InvoiceFlag };
+
+  void BuildControls();
+  void ConnectControls();
+  void grd7BillingRate_SelChange();
+  void TrimBoxes();
+  // "Y", "N" or empty.
+  QString InvoiceFlagLetter() const { return cmb7InvoiceFlag->Code(); }
+
+  QWidget* const codeOfRateTables_;
+  TextBox* const txt7BillingCode = new TextBox(this, "txt7BillingCode", 1);
+  TextBox* const txt7BillingDescription = new TextBox(this, "txt7BillingDescription", 50);
+  CodeComboBox* const cmb7InvoiceFlag = new CodeComboBox(this, "cmb7InvoiceFlag");
+  Grid* const grd7BillingRate = new Grid(this, "grd7BillingRate", 4);
+};

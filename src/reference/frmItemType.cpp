@@ -1,0 +1,363 @@
+#include "reference/frmItemType.h"
+
+#include "core/Editing.h"
+#include "core/GridTable.h"
+#include "core/Messages.h"
+#include "core/ModuleState.h"
+#include "core/NumericFields.h"
+#include "core/OstanaFunctions.h"
+#include "core/Procedure.h"
+#include "core/SqlText.h"
+#include "reference/RecordDialog.h"
+
+using namespace Reference;
+
+namespace {
+
+constexpr double HighestCharge = 999.99;  // currency amount
+const QString NoneEntry = "(none)";
+
+// A charge as grid and box show it; NULL stays empty.
+QString ChargeOnScreen(const QString& charge) {
+  return charge.isEmpty() ? charge : Numbers::Format(Numbers::Val(charge), "##0.00");
+}
+
+}  // namespace
+
+frmItemType::frmItemType(QWidget* parent) : Screen("frmItemType", "Ostana - Item Type", parent) {
+  sstabItemType->setObjectName("sstabItemType");
+  BuildControls();
+  ConnectControls();
+}
+
+void frmItemType::BuildControls() {
+  ShapeGrid(
+      *grdItemType,
+      {"", "grdItemType", {{"", 195}, {"Item Type", 1005}, {"Charge", 795}, {"Fixed", 705}, {"Description", 960}}});
+  ShapeGrid(*grdAccessItemType, {"", "grdAccessItemType", {{"", 195}, {"Item Type"}}});
+  grdItemType->setAccessibleName("Item types");
+  grdItemType->AlignRight(Charge);
+  grdAccessItemType->setAccessibleName("Item types of the group");
+
+  auto* const typeEntry = new QWidget(this);
+  Form::Rows typeRows(typeEntry);
+  typeRows.Add("lblItemType", "&Item Type:", txtItemType);
+  typeRows.Add("lblCharge", "C&harge:", txtCharge);
+  typeRows.Add("lblFixedCharge", "Fixed Charge:", optFixedCharge->Row());
+  typeRows.Add("lblDescription", "D&escription:", txtDescription);
+  auto* const typePage = new QWidget(this);
+  Form::Column(typePage, {typeEntry})->addWidget(grdItemType, 1);
+  sstabItemType->addTab(typePage, "Item Type");
+
+  auto* const accessEntry = new QWidget(this);
+  Form::Rows accessRows(accessEntry);
+  accessRows.Add("lblAccessGroup", "User &Group:", cmbAccessGroup);
+  accessRows.Add("lblAccessItemType", "&Item Type:", cmbAccessItemType);
+  auto* const accessPage = new QWidget(this);
+  Form::Column(accessPage, {accessEntry})->addWidget(grdAccessItemType, 1);
+  sstabItemType->addTab(accessPage, "Item Types by User Group");
+
+  QVBoxLayout* const column = Form::Column(this);
+  column->addWidget(sstabItemType, 1);
+  column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
+  Form::TabOrder({sstabItemType, txtItemType, txtCharge, optFixedCharge->Button(No), optFixedCharge->Button(Yes),
+                  txtDescription, grdItemType, cmbAccessGroup, cmbAccessItemType, grdAccessItemType, cmdAdd, cmdUpdate,
+                  cmdDelete, cmdClose});
+  resize(600, 520);
+}
+
+void frmItemType::ConnectControls() {
+  MarkEdits(mbRecordChanged, txtItemType, txtCharge, txtDescription, optFixedCharge);
+  txtItemType->UpperCaseAsTyped();
+  txtCharge->SetKeyPress([this](char16_t key) { return FilterNumericKey(key, *txtCharge, false, false); });
+  txtCharge->SetLeaveCheck([this] { return ChargeMayStay(); });
+  connect(sstabItemType, &QTabWidget::currentChanged, this, &frmItemType::sstabItemType_Click);
+  connect(cmbAccessGroup, &CodeComboBox::Click, this, &frmItemType::PopulateItemTypeGrid);
+  connect(grdItemType, &Grid::SelChange, this, &frmItemType::grdItemType_SelChange);
+  connect(grdAccessItemType, &Grid::SelChange, this, &frmItemType::grdAccessItemType_SelChange);
+  connect(cmdAdd, &QPushButton::clicked, this, &frmItemType::cmdAdd_Click);
+  connect(cmdUpdate, &QPushButton::clicked, this, &frmItemType::cmdUpdate_Click);
+  connect(cmdDelete, &QPushButton::clicked, this, &frmItemType::cmdDelete_Click);
+  connect(cmdClose, &QPushButton::clicked, this, [this] { Unload(); });
+  KeepRowOnSort(grdItemType);
+  KeepRowOnSort(grdAccessItemType);
+}
+
+// --- Showing ---
+
+void frmItemType::Form_Load() {
+  optFixedCharge->Select(No);
+  LoadDataInGrid();
+  PopulateAccessGroupCombo();
+  mbRecordChanged = false;
+}
+
+void frmItemType::LoadDataInGrid() {
+  Procedure procedure("frmItemType.LoadDataInGrid", this);
+  procedure.Run([this] {
+    FillGrid(*grdItemType,
+             QString("SELECT   * ") + "FROM " + Sql::Table("ID_ITEM_TYPE") + " " + "ORDER BY ITEM_TYPE_DESC",
+             "***** SQL error on ID_ITEM_TYPE (Select) *****", [](Recordset& rows) {
+               return QStringList{Value(rows, "ITEM_TYPE"), ChargeOnScreen(Value(rows, "ITEM_CHARGE")),
+                                  Value(rows, "ITEM_CHARGE_FIXED"), Value(rows, "ITEM_TYPE_DESC")};
+             });
+  });
+}
+
+void frmItemType::PopulateAccessGroupCombo() {
+  Procedure procedure("frmItemType.PopulateAccessGroupCombo", this);
+  procedure.Run([this] {
+    const QString description = "ACCESS_GROUP_DESC" + gclsOF->LanguageSuffix();
+    cmbAccessGroup->Clear();
+    cmbAccessGroup->AddNone(NoneEntry);
+    ForEachRow("SELECT * FROM " + Sql::Table("ID_ACCESS_GROUP") + " ORDER BY " + description,
+               "***** SQL error on ID_ACCESS_GROUP (Select) *****",
+               [&](Recordset& rows) { cmbAccessGroup->Add(Value(rows, description), Value(rows, "ACCESS_GROUP")); });
+    cmbAccessGroup->SetIndex(0);
+    FillAccessItemTypes();
+  });
+}
+
+// Every type, whichever group is chosen.
+void frmItemType::FillAccessItemTypes() {
+  const QString chosen = cmbAccessItemType->Code();
+  FillCombo(*cmbAccessItemType, NoneEntry,
+            "SELECT ITEM_TYPE, ITEM_TYPE_DESC FROM " + Sql::Table("ID_ITEM_TYPE") + " ORDER BY ITEM_TYPE_DESC",
+            "***** SQL error on ID_ITEM_TYPE (Select) *****", 1, 0);
+  if (chosen.isEmpty() || !cmbAccessItemType->SetCode(chosen)) cmbAccessItemType->SetIndex(0);
+}
+
+void frmItemType::PopulateItemTypeGrid() {
+  Procedure procedure("frmItemType.PopulateItemTypeGrid", this);
+  procedure.Run([this] {
+    if (cmbAccessGroup->IsEmptyOrNone()) {
+      grdAccessItemType->Clear();
+      return;
+    }
+    FillGrid(*grdAccessItemType,
+             QString("SELECT   ITEM_TYPE_DESC ") + "FROM " + Sql::Table("ID_ITEM_TYPE") + " " +
+                 "WHERE    ITEM_TYPE IN " + "(SELECT ITEM_TYPE FROM " + Sql::Table("ID_ACCESS_ITEM_TYPE") +
+                 " WHERE ACCESS_GROUP = " + Sql::Plain(cmbAccessGroup->Code()) + ") " + "ORDER BY ITEM_TYPE_DESC",
+             "***** SQL error on ID_ITEM_TYPE/ID_ACCESS_ITEM_TYPE (Select) *****",
+             [](Recordset& rows) { return QStringList{Value(rows, 0)}; });
+  });
+}
+
+void frmItemType::sstabItemType_Click(int tab) {
+  cmdUpdate->setEnabled(tab == ItemTypeTab);
+  if (tab != AccessTab) return;
+  // The first tab may have changed what there is to choose from.
+  Procedure procedure("frmItemType.sstabItemType_Click", this);
+  procedure.Run([this] { FillAccessItemTypes(); });
+  PopulateItemTypeGrid();
+}
+
+void frmItemType::grdItemType_SelChange() {
+  const int row = grdItemType->Row();
+  if (gbSkipGridEvents || row == 0) return;
+  txtItemType->SetText(grdItemType->Text(row, ItemType));
+  txtCharge->SetText(grdItemType->Text(row, Charge));
+  optFixedCharge->Select(grdItemType->Text(row, Fixed) == "N" ? No : Yes);
+  txtDescription->SetText(grdItemType->Text(row, Description));
+}
+
+void frmItemType::grdAccessItemType_SelChange() {
+  const int row = grdAccessItemType->Row();
+  if (!gbSkipGridEvents && row > 0) cmbAccessItemType->SetText(grdAccessItemType->Text(row, 1));
+}
+
+// --- The buttons of both tabs ---
+
+void frmItemType::cmdAdd_Click() {
+  Procedure procedure("frmItemType.cmdAdd_Click", this);
+  procedure.Run([this] { OnItemTypeTab() ? AddItemType() : AddAccess(); });
+}
+
+void frmItemType::cmdDelete_Click() {
+  // Log readers know the delete under the name of another screen.
+  Procedure procedure("frmItemType.Loans_Delete", this);
+  procedure.Run([this] { OnItemTypeTab() ? DeleteItemType() : DeleteAccess(); });
+}
+
+void frmItemType::CloseButtonUpdate() {
+  if (!mbRecordChanged) return;
+  if (Confirms(this, "A record has been modified.\nDo you wish to apply the updates before continuing?"))
+    cmdUpdate_Click();
+}
+
+bool frmItemType::Form_Unload() {
+  CloseButtonUpdate();
+  return false;
+}
+
+// --- Tests of the first tab ---
+
+bool frmItemType::CodeIsComplete() {
+  return txtItemType->TrimUpperInPlace().size() == 3 ||
+         Refuse(this, "Please enter a valid 3 character Item Type.", txtItemType);
+}
+
+bool frmItemType::DescriptionIsGiven() {
+  return !txtDescription->TrimInPlace().isEmpty() || Refuse(this, "Please enter a Description.", txtDescription);
+}
+
+bool frmItemType::ChargeMayStay() {
+  const QString text = txtCharge->Trimmed();
+  if (text.isEmpty()) return true;
+  const double value = Numbers::Val(text);
+  // The box may cut the formatted value to its limit; the message tells the value as it was entered.
+  QString why;
+  if (value > HighestCharge)
+    why = Numbers::Format(value, "000.00") + " may not be greater than " + Numbers::Format(HighestCharge, "000.00");
+  if (value < 0) why = Numbers::Format(value, "00.00") + " may not be less than " + Numbers::Format(0, "00.00");
+  txtCharge->SetText(Numbers::Format(value, "##0.00"));
+  if (why.isEmpty()) return true;
+  Tell(this, why, MessageStyle::Stop);
+  txtCharge->SelectAllAndFocus();
+  return false;
+}
+
+// --- Item types ---
+
+QString frmItemType::ChargeInSql() const {
+  return Sql::NumberOr(txtCharge->Text(), "Null");
+}
+
+QString frmItemType::FixedFlag() const {
+  if (txtCharge->Trimmed().isEmpty()) return {};
+  return optFixedCharge->IsSet(Yes) ? "Y" : "N";
+}
+
+QString frmItemType::FixedInSql(const QString& prefix) const {
+  const QString flag = FixedFlag();
+  return flag.isEmpty() ? QString("Null") : prefix + "'" + flag + "'";
+}
+
+void frmItemType::WriteRow(int row) {
+  grdItemType->SetText(row, ItemType, txtItemType->Text());
+  grdItemType->SetText(row, Charge, ChargeOnScreen(txtCharge->Trimmed()));
+  grdItemType->SetText(row, Fixed, FixedFlag());
+  grdItemType->SetText(row, Description, txtDescription->Text());
+}
+
+bool frmItemType::RowIsOnScreen(int row) const {
+  const Answer fixed = grdItemType->Text(row, Fixed) == "N" ? No : Yes;
+  return txtItemType->Trimmed() == grdItemType->Text(row, ItemType) &&
+         txtCharge->Trimmed() == grdItemType->Text(row, Charge) && optFixedCharge->IsSet(fixed) &&
+         txtDescription->Trimmed() == grdItemType->Text(row, Description);
+}
+
+void frmItemType::AddItemType() {
+  if (!CodeIsComplete()) return;
+  const QString description = txtDescription->TrimInPlace();
+  for (int row = 1; row < grdItemType->Rows(); ++row) {
+    const bool sameCode = grdItemType->Text(row, ItemType) == txtItemType->Text();
+    if (!sameCode && grdItemType->Text(row, Description) != description) continue;
+    Refuse(this, "This record already exists", sameCode ? txtItemType : txtDescription);
+    return;
+  }
+  if (!DescriptionIsGiven()) return;
+  ExecuteInTransaction("INSERT INTO " + Sql::Table("ID_ITEM_TYPE") +
+                           " (ITEM_TYPE, ITEM_CHARGE, ITEM_CHARGE_FIXED, ITEM_TYPE_DESC) VALUES(" +
+                           Sql::Plain(txtItemType->Text()) + ", " + ChargeInSql() + ", " + FixedInSql("N") + ", " +
+                           Sql::Plain(description) + ")",
+                       "***** SQL error on ID_ITEM_TYPE (Insert) *****");
+  const int row = grdItemType->AddRow(QStringList(Description));
+  WriteRow(row);
+  grdItemType->SetRowQuietly(row);
+  mbRecordChanged = false;
+  Tell(this, "Record Added");
+}
+
+void frmItemType::cmdUpdate_Click() {
+  Procedure procedure("frmItemType.cmdUpdate_Click", this);
+  procedure.Run([this] {
+    if (!mbRecordChanged) {
+      Tell(this, Words::NothingChanged, MessageStyle::Stop);
+      return;
+    }
+    if (!CodeIsComplete()) return;
+    if (Numbers::Val(txtCharge->Trimmed()) > HighestCharge) {
+      Refuse(this, "Maximum Item Charge of 999.99 has been exceeded.", txtCharge);
+      return;
+    }
+    if (!DescriptionIsGiven()) return;
+    const int row = grdItemType->FindRow(txtItemType->Text(), ItemType);
+    if (row == 0) {
+      Refuse(this, "This Item Type does not exist in the system.", txtItemType);
+      return;
+    }
+    if (StandsElsewhere(*grdItemType, txtDescription->Text(), Description, row)) {
+      Refuse(this, "The Description must be unique.", txtDescription);
+      return;
+    }
+    Transaction transaction(gclsOF->Connection());
+    UpdateRecord("UPDATE " + Sql::Table("ID_ITEM_TYPE") + " " + "SET      ITEM_CHARGE = " + ChargeInSql() + ", " +
+                     "ITEM_CHARGE_FIXED = " + FixedInSql({}) + ", " +
+                     "ITEM_TYPE_DESC = " + Sql::Plain(txtDescription->Text()) + " " +
+                     "WHERE    ITEM_TYPE = " + Sql::Plain(txtItemType->Text()),
+                 "***** SQL error on ID_ITEM_TYPE (Update) *****");
+    transaction.Commit();
+    WriteRow(row);
+    mbRecordChanged = false;
+    Tell(this, "Record Updated");
+  });
+}
+
+void frmItemType::DeleteItemType() {
+  const int row = grdItemType->Row();
+  if (row == 0 || txtItemType->Trimmed().isEmpty()) {
+    Refuse(this, Words::ChooseToDelete, txtItemType);
+    return;
+  }
+  if (!RowIsOnScreen(row)) {
+    Refuse(this, Words::SelectValidRecord, txtItemType);
+    return;
+  }
+  if (!Confirms(this, Texts::DeleteQuestion)) return;
+  ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_ITEM_TYPE") + " " + "WHERE    ITEM_TYPE = '" +
+                           gclsOF->SqlEscape(grdItemType->Text(row, ItemType)) + "'",
+                       "***** SQL error on ID_ITEM_TYPE (Delete) *****");
+  grdItemType->RemoveRow(row);
+  mbRecordChanged = false;
+  Tell(this, "Record Deleted");
+}
+
+// --- Item types by user group ---
+
+void frmItemType::AddAccess() {
+  if (cmbAccessGroup->IsEmptyOrNone() || cmbAccessItemType->IsEmptyOrNone()) {
+    Refuse(this, Words::ChooseToAdd, cmbAccessGroup->IsEmptyOrNone() ? cmbAccessGroup : cmbAccessItemType);
+    return;
+  }
+  const QString description = cmbAccessItemType->Text();
+  if (grdAccessItemType->FindRow(description, 1) > 0) {
+    Refuse(this, "This record already exists", cmbAccessItemType);
+    return;
+  }
+  ExecuteInTransaction("INSERT INTO " + Sql::Table("ID_ACCESS_ITEM_TYPE") + " (ACCESS_GROUP, ITEM_TYPE) VALUES(" +
+                           Sql::Plain(cmbAccessGroup->Code()) + ", " + Sql::Plain(cmbAccessItemType->Code()) + ")",
+                       "***** SQL error on ID_ACCESS_ITEM_TYPE (Insert) *****");
+  PopulateItemTypeGrid();
+  grdAccessItemType->SetRowQuietly(grdAccessItemType->FindRow(description, 1));
+  Tell(this, "Record Added");
+}
+
+void frmItemType::DeleteAccess() {
+  const int row = grdAccessItemType->Row();
+  if (cmbAccessGroup->IsEmptyOrNone() || row == 0 || cmbAccessItemType->IsEmptyOrNone()) {
+    Refuse(this, Words::ChooseToDelete, cmbAccessGroup);
+    return;
+  }
+  if (cmbAccessItemType->Text() != grdAccessItemType->Text(row, 1)) {
+    Refuse(this, Words::SelectValidRecord, cmbAccessItemType);
+    return;
+  }
+  if (!Confirms(this, Texts::DeleteQuestion)) return;
+  ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_ACCESS_ITEM_TYPE") + " " +
+                           "WHERE    ACCESS_GROUP = '" + gclsOF->SqlEscape(cmbAccessGroup->Code()) + "' " +
+                           "AND      ITEM_TYPE = '" + gclsOF->SqlEscape(cmbAccessItemType->Code()) + "'",
+                       "***** SQL error on ID_ACCESS_ITEM_TYPE (Delete) *****");
+  PopulateItemTypeGrid();
+  Tell(this, "Record Deleted");
+}

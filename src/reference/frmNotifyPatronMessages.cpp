@@ -1,0 +1,268 @@
+// Reading and showing; what writes stands in frmNotifyPatronMessagesEdits.cpp.
+#include "reference/frmNotifyPatronMessages.h"
+
+#include "core/GridTable.h"
+#include "core/Messages.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
+#include "core/Procedure.h"
+#include "core/SqlText.h"
+#include "reference/LibraryMessages.h"
+#include "reference/RecordDialog.h"
+
+using namespace Reference;
+
+namespace {
+
+const QString NoneEntry = "(None)";
+const QString SelectFailed = "***** SQL error on ID_PATRON_MESSAGE (Select) *****";
+const QString PopulateName = "frmNotifyPatronMessages.PopulateForm";
+
+// Both lists find a row by its description, so a second one of the same words cannot be offered.
+bool IsDuplicate(QWidget* form, const CodeComboBox& box, const QString& code, const QString& description,
+                 const QString& table, const QString& consequence) {
+  if (box.IndexOfText(description) < 0) return false;
+  Tell(form, table + "\n\n" + code + " - " + description + "\n\n" + consequence, MessageStyle::Stop);
+  return true;
+}
+
+QString DescriptionOrNone(const CodeComboBox& box, const QString& code) {
+  return code.isEmpty() || box.IndexOfCode(code) < 0 ? NoneEntry : box.DescriptionOf(code);
+}
+
+}  // namespace
+
+frmNotifyPatronMessages::frmNotifyPatronMessages(QWidget* parent)
+    : Screen("frmNotifyPatronMessages", "Ostana - Notify Patron Messages", parent) {
+  BuildControls();
+  ConnectControls();
+}
+
+void frmNotifyPatronMessages::BuildControls() {
+  ShapeGrid(*grdPatronMessage, {"",
+                                "grdPatronMessage",
+                                {{"", 192},
+                                 {"Library", 1200},
+                                 {"Code", 492},
+                                 {"Description", 1896},
+                                 {"Hold in Queue", 1896},
+                                 {"Responded Queue", 1800},
+                                 {"Subject", 1896},
+                                 {"Message", 1896},
+                                 {"Response", 852},
+                                 {"Document", 852},
+                                 {"Exception", 852}}});
+  grdPatronMessage->setAccessibleName("Patron messages");
+  txtMessage->SetLines(6);
+
+  auto* const entry = new QWidget(this);
+  Form::Rows rows(entry);
+  rows.Add("lblShowMessages", "Sho&w Messages from:", cmbShowMessages);
+  rows.Add("lblLibrarySymbol", "&Library Symbol:", txtLibrarySymbol, cmdFindLibrary);
+  rows.Add(lblCode, txtCode);
+  rows.Add(lblDescription, txtDescription);
+  rows.Add(lblSubject, txtSubject);
+  rows.Add(lblMessage, txtMessage);
+  rows.Add("lblResponseRequired", "Response Required:", rdResponseRequired->Row());
+  rows.Beside("lblDocumentRequired", "Document Required:", rdDocumentRequired->Row());
+  rows.Add(lblHoldQueue, cmbHoldQueue);
+  rows.Add(lblRespondedQueue, cmbRespondedQueue);
+  rows.Add(lblExceptionCode, cmbExceptionCode);
+  QVBoxLayout* const column = Form::Column(this, {entry});
+  column->addWidget(grdPatronMessage, 1);
+  column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdClose}));
+  Form::TabOrder({cmbShowMessages,
+                  txtLibrarySymbol,
+                  cmdFindLibrary,
+                  txtCode,
+                  txtDescription,
+                  txtSubject,
+                  txtMessage,
+                  rdResponseRequired->Button(Yes),
+                  rdResponseRequired->Button(No),
+                  rdDocumentRequired->Button(Yes),
+                  rdDocumentRequired->Button(No),
+                  cmbHoldQueue,
+                  cmbRespondedQueue,
+                  cmbExceptionCode,
+                  grdPatronMessage,
+                  cmdAdd,
+                  cmdUpdate,
+                  cmdDelete,
+                  cmdClear,
+                  cmdClose});
+  resize(1100, 740);
+}
+
+void frmNotifyPatronMessages::ConnectControls() {
+  fields_.Add(txtLibrarySymbol, Library)
+      .Add(txtCode, MessageCode, Trim::BothUpper)
+      .Add(txtDescription, Description)
+      .AddText(cmbHoldQueue, HoldQueue)
+      .AddText(cmbRespondedQueue, RespondedQueue)
+      .Add(txtSubject, Subject)
+      .Add(txtMessage, Message)
+      .Add(rdResponseRequired, Response, "N")
+      .Add(rdDocumentRequired, Document, "N")
+      .AddText(cmbExceptionCode, Exception);
+  MarkEdits(mbRecordChanged, txtLibrarySymbol, txtCode, txtDescription, txtSubject, txtMessage, rdResponseRequired,
+            rdDocumentRequired, cmbHoldQueue, cmbRespondedQueue, cmbExceptionCode);
+  txtCode->UpperCaseAsTyped();
+  for (OptionGroup* const pair : {rdResponseRequired, rdDocumentRequired})
+    connect(pair, &OptionGroup::Click, this, &frmNotifyPatronMessages::EnableQueues);
+  connect(cmbShowMessages, &CodeComboBox::Click, this, &frmNotifyPatronMessages::cmbShowMessages_Click);
+  connect(cmdFindLibrary, &QPushButton::clicked, this, &frmNotifyPatronMessages::cmdFindLibrary_Click);
+  connect(cmdAdd, &QPushButton::clicked, this, &frmNotifyPatronMessages::cmdAdd_Click);
+  connect(cmdUpdate, &QPushButton::clicked, this, &frmNotifyPatronMessages::cmdUpdate_Click);
+  connect(cmdDelete, &QPushButton::clicked, this, &frmNotifyPatronMessages::cmdDelete_Click);
+  connect(cmdClear, &QPushButton::clicked, this, &frmNotifyPatronMessages::cmdClear_Click);
+  connect(cmdClose, &QPushButton::clicked, this, &frmNotifyPatronMessages::cmdClose_Click);
+  connect(grdPatronMessage, &Grid::SelChange, this, &frmNotifyPatronMessages::grdPatronMessage_SelChange);
+  KeepRowOnSort(grdPatronMessage);
+  connect(grdPatronMessage, &Grid::AfterSort, this, [this] { mintCurrentRow = grdPatronMessage->Row(); });
+}
+
+// --- Reading ---
+
+void frmNotifyPatronMessages::PopulateForm() {
+  Procedure procedure(PopulateName, this);
+  procedure.OnFailure(LoadingFormFailed).Run([this] {
+    gclsOF->WriteLog(PopulateName + " - Start", {}, "L");
+    LibraryMessages::FillFilter(*cmbShowMessages, "ID_PATRON_MESSAGE", SelectFailed);
+    FillQueues();
+    FillRejectCodes();
+    LoadMessages({});
+    gclsOF->WriteLog(PopulateName + " - Reading " + QString::number(grdPatronMessage->Rows() - 1) + " rows.", {}, "L");
+    ShowRow(grdPatronMessage->Rows() > 1 ? 1 : 0);
+    gclsOF->WriteLog(PopulateName + " - End", {}, "L");
+  });
+}
+
+void frmNotifyPatronMessages::FillQueues() {
+  for (CodeComboBox* const box : {cmbHoldQueue, cmbRespondedQueue}) {
+    box->Clear();
+    box->AddNone(NoneEntry);
+  }
+  ForEachRow("SELECT   EVENT_ID, EVENT_DESC" + gclsOF->LanguageSuffix() + " FROM " + Sql::Table("ID_EVENT") +
+                 " WHERE    EVENT_ID > 0 ORDER BY EVENT_ID",
+             "***** SQL error on ID_EVENT (Select) *****", [this](Recordset& rows) {
+               const QString id = Value(rows, 0);
+               const QString description = Value(rows, 1);
+               // Such an event heads a group; no request ever waits in it.
+               if (id.endsWith("000")) return;
+               if (IsDuplicate(this, *cmbHoldQueue, id, description,
+                               "There is a duplicate event description in the RequestFlow table.",
+                               "This event will not display in the list of valid Queues."))
+                 return;
+               cmbHoldQueue->Add(description, id);
+               cmbRespondedQueue->Add(description, id);
+             });
+}
+
+void frmNotifyPatronMessages::FillRejectCodes() {
+  const QString suffix = gclsOF->LanguageSuffix();
+  cmbExceptionCode->Clear();
+  cmbExceptionCode->AddNone(NoneEntry);
+  ForEachRow("SELECT   EXCEPTION_CODE, EXCEPTION_CODE_DESC" + suffix + " FROM " + Sql::Table("ID_EXCEPTION_CODE") +
+                 " " + "ORDER    BY EXCEPTION_CODE_DESC" + suffix,
+             "***** SQL error on ID_EXCEPTION_CODE (Select) *****", [this](Recordset& rows) {
+               const QString code = Value(rows, 0);
+               const QString description = Value(rows, 1);
+               if (IsDuplicate(this, *cmbExceptionCode, code, description,
+                               "There is a duplicate description in the Exception Code table.",
+                               "This code will not display in the list of valid Reject codes."))
+                 return;
+               cmbExceptionCode->Add(description, code);
+             });
+}
+
+void frmNotifyPatronMessages::LoadMessages(const QString& symbol) {
+  const QString order = symbol.isEmpty() ? QString("ORDER BY L.LIBRARY_SYMBOL, PM.PATRON_MESSAGE")
+                                         : "AND LIBRARY_SYMBOL=" + Sql::Plain(symbol) + " " + "ORDER BY PATRON_MESSAGE";
+  FillGrid(*grdPatronMessage,
+           "SELECT   L.LIBRARY_SYMBOL, PM.PATRON_MESSAGE, PM.PATRON_MESSAGE_DESC" + gclsOF->LanguageSuffix() +
+               ", PM.PATRON_MESSAGE_EVENT_ID, PM.PATRON_RESPONSE_EVENT_ID, PM.PATRON_MESSAGE_SUB, "
+               "PM.PATRON_MESSAGE_MSG, PM.PATRON_MESSAGE_RESPONSE, PM.PATRON_MESSAGE_DOCUMENT, "
+               "PM.PATRON_RESPONSE_EXCEPTION FROM " +
+               Sql::Table("ID_PATRON_MESSAGE") + " PM, " + Sql::Table("ID_LIBRARY") +
+               " L WHERE PM.LIBRARY_ID = L.LIBRARY_ID " + order,
+           SelectFailed, [this](Recordset& rows) {
+             return QStringList{Value(rows, 0),
+                                Value(rows, 1),
+                                Value(rows, 2),
+                                DescriptionOrNone(*cmbHoldQueue, Value(rows, 3)),
+                                DescriptionOrNone(*cmbRespondedQueue, Value(rows, 4)),
+                                Value(rows, 5),
+                                Value(rows, 6),
+                                Value(rows, 7),
+                                Value(rows, 8),
+                                DescriptionOrNone(*cmbExceptionCode, Value(rows, 9))};
+           });
+}
+
+// --- Showing ---
+
+void frmNotifyPatronMessages::ShowRow(int row) {
+  mintCurrentRow = row;
+  grdPatronMessage->SetRowQuietly(row);
+  if (row > 0)
+    fields_.FillFromRow(*grdPatronMessage, row);
+  else
+    ClearFields();
+  EnableQueues();
+  mbRecordChanged = false;
+}
+
+void frmNotifyPatronMessages::ClearFields() {
+  fields_.Clear();
+  rdResponseRequired->Select(No);
+  rdDocumentRequired->Select(No);
+}
+
+void frmNotifyPatronMessages::EnableQueues() {
+  const bool required = rdResponseRequired->IsSet(Yes) || rdDocumentRequired->IsSet(Yes);
+  for (QLabel* const label : {lblHoldQueue, lblRespondedQueue, lblExceptionCode}) label->setEnabled(required);
+  for (CodeComboBox* const box : {cmbHoldQueue, cmbRespondedQueue, cmbExceptionCode}) {
+    box->setEnabled(required);
+    if (!required) box->SetIndex(0);
+  }
+}
+
+void frmNotifyPatronMessages::cmbShowMessages_Click() {
+  Procedure procedure("frmNotifyPatronMessages.cmbShowMessages_Click", this);
+  procedure.OnFailure(NotifySupport).Run([this] {
+    const QString symbol = cmbShowMessages->Text();
+    if (symbol == LibraryMessages::AllLibraries) {
+      PopulateForm();
+      return;
+    }
+    qint32 id = 0;
+    if (!gclsOF->FindLibraryId(symbol, id)) {
+      Refuse(this, "Please enter a Valid Library Symbol.", cmbShowMessages, MessageStyle::Warning);
+      return;
+    }
+    LoadMessages(symbol);
+    ShowRow(grdPatronMessage->Rows() > 1 ? 1 : 0);
+  });
+}
+
+void frmNotifyPatronMessages::grdPatronMessage_SelChange() {
+  const int row = grdPatronMessage->Row();
+  if (gbSkipGridEvents || row == 0) return;
+  // Update writes the row that was left; the new one is shown also when it was refused.
+  if (mbRecordChanged && WantsChangesApplied(this)) cmdUpdate_Click();
+  ShowRow(row);
+}
+
+void frmNotifyPatronMessages::cmdFindLibrary_Click() {
+  Procedure procedure("frmNotifyPatronMessages.cmdFindLibrary_Click", this);
+  procedure.OnFailure(Texts::NotifySupport).Run([this] {
+    if (LibraryMessages::FindInto(this, *txtLibrarySymbol)) mbRecordChanged = true;
+  });
+}
+
+void frmNotifyPatronMessages::cmdClear_Click() {
+  ClearFields();
+  EnableQueues();
+  txtCode->setFocus();
+}
