@@ -123,14 +123,19 @@ void MethodPage::SelChange() {
   gbRecordModified = false;
 }
 
+void MethodPage::TrimEntry() {
+  const FillingFields filling;  // a record that was changed stays so whatever is trimmed
+  fields_.TrimAll();
+}
+
 // --- Add ---
 
 bool MethodPage::Add() {
   bool done = false;
   Procedure procedure("frmTabulon.Delivery_Add", this);
   procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    const QString code = code_->TrimUpperInPlace();
-    const QString description = description_->TrimInPlace();
+    TrimEntry();
+    const QString code = code_->Text(), description = description_->Text();
     if (!EntryIsNew(code, description)) return;
     Execute(InsertStatement(code, description), "***** SQL error on OSTANA." + method_.table + " (INSERT INTO) *****");
     shell().LoadDataInGrid();
@@ -177,8 +182,8 @@ bool MethodPage::Update() {
       .Run([&] {
         // The code goes first: it may lock "Active", which is read for the statement. Unlike Add, an empty description
         // is taken and an unchanged record is written.
-        const QString code = code_->TrimUpperInPlace();
-        const QString description = description_->TrimInPlace();
+        TrimEntry();
+        const QString code = code_->Text(), description = description_->Text();
         const int row = grid_->FindRow(code, Code);
         if (row == 0) {
           Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop,

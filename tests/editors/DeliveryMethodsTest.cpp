@@ -1,4 +1,5 @@
 // The three sub-tabs of methods: what they share is run on each of them, what sets them apart stands below.
+#include <QGroupBox>
 #include <QTabWidget>
 
 #include "editors/DeliveryDesk.h"
@@ -306,6 +307,14 @@ TEST_P(MethodsTest, ADescriptionOfBlanksIsStoredAsNull) {
   EXPECT_EQ(Cell(Grid_(), 1, 2), "");
 }
 
+TEST_P(MethodsTest, TrimmingDoesNotMakeAChangedRecordAnUnchangedOne) {
+  Another("CREATE UNIQUE INDEX ID_TEST_UNIQUE ON " + Twin_().table + " (" + Twin_().column + "_DESC)");
+  EnterTwin();
+  Fill("a", "Fax");
+  Fails(TryAgain, "cmdUpdate");
+  EXPECT_EQ(Text(Code()), "A");
+}
+
 TEST_P(MethodsTest, UpdateWritesTheRowOfTheCodeNotTheCurrentRow) {
   EnterTwin();
   Fill("f", "Telefax");
@@ -399,9 +408,9 @@ TEST_F(DeliveryMethodsTest, CaptionsOfSubTabsOptionsAndColumns) {
   const auto* const tabs = Find<QTabWidget>("sstab5Delivery");
   const QStringList captions{"Delivery Method", "Messaging Method", "Request Method", "Pickup Location"};
   for (int at = 0; at < 4; ++at) EXPECT_EQ(tabs->tabText(at), captions[at]);
-  EXPECT_EQ(Text("fra5aActive"), "Active:");
-  EXPECT_EQ(Text("fra5bPrint"), "Print:");
-  EXPECT_EQ(Text("fra5aDisplay"), "Display for Patron:");
+  EXPECT_EQ(Find<QGroupBox>("fra5aActive")->title(), "Active:");
+  EXPECT_EQ(Find<QGroupBox>("fra5bPrint")->title(), "Print:");
+  EXPECT_EQ(Find<QGroupBox>("fra5aDisplay")->title(), "Display for Patron:");
   EXPECT_EQ(Text("opt5aActive(0)"), "Yes");
   EXPECT_EQ(Text("opt5aActive(1)"), "No");
   // Only the messaging methods show the patron's flag.
