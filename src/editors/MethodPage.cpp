@@ -51,6 +51,7 @@ void MethodPage::BuildControls() {
     QGroupBox* const frame = Form::Frame(this, flag.frame, flag.caption);
     pairs_.push_back(new OptionGroup(frame, flag.option, {"Yes", "No"}));
     (new QHBoxLayout(frame))->addWidget(pairs_.back()->Row());
+    frame->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     frames->addWidget(frame);
   }
   frames->addStretch();
@@ -59,6 +60,15 @@ void MethodPage::BuildControls() {
   QVBoxLayout* const column = Form::Column(this, {fields});
   column->addLayout(frames);
   column->addWidget(grid_, 1);
+
+  // The options were made after the grid and stand above it.
+  QWidget* before = description_;
+  for (const OptionGroup* pair : pairs_)
+    for (const int element : {Yes, No}) {
+      setTabOrder(before, pair->Button(element));
+      before = pair->Button(element);
+    }
+  setTabOrder(before, grid_);
 }
 
 void MethodPage::ConnectControls() {

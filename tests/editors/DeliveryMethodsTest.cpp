@@ -123,6 +123,20 @@ TEST_P(MethodsTest, BoxesTakeNoMoreThanTheScreensLimits) {
   EXPECT_EQ(Text(Description()).size(), Twin_().limit);
 }
 
+TEST_P(MethodsTest, TheTabKeyGoesFromTheBoxesOverTheOptionsToTheGrid) {
+  EnterTwin();
+  Press(Code(), Qt::Key_Tab);
+  EXPECT_EQ(Focus(), Description());
+  Press(Description(), Qt::Key_Tab);
+  EXPECT_EQ(Focus(), Active(0));
+  QStringList stops;
+  while (Focus() != Grid_() && stops.size() < 5) {
+    stops.append(Focus());
+    Press(Focus(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(stops.size(), Twin_().flags.count("FLAG"));
+}
+
 TEST_P(MethodsTest, AChangedTextIsAChangeUntilItIsPutBack) {
   EnterTwin();
   for (const QString& box : {Code(), Description()}) {
