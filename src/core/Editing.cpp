@@ -33,9 +33,11 @@ FieldList& FieldList::Add(MemoBox* box, int column, Trim trim) {
 }
 
 FieldList& FieldList::Add(OptionGroup* pair, int column, const QString& no) {
-  fields_.push_back({nullptr, column,
-                     [pair, no] { return pair->IsSet(0) ? QString("Y") : pair->IsSet(1) ? no : QString(); },
-                     [pair](const QString& text) { pair->Select(text == "Y" ? 0 : 1); }, [] {}, [pair] { pair->Unset(); }});
+  fields_.push_back(
+      {nullptr, column, [pair, no] { return pair->IsSet(0)   ? QString("Y")
+                                            : pair->IsSet(1) ? no
+                                                             : QString(); },
+       [pair](const QString& text) { pair->Select(text == "Y" ? 0 : 1); }, [] {}, [pair] { pair->Unset(); }});
   return *this;
 }
 
@@ -61,7 +63,7 @@ void FieldList::FillFromRow(const Grid& grid, int row) const {
 
 bool FieldList::EqualsRow(const Grid& grid, int row) const {
   for (const BoundField& field : fields_)
-    if (field.get() != grid.Text(row, field.column)) return false;
+    if (const QString cell = grid.Text(row, field.column); KeepLineEnds(field.get(), cell) != cell) return false;
   return true;
 }
 
@@ -98,6 +100,19 @@ void WatchAnyChange(TextBox* box) {
     gstrErrorMessage.clear();
     if (!gbFillingFields) gbRecordModified = true;
   });
+}
+
+void PassFocusOn(TextBox* box, QWidget* next) {
+  box->setReadOnly(true);
+  box->setFocusPolicy(Qt::ClickFocus);
+  QObject::connect(box, &TextBox::GotFocus, next, [next] { next->setFocus(); });
+}
+
+QString KeepLineEnds(const QString& text, const QString& stored) {
+  const auto lines = [](QString any) {
+    return any.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+  };
+  return lines(text) == lines(stored) ? stored : text;
 }
 
 void KeepRowOnSort(Grid* grid) {

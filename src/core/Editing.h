@@ -54,6 +54,10 @@ void WatchField(TextBox* box, const Grid* grid, int column);
 void WatchField(MemoBox* box, const Grid* grid, int column);
 // Just sets gbRecordModified, unless gbFillingFields.
 void WatchAnyChange(TextBox* box);
+// A box that only shows: it cannot be edited, and the focus goes on to `next` however it comes.
+void PassFocusOn(TextBox* box, QWidget* next);
+// The stored text where `text` differs from it in line ends alone (a memo shows CR LF as LF), else `text`.
+QString KeepLineEnds(const QString& text, const QString& stored);
 // The selected record stays selected when a heading sorts the grid: rows move as a whole, so only the events that the
 // move raises are held back.
 void KeepRowOnSort(Grid* grid);

@@ -19,7 +19,7 @@ const std::vector<GridLayout>& Layouts() {
         {"Default", 900}, {"Library Id", 0, true}}},
       {"1", "grd1CoverInfo",
        {{"", 200}, {"Request Type ", 1770}, {"Header", 2000}, {"Footer", 2000}, {"Message 1", 2500},
-        {"Message 2", 2500}}},
+        {"Message 2", 2500}, {"", 0, true}, {"", 0, true}}},
       {"2", "grd2Department",
        {Marker, {"Library", 1500}, {"Department", 1000}, {"Description", 4000}, {"Address", 2000}, {"NCIP Department"}}},
       {"3", "grd3Printer", {Marker, {"Printer Name", 2000}, {"Device", 5620}}},
@@ -59,7 +59,7 @@ const std::vector<GridLayout>& Layouts() {
       {"8 iso", "grd8ISO", {Marker, {"Code", 1000}, {"Description", 3020}, {"ISO Reject Code", 5000}}},
       {"9", "grd9RequestType",
        {Marker, {"Code", 600}, {"Description", 4000}, {"Library Symbol", 2500}, {"Customer ID", 2500},
-        {"Invoice Flag", 1000}}},
+        {"Invoice Flag", 1000}, {"", 0, true}}},
       {"10 a", "grd10aTable", {Marker, {"Code", 1000}, {"Description", 8020}}},
       {"10 b", "grd10bTable", {Marker, {"Code", 1000}, {"Description", 6000}, {"Display", 1000}}},
   };

@@ -1,5 +1,7 @@
 #include "directory/frmLibraryLoginInfo.h"
 
+#include <QBoxLayout>
+
 #include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
@@ -50,18 +52,21 @@ void frmLibraryLoginInfo::BuildControls() {
   rows.Add("lblPassword", "Password:", txtPassword);
   rows.Add("lblConfirmPassword", "Confirm Password:", txtConfirmPassword);
   rows.Add("lblLanguage", "Language:", cboLanguageCode);
-  rows.Add("lblLibraryActive", "Library Active:", optActive->Row(), chkLibraryPending);
+  QWidget* const active = optActive->Row();
+  // Before the stretch at the end of the row.
+  static_cast<QBoxLayout*>(active->layout())->insertWidget(optActive->Count(), chkLibraryPending);
+  rows.Add("lblLibraryActive", "Library Active:", active);
   rows.Stretch();
   Compose(content, {cmdUpdate, cmdClear, cmdClose});
   resize(900, 480);
 }
 
 void frmLibraryLoginInfo::PopulateComboBoxes() {
-  const QString description = "LANGUAGE_CODE_DESC" + gclsOF->LanguageSuffix();
-  FillCombo(
-      *cboLanguageCode, "(None)",
-      "SELECT   LANGUAGE_CODE, " + description + " FROM " + Sql::Table("ID_LANGUAGE_CODE") + " ORDER BY " + description,
-      "***** SQL error on ID_LANGUAGE_CODE (Select) *****", 1, 0);
+  const QString suffix = gclsOF->LanguageSuffix();
+  FillCombo(*cboLanguageCode, "(None)",
+            "SELECT   LANGUAGE_CODE, LANGUAGE_CODE_DESC" + suffix + " FROM " + Sql::Table("ID_LANGUAGE_CODE") +
+                " ORDER BY LANGUAGE_CODE_DESC" + suffix,
+            "***** SQL error on ID_LANGUAGE_CODE (Select) *****", 1, 0);
   cboLanguageCode->SetCode({});
 }
 

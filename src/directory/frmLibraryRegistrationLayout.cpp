@@ -7,6 +7,8 @@
 
 namespace {
 
+constexpr int LongestZoneOnShow = 40;  // characters
+
 constexpr TextKey Keys[] = {
     {"LIBRARY_mnuDisplayBilling", "mnuDisplayBilling"},
     {"LIBRARY_mnuDisplayContact", "mnuDisplayContact"},
@@ -94,6 +96,8 @@ void frmLibraryRegistration::BuildControls() {
   txtLibraryName->UpperCaseAsTyped();
   chkDeliveryFax->setToolTip("Turn off formatting for the delivery fax number");
   chkMessagingFax->setToolTip("Turn off formatting for the messaging fax number");
+
+  cmbTimeZone->setMinimumContentsLength(LongestZoneOnShow);
 
   auto* const content = new QWidget(this);
   auto* const columns = new QHBoxLayout(content);

@@ -97,12 +97,13 @@ void frmCurrencyCodes::ConnectControls() {
 void frmCurrencyCodes::PopulateForm() {
   Procedure procedure("frmCurrencyCodes.PopulateForm", this);
   procedure.OnFailure(LoadingFormFailed).Run([this] {
-    const QString description = "CURRENCY_CODE_DESC" + gclsOF->LanguageSuffix();
+    const QString suffix = gclsOF->LanguageSuffix();
     FillGrid(*grdCurrencyCode,
-             QString("SELECT   * ") + "FROM " + Sql::Table("ID_CURRENCY_CODE") + " " + "ORDER BY " + description,
+             QString("SELECT   * ") + "FROM " + Sql::Table("ID_CURRENCY_CODE") + " " + "ORDER BY CURRENCY_CODE_DESC" +
+                 suffix,
              SelectFailed, [&](Recordset& rows) {
                return QStringList{Value(rows, "CURRENCY_CODE"),
-                                  Value(rows, description),
+                                  Value(rows, "CURRENCY_CODE_DESC" + suffix),
                                   Value(rows, "CURRENCY_COUNTRY"),
                                   Value(rows, "CURRENCY_BASE"),
                                   RateOnScreen(Value(rows, "CURRENCY_EXCHANGE")),

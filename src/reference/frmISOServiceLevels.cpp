@@ -39,11 +39,11 @@ void frmISOServiceLevels::BuildControls() {
 void frmISOServiceLevels::PopulateForm() {
   Procedure procedure("frmISOServiceLevels.PopulateForm", this);
   procedure.OnFailure(LoadingFieldsFailed).Run([this] {
-    const QString description = "SERVICE_LEVEL_DESC" + gclsOF->LanguageSuffix();
+    const QString suffix = gclsOF->LanguageSuffix();
     // No entry stands for NULL: a level can be changed, not taken away.
     FillCombo(*cmbServiceLevel, {},
-              "SELECT   SERVICE_LEVEL, " + description + " " + "FROM " + Sql::Table("ID_SERVICE_LEVEL") + " ORDER BY " +
-                  description,
+              "SELECT   SERVICE_LEVEL, SERVICE_LEVEL_DESC" + suffix + " " + "FROM " + Sql::Table("ID_SERVICE_LEVEL") +
+                  " ORDER BY SERVICE_LEVEL_DESC" + suffix,
               "***** SQL error on ID_SERVICE_LEVEL (Select) *****", 1, 0);
     FillGrid(*grdServiceLevel,
              QString("SELECT   ISO_SERVICE_SYMBOL, ISO_SERVICE_HANDLING, ISO_SERVICE_SEARCH, SERVICE_LEVEL ") +

@@ -32,6 +32,20 @@ QString Overview() {
          "Exit status: 0 done, 1 refused or gaps found, 2 wrong usage.";
 }
 
+QString Wrapped(const QString& text) {
+  constexpr qsizetype Width = 100;
+  QString lines;
+  QString line;
+  for (const QString& word : text.split(' ')) {
+    if (line.size() + word.size() >= Width) {
+      lines += line + '\n';
+      line.clear();
+    }
+    line += (line.isEmpty() ? "" : " ") + word;
+  }
+  return lines + line;
+}
+
 // --site may stand before the command too.
 QStringList CommandFirst(QStringList arguments) {
   if (arguments.isEmpty() || !arguments.first().startsWith("--site")) return arguments;
@@ -53,7 +67,7 @@ bool ReadSite(const CommandArguments& arguments, SiteSettings& settings, QString
 }  // namespace
 
 CommandArguments::CommandArguments(const QString& usage, const QString& summary) : usage_(usage) {
-  parser_.setApplicationDescription(summary);
+  parser_.setApplicationDescription(Wrapped(summary));
   parser_.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsOptions);
   parser_.addOption({{"h", "help"}, "Shows this text."});
   parser_.addOption({"site", "Uses the section [Database NAME] of the settings instead of [Database].", "NAME"});

@@ -71,11 +71,12 @@ QString SchemaStatements::Check(const SchemaColumn& column) const {
       return number("'integer'", "2147483648");
     case SchemaColumn::Numeric:
       return number("'integer', 'real'", '1' + QString(column.size - column.scale, QLatin1Char('0')));
-    case SchemaColumn::Date:
-      return QStringLiteral(" CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND date(%1) IS %1))").arg(name);
+    case SchemaColumn::Date:  // the modifier makes 30 February another date than was written
+      return QStringLiteral(" CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND date(%1, '+0 days') IS %1))").arg(name);
     case SchemaColumn::TimeStamp:
       return QStringLiteral(
-                 " CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND substr(datetime(%1), 1, 10) IS substr(%1, 1, 10)))")
+                 " CHECK (%1 IS NULL OR (typeof(%1) = 'text' AND substr(datetime(%1, '+0 days'), 1, 10) IS substr(%1, "
+                 "1, 10)))")
           .arg(name);
   }
   return {};

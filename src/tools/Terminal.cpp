@@ -71,8 +71,8 @@ QString ReadLine() {
 }
 
 QString AskHidden(const QString& question) {
+  const EchoOff silent;  // before the question: what is typed at once is neither shown nor thrown away
   QTextStream(stderr) << question << Qt::flush;
-  const EchoOff silent;
   const QString line = ReadLine();
   QTextStream(stderr) << '\n';
   return line;

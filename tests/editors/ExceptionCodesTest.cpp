@@ -53,27 +53,6 @@ TEST_F(ExceptionCodesTest, EntrySelectsNothingWhenThereIsOneRecord) {
   EXPECT_EQ(Text("txt8Code"), "");
 }
 
-TEST_F(ExceptionCodesTest, EntryLoadsOnceAlsoFromAnotherSubTab) {
-  Enter(Iso);
-  SelectTab("sstabtables", frmTabulon::LoansTab);
-  Statements();
-  SelectTab("sstabtables", frmTabulon::ExceptionsTab);
-  const QStringList statements = Statements();
-  EXPECT_EQ(statements.filter("SELECT   * FROM ID_EXCEPTION_CODE ORDER BY EXCEPTION_CODE ").size(), 1);
-  EXPECT_EQ(Find<QTabWidget>("sstab8Exception")->currentIndex(), Codes);
-  EXPECT_EQ(Row("grd8Table"), 1);
-}
-
-TEST_F(ExceptionCodesTest, AMissingTypeTableLeavesTheOthersUsable) {
-  Start();
-  Another("ALTER TABLE ID_PROCESS_TYPE RENAME TO ID_GONE");
-  SelectTab("sstabtables", frmTabulon::ExceptionsTab);
-  EXPECT_TRUE(LogHolds("***** SQL error on OSTANA.ID_PROCESS_TYPE (SELECT) *****"));
-  EXPECT_EQ(Rows("grd8Table"), 5);
-  EXPECT_EQ(Entries("cmb8ProcessType"), Texts({"(none)"}));
-  EXPECT_EQ(Entries("cmb8Reroute1"), Texts({"(none)", "Next", "Reroute", "Passive", "Hold", "SUP1"}));
-}
-
 TEST_F(ExceptionCodesTest, SelectingARowFillsTheFields) {
   UseWebService();
   SelectRow("grd8Table", 3);
@@ -503,85 +482,6 @@ TEST_F(ExceptionCodesTest, ClearLeavesTheType) {
   EXPECT_EQ(Text("cboExceptionType"), "Charge");
   EXPECT_EQ(Row("grd8Table"), 0);
   EXPECT_FALSE(gbRecordModified);
-}
-
-// --- Carrying a code between the sub-tabs ---
-
-TEST_F(ExceptionCodesTest, ARejectTypeOfValidExceptionsIsShownHere) {
-  UseWebService();
-  Go(Valid);
-  Choose("cmb8DocumentSupply", "Gamma");
-  Go(Codes);
-  EXPECT_EQ(Text("txt8Code"), "CCC");
-  EXPECT_EQ(Text("txt8Description"), "Gamma");
-  EXPECT_EQ(Text("cboExceptionType"), "Loan reject");
-  EXPECT_EQ(Text("txt8ServiceCharge"), "12.50");
-  EXPECT_EQ(Cell("grd8Table", Row("grd8Table"), 1), "CCC");
-  EXPECT_FALSE(gbRecordModified);
-}
-
-TEST_F(ExceptionCodesTest, ARejectTypeOfIsoRejectCodesIsShownHere) {
-  Enter(Iso);
-  SelectRowOf("grd8ISO", "AAA");
-  Go(Codes);
-  EXPECT_EQ(Text("txt8Code"), "AAA");
-  Go(Iso);
-  Choose("cmb8RejectType", "Beta");
-  Choose("cmb8ISOMessage", "Lost");
-  Go(Codes);
-  EXPECT_EQ(Text("txt8Code"), "BBB");
-  EXPECT_EQ(Text("txt8Description"), "Beta");
-  EXPECT_EQ(Text("cboExceptionType"), "Charge");
-  EXPECT_EQ(Cell("grd8Table", Row("grd8Table"), 1), "BBB");
-}
-
-TEST_F(ExceptionCodesTest, WithoutAnIsoReasonNothingIsCarried) {
-  Enter(Iso);
-  Choose("cmb8RejectType", "Beta");
-  Go(Codes);
-  EXPECT_EQ(Text("txt8Code"), "AAA");
-  EXPECT_EQ(Cell("grd8Table", Row("grd8Table"), 1), "AAA");
-}
-
-TEST_F(ExceptionCodesTest, OfTwoChoicesThatOfTheSubTabJustLeftIsShown) {
-  Enter(Iso);
-  SelectRowOf("grd8ISO", "AAA");
-  Go(Valid);
-  Choose("cmb8DocumentSupply", "Gamma");
-  Go(Codes);
-  EXPECT_EQ(Text("txt8Code"), "CCC");
-  Go(Iso);
-  SelectRowOf("grd8ISO", "AAA");
-  Go(Codes);
-  EXPECT_EQ(Text("txt8Code"), "AAA");
-}
-
-TEST_F(ExceptionCodesTest, TheTabEnteredAnewHasNoChoiceToCarry) {
-  Enter(Valid);
-  Choose("cmb8DocumentSupply", "Gamma");
-  gbRecordModified = false;
-  SelectTab("sstabtables", frmTabulon::LoansTab);
-  SelectTab("sstabtables", frmTabulon::ExceptionsTab);
-  EXPECT_EQ(Text("txt8Code"), "AAA");
-  EXPECT_EQ(Text("cmb8DocumentSupply"), "(none)");
-  EXPECT_EQ(Text("cmb8DeliverySource"), "Messaging Method");
-  EXPECT_EQ(Text("txt8Process1(0)"), "");
-}
-
-// --- Rights ---
-
-TEST_F(ExceptionCodesTest, ARightThatIsMissingStaysMissingOnEverySubTab) {
-  TakeAway("UPDATE_FLAG");
-  TakeAway("ADD_FLAG");
-  Enter();
-  for (const SubTab subTab : {Valid, Groups, Iso, Groups, Codes}) {
-    Go(subTab);
-    if (subTab == Groups) Choose("cmb8AccessGroup", "Students");
-    for (const char* name : {"cmdAdd", "cmdUpdate", "mnuOptionsAdd", "mnuOptionsUpdate"})
-      EXPECT_FALSE(IsEnabled(name)) << name << " on sub-tab " << subTab;
-    EXPECT_TRUE(IsEnabled("mnuOptionsDelete")) << subTab;
-    EXPECT_EQ(IsEnabled("cmdDelete"), subTab != Iso) << subTab;
-  }
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QWheelEvent>
 
@@ -198,14 +199,18 @@ TEST_F(CodeComboBoxTest, LongListKeepsEveryCode) {
   Show();
   list->showPopup();
   EXPECT_TRUE(list->view()->isVisible());
+  EXPECT_TRUE(list->view()->verticalScrollBar()->isVisible());
+  EXPECT_LT(list->view()->height(), 600);
+  EXPECT_GE(list->view()->parentWidget()->height(), list->view()->height());
+  EXPECT_LE(list->view()->parentWidget()->height(), list->view()->height() + 4);  // no arrows to scroll by
   list->hidePopup();
 }
 
 TEST_F(CodeComboBoxTest, OpenListIsAsWideAsItsEntries) {
-  list->Add(QString(60, u'W'));
+  list->Add(QString(40, u'W'));
   Show();
   list->showPopup();
-  EXPECT_GE(list->view()->width(), list->fontMetrics().horizontalAdvance(QString(60, u'W')));
+  EXPECT_GE(list->view()->width(), list->fontMetrics().horizontalAdvance(QString(40, u'W')));
   list->hidePopup();
 }
 

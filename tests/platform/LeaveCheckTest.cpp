@@ -80,6 +80,20 @@ TEST_F(LeaveCheckTest, RefusedPressDoesNotClick) {
   EXPECT_TRUE(box->hasFocus());
 }
 
+TEST_F(LeaveCheckTest, PressesThatComeFromTheWindowSystem) {
+  QSignalSpy clicked(save, &QPushButton::clicked);
+  const QPoint place = save->mapTo(&window, save->rect().center());
+  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
+  EXPECT_EQ(checks, 1);
+  EXPECT_EQ(clicked.count(), 0);
+  EXPECT_FALSE(save->isDown());
+  EXPECT_TRUE(box->hasFocus());
+  allow = true;
+  QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place);
+  EXPECT_EQ(clicked.count(), 1);
+  EXPECT_TRUE(save->hasFocus());
+}
+
 TEST_F(LeaveCheckTest, DoubleClickIsRefusedTwice) {
   QSignalSpy clicked(save, &QPushButton::clicked);
   QTest::mouseDClick(save, Qt::LeftButton);

@@ -56,8 +56,9 @@ class GeneralMessagesTest : public ReferenceDesk {
 TEST_F(GeneralMessagesTest, ShowsAllLibrariesFirst) {
   Open(Form);
   const QString statements = Statements().join('\n');
-  EXPECT_TRUE(statements.contains("SELECT   DISTINCT LIBRARY_SYMBOL FROM ID_LIBRARY WHERE    LIBRARY_ID IN          "
-                                  "(SELECT LIBRARY_ID FROM ID_GENERAL_MESSAGE)"));
+  EXPECT_TRUE(
+      statements.contains("SELECT   DISTINCT LIBRARY_SYMBOL FROM ID_LIBRARY WHERE    LIBRARY_ID IN          "
+                          "(SELECT LIBRARY_ID FROM ID_GENERAL_MESSAGE)"));
   EXPECT_TRUE(statements.endsWith("ORDER BY L.LIBRARY_SYMBOL"));
   EXPECT_EQ(Window()->windowTitle().toStdString(), "Ostana - General Messages");
   EXPECT_EQ(Shown("cmbShowMessages"), "All libraries");

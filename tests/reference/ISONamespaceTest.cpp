@@ -14,9 +14,10 @@ class ISONamespaceTest : public ReferenceDesk {
     Insert("ISBN", "Book number", "ISBN");
   }
   void Insert(const QString& name, const QString& description, const QString& field) {
-    Another("INSERT INTO ID_ISO_NAMESPACE (ISO_NAMESPACE, ISO_NAMESPACE_DESC, ISO_NAMESPACE_DESC_FRE, "
-            "ISO_NAMESPACE_ADDR) VALUES ('" +
-            name + "', '" + description + "', '" + description + " (fr)', '" + field + "')");
+    Another(
+        "INSERT INTO ID_ISO_NAMESPACE (ISO_NAMESPACE, ISO_NAMESPACE_DESC, ISO_NAMESPACE_DESC_FRE, "
+        "ISO_NAMESPACE_ADDR) VALUES ('" +
+        name + "', '" + description + "', '" + description + " (fr)', '" + field + "')");
   }
   // The columns that sites of several languages add so that the insert succeeds.
   void AddLegacyColumns() {

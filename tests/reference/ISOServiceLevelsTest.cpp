@@ -29,8 +29,9 @@ TEST_F(ISOServiceLevelsTest, ShowsTheLevelOfTheSelectedSymbol) {
   const QString statements = Statements().join('\n');
   EXPECT_TRUE(statements.contains(
       "SELECT   SERVICE_LEVEL, SERVICE_LEVEL_DESC FROM ID_SERVICE_LEVEL ORDER BY SERVICE_LEVEL_DESC"));
-  EXPECT_TRUE(statements.contains("SELECT   ISO_SERVICE_SYMBOL, ISO_SERVICE_HANDLING, ISO_SERVICE_SEARCH, "
-                                  "SERVICE_LEVEL FROM ID_ISO_SERVICE_LEVEL"));
+  EXPECT_TRUE(
+      statements.contains("SELECT   ISO_SERVICE_SYMBOL, ISO_SERVICE_HANDLING, ISO_SERVICE_SEARCH, "
+                          "SERVICE_LEVEL FROM ID_ISO_SERVICE_LEVEL"));
   EXPECT_EQ(Window()->windowTitle().toStdString(), "Ostana - ISO Levels of Service");
   EXPECT_EQ(At(Table, 1, Level), "X");
   EXPECT_EQ(Shown("cmbServiceLevel"), "Normal");

@@ -55,7 +55,8 @@ TEST_F(ItemTypeTest, LoadFillsBothTabs) {
   EXPECT_TRUE(statements.contains("SELECT   * FROM ID_ITEM_TYPE ORDER BY ITEM_TYPE_DESC"));
   EXPECT_TRUE(statements.contains("SELECT * FROM ID_ACCESS_GROUP ORDER BY ACCESS_GROUP_DESC"));
   EXPECT_EQ(Window()->windowTitle().toStdString(), "Ostana - Item Type");
-  EXPECT_EQ(RowsOf(*Find<Grid>(Table)).join('\n').toStdString(), "ART|8.50|N|Article\nBOK|15.00|Y|Book\nMIC|||Microform");
+  EXPECT_EQ(RowsOf(*Find<Grid>(Table)).join('\n').toStdString(),
+            "ART|8.50|N|Article\nBOK|15.00|Y|Book\nMIC|||Microform");
   EXPECT_EQ(Shown("txtItemType"), "");
   SelectRowOf(Table, "BOK");
   Picture("frmItemType");

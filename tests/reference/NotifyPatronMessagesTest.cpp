@@ -20,8 +20,9 @@ class NotifyPatronMessagesTest : public ReferenceDesk {
                   .arg(symbol));
     Another("DELETE FROM ID_PATRON_MESSAGE");
     Another("DELETE FROM ID_EVENT");
-    for (const auto& [id, text] : {std::pair(0, "No queue"), std::pair(1000, "New requests"), std::pair(1010, "To check"),
-                                   std::pair(1020, "Incomplete"), std::pair(2000, "Search")})
+    for (const auto& [id, text] :
+         {std::pair(0, "No queue"), std::pair(1000, "New requests"), std::pair(1010, "To check"),
+          std::pair(1020, "Incomplete"), std::pair(2000, "Search")})
       Another(QString("INSERT INTO ID_EVENT (EVENT_ID, EVENT_DESC) VALUES (%1, '%2')").arg(id).arg(text));
     Another("DELETE FROM ID_EXCEPTION_ISO");
     Another("DELETE FROM ID_EXCEPTION_CODE");
@@ -36,10 +37,11 @@ class NotifyPatronMessagesTest : public ReferenceDesk {
             description + "')");
   }
   void Insert(const QString& values) {
-    Another("INSERT INTO ID_PATRON_MESSAGE (LIBRARY_ID, PATRON_MESSAGE, PATRON_MESSAGE_DESC, PATRON_MESSAGE_EVENT_ID, "
-            "PATRON_MESSAGE_SUB, PATRON_MESSAGE_MSG, PATRON_MESSAGE_RESPONSE, PATRON_MESSAGE_DOCUMENT, "
-            "PATRON_RESPONSE_EVENT_ID, PATRON_RESPONSE_EXCEPTION) VALUES (" +
-            values + ")");
+    Another(
+        "INSERT INTO ID_PATRON_MESSAGE (LIBRARY_ID, PATRON_MESSAGE, PATRON_MESSAGE_DESC, PATRON_MESSAGE_EVENT_ID, "
+        "PATRON_MESSAGE_SUB, PATRON_MESSAGE_MSG, PATRON_MESSAGE_RESPONSE, PATRON_MESSAGE_DOCUMENT, "
+        "PATRON_RESPONSE_EVENT_ID, PATRON_RESPONSE_EXCEPTION) VALUES (" +
+        values + ")");
   }
   void OpenIt() {
     Open(Form);
@@ -85,8 +87,9 @@ class NotifyPatronMessagesTest : public ReferenceDesk {
 TEST_F(NotifyPatronMessagesTest, LoadReadsInOrderAndLogsIt) {
   Open(Form);
   const QString statements = Statements().join('\n');
-  EXPECT_TRUE(statements.contains("SELECT   DISTINCT LIBRARY_SYMBOL FROM ID_LIBRARY WHERE    LIBRARY_ID IN          "
-                                  "(SELECT LIBRARY_ID FROM ID_PATRON_MESSAGE)"));
+  EXPECT_TRUE(
+      statements.contains("SELECT   DISTINCT LIBRARY_SYMBOL FROM ID_LIBRARY WHERE    LIBRARY_ID IN          "
+                          "(SELECT LIBRARY_ID FROM ID_PATRON_MESSAGE)"));
   EXPECT_TRUE(statements.contains("EVENT_ID > 0 ORDER BY EVENT_ID"));
   EXPECT_TRUE(statements.contains(
       "SELECT   EXCEPTION_CODE, EXCEPTION_CODE_DESC FROM ID_EXCEPTION_CODE ORDER    BY EXCEPTION_CODE_DESC"));
@@ -135,8 +138,8 @@ TEST_F(NotifyPatronMessagesTest, EqualRejectDescriptionsAreToldAndLeftOut) {
   AddRejectCode("ZZZ", "On loan");
   Prompt().ExpectStart("There is a duplicate description in the Exception Code table.\n\n", Say::Stop);
   OpenIt();
-  EXPECT_TRUE(Prompt().Shown().last().endsWith(
-      " - On loan\n\nThis code will not display in the list of valid Reject codes."));
+  EXPECT_TRUE(
+      Prompt().Shown().last().endsWith(" - On loan\n\nThis code will not display in the list of valid Reject codes."));
   EXPECT_EQ(EntriesOf("cmbExceptionCode").join(',').toStdString(), "(None),Lost,On loan");
 }
 
@@ -250,10 +253,10 @@ TEST_F(NotifyPatronMessagesTest, SelectedRowSetsOptionsAndLists) {
 TEST_F(NotifyPatronMessagesTest, EveryControlMarksTheRecord) {
   OpenIt();
   const std::vector<std::function<void()>> edits = {
-      [this] { Append("txtLibrarySymbol", "x"); }, [this] { Type("txtCode", "x"); },
-      [this] { Append("txtDescription", "x"); },   [this] { Append("txtSubject", "x"); },
-      [this] { Append("txtMessage", "x"); },       [this] { Click("rdResponseRequiredYes"); },
-      [this] { Click("rdDocumentRequiredYes"); },  [this] { ChooseAt("cmbHoldQueue", 0); },
+      [this] { Append("txtLibrarySymbol", "x"); },  [this] { Type("txtCode", "x"); },
+      [this] { Append("txtDescription", "x"); },    [this] { Append("txtSubject", "x"); },
+      [this] { Append("txtMessage", "x"); },        [this] { Click("rdResponseRequiredYes"); },
+      [this] { Click("rdDocumentRequiredYes"); },   [this] { ChooseAt("cmbHoldQueue", 0); },
       [this] { ChooseAt("cmbRespondedQueue", 0); }, [this] { ChooseAt("cmbExceptionCode", 1); }};
   for (const auto& edit : edits) {
     SelectMessage("ALPHA", "A");
@@ -299,12 +302,13 @@ TEST_F(NotifyPatronMessagesTest, AddWritesNationalLiteralsAndEveryLanguage) {
   Choose("cmbExceptionCode", "Lost");
   Prompt().Expect(Say::Added, Say::Info);
   Click("cmdAdd");
-  EXPECT_EQ(Wrote(),
-            "INSERT INTO ID_PATRON_MESSAGE (LIBRARY_ID, PATRON_MESSAGE, PATRON_MESSAGE_DESC, PATRON_MESSAGE_EVENT_ID, "
-            "PATRON_MESSAGE_SUB, PATRON_MESSAGE_MSG, PATRON_MESSAGE_RESPONSE, PATRON_MESSAGE_DOCUMENT, "
-            "PATRON_RESPONSE_EVENT_ID, PATRON_RESPONSE_EXCEPTION, PATRON_MESSAGE_DESC_ENG, PATRON_MESSAGE_DESC_FRE, "
-            "PATRON_MESSAGE_DESC_GER) VALUES(102, N'B', N'Bill''s', 1020, N'Subject', N'Line ''one''\nline two \\ -- 😀', "
-            "N'Y', N'N', 1010, N'LOS', N'Bill''s', N'Bill''s', N'Bill''s')");
+  EXPECT_EQ(
+      Wrote(),
+      "INSERT INTO ID_PATRON_MESSAGE (LIBRARY_ID, PATRON_MESSAGE, PATRON_MESSAGE_DESC, PATRON_MESSAGE_EVENT_ID, "
+      "PATRON_MESSAGE_SUB, PATRON_MESSAGE_MSG, PATRON_MESSAGE_RESPONSE, PATRON_MESSAGE_DOCUMENT, "
+      "PATRON_RESPONSE_EVENT_ID, PATRON_RESPONSE_EXCEPTION, PATRON_MESSAGE_DESC_ENG, PATRON_MESSAGE_DESC_FRE, "
+      "PATRON_MESSAGE_DESC_GER) VALUES(102, N'B', N'Bill''s', 1020, N'Subject', N'Line ''one''\nline two \\ -- 😀', "
+      "N'Y', N'N', 1010, N'LOS', N'Bill''s', N'Bill''s', N'Bill''s')");
   EXPECT_EQ(ColumnOf("PATRON_MESSAGE_MSG", 102, "B"), "Line 'one'\nline two \\ -- 😀");
   EXPECT_EQ(Row(Table), 4);
   EXPECT_EQ(At(Table, 4, Hold), "Incomplete");
@@ -320,10 +324,11 @@ TEST_F(NotifyPatronMessagesTest, NothingRequiredStoresNullInTheThreeColumns) {
   Click("rdResponseRequiredNo");
   Prompt().Expect(Say::Added, Say::Info);
   Click("cmdAdd");
-  EXPECT_TRUE(QString::fromStdString(Wrote()).contains(
-      "N'Nothing', Null, N'S', N'M', N'N', N'N', Null, Null, N'Nothing'"));
-  EXPECT_EQ(Count("ID_PATRON_MESSAGE", "LIBRARY_ID = 103 AND PATRON_MESSAGE_EVENT_ID IS NULL AND "
-                                       "PATRON_RESPONSE_EVENT_ID IS NULL AND PATRON_RESPONSE_EXCEPTION IS NULL"),
+  EXPECT_TRUE(
+      QString::fromStdString(Wrote()).contains("N'Nothing', Null, N'S', N'M', N'N', N'N', Null, Null, N'Nothing'"));
+  EXPECT_EQ(Count("ID_PATRON_MESSAGE",
+                  "LIBRARY_ID = 103 AND PATRON_MESSAGE_EVENT_ID IS NULL AND "
+                  "PATRON_RESPONSE_EVENT_ID IS NULL AND PATRON_RESPONSE_EXCEPTION IS NULL"),
             1);
   ExpectInStep(Form, Table);
 }
@@ -461,12 +466,13 @@ TEST_F(NotifyPatronMessagesTest, CloseSetsTheLibraryTurnsTheWhereRoundAndQuotesN
   Prompt().Expect(Say::Modified, Say::Question, Say::Yes).Expect(Say::Updated, Say::Info);
   Click("cmdClose");
   EXPECT_FALSE(IsOpen());
-  EXPECT_EQ(Wrote(),
-            "UPDATE ID_PATRON_MESSAGE SET      LIBRARY_ID = 101, PATRON_MESSAGE = N'A', PATRON_MESSAGE_SUB = N'Question', "
-            "PATRON_MESSAGE_EVENT_ID = Null, PATRON_MESSAGE_DESC = N'Asked', "
-            "PATRON_MESSAGE_MSG = N'Do you want it?', PATRON_MESSAGE_RESPONSE = N'N', PATRON_MESSAGE_DOCUMENT = N'N', "
-            "PATRON_RESPONSE_EVENT_ID = Null, PATRON_RESPONSE_EXCEPTION = N'' "
-            "WHERE    PATRON_MESSAGE = N'A'         AND LIBRARY_ID = 101");
+  EXPECT_EQ(
+      Wrote(),
+      "UPDATE ID_PATRON_MESSAGE SET      LIBRARY_ID = 101, PATRON_MESSAGE = N'A', PATRON_MESSAGE_SUB = N'Question', "
+      "PATRON_MESSAGE_EVENT_ID = Null, PATRON_MESSAGE_DESC = N'Asked', "
+      "PATRON_MESSAGE_MSG = N'Do you want it?', PATRON_MESSAGE_RESPONSE = N'N', PATRON_MESSAGE_DOCUMENT = N'N', "
+      "PATRON_RESPONSE_EVENT_ID = Null, PATRON_RESPONSE_EXCEPTION = N'' "
+      "WHERE    PATRON_MESSAGE = N'A'         AND LIBRARY_ID = 101");
   EXPECT_EQ(Count("ID_PATRON_MESSAGE", "PATRON_RESPONSE_EXCEPTION = ''"), 1);
   Open(Form);
   EXPECT_EQ(At(Table, 1, Exception), "(None)");

@@ -14,8 +14,7 @@
 namespace Say {
 inline constexpr int Stop = 16, Question = 36, QuestionNoFirst = 292, QuestionCancel = 35, Warning = 48, Info = 64;
 inline constexpr int Yes = MessageAnswer::Yes, No = MessageAnswer::No, Cancel = MessageAnswer::Cancel;
-inline const QString Modified =
-    "This record has been modified.\nDo you wish to apply the updates before continuing?";
+inline const QString Modified = "This record has been modified.\nDo you wish to apply the updates before continuing?";
 inline const QString ARecordModified =
     "A record has been modified.\nDo you wish to apply the updates before continuing?";
 inline const QString Added = "Record has been added.";
@@ -23,8 +22,7 @@ inline const QString Updated = "Record has been updated.";
 inline const QString Deleted = "Record has been deleted.";
 inline const QString Delete = "Are you sure you want to delete this record?";
 inline const QString Nothing = "Nothing has been changed.";
-inline const QString NoSuchCode =
-    "This code does not exist in the table. Please select a valid code to update.";
+inline const QString NoSuchCode = "This code does not exist in the table. Please select a valid code to update.";
 }  // namespace Say
 
 // The desk of one reference dialog: rows of its tables are the case's own.

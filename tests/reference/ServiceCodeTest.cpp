@@ -21,7 +21,9 @@ const std::vector<Wildcard>& Wildcards() {
       {"COUNTRY_REGION", "EU", "European Union", "cmbCountryRegion", 2}};
   return wildcards;
 }
-bool Given(int mix, size_t index) { return (mix >> index & 1) != 0; }
+bool Given(int mix, size_t index) {
+  return (mix >> index & 1) != 0;
+}
 
 class ServiceCodeTest : public ReferenceDesk {
  protected:
@@ -80,8 +82,9 @@ TEST_F(ServiceCodeTest, LoadFillsListsAndGrid) {
   Insert("'A1', 'B', NULL, NULL, 'ZDB', NULL");
   Open(Form);
   const QString statements = Statements().join('\n');
-  for (const char* start : {"SELECT   DELIV_METHOD, DELIV_METHOD_DESC FROM", "SELECT   SERVICE_LEVEL, SERVICE_LEVEL_DESC FROM",
-                            "SELECT   SYSTEM_SOURCE, SYSTEM_SOURCE_DESC FROM", "SELECT   ITEM_TYPE, ITEM_TYPE_DESC FROM"})
+  for (const char* start :
+       {"SELECT   DELIV_METHOD, DELIV_METHOD_DESC FROM", "SELECT   SERVICE_LEVEL, SERVICE_LEVEL_DESC FROM",
+        "SELECT   SYSTEM_SOURCE, SYSTEM_SOURCE_DESC FROM", "SELECT   ITEM_TYPE, ITEM_TYPE_DESC FROM"})
     EXPECT_TRUE(statements.contains(start)) << start;
   EXPECT_TRUE(statements.endsWith("SELECT   * FROM ID_SERVICE_CODE ORDER BY SERVICE_CODE"));
   EXPECT_EQ(Window()->windowTitle().toStdString(), "Ostana - Service Code");

@@ -178,8 +178,13 @@ class ServerDatabases {
       return;
     }
     for (const QString& id : ToolSql::Values(
-             Administrator(), "SELECT ID FROM INFORMATION_SCHEMA.PROCESSLIST WHERE DB = '" + database + "'"))
-      Administrator().Execute("KILL " + id);
+             Administrator(), "SELECT ID FROM INFORMATION_SCHEMA.PROCESSLIST WHERE DB = '" + database + "'")) {
+      try {
+        Administrator().Execute("KILL " + id);
+      } catch (const AdoError& error) {
+        if (!error.Description().contains("Unknown thread")) throw;  // it has ended meanwhile
+      }
+    }
   }
 
   static QString Shape(Connection& connection) {

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "Screens.h"
+#include "core/ProcessEnd.h"
 #include "core/frmTabulon.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
@@ -61,7 +62,7 @@ int main(int argc, char** argv) {
   window.Form_Initialize();
   window.show();
   window.Form_Activate();
-  const int status = Tour(window, folder);
-  SetPrompts(nullptr);
-  return status;
+  // Ends as the program itself does.
+  EndProcess(Tour(window, folder));
+  return 0;
 }

@@ -3,11 +3,13 @@
 #include <QAbstractItemView>
 #include <QFocusEvent>
 #include <QListView>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringListModel>
 #include <QStylePainter>
+#include <QStyledItemDelegate>
 #include <QWheelEvent>
 
 namespace {
@@ -16,15 +18,22 @@ constexpr int EntriesOnShow = 20;  // of the open list
 bool SameCode(const QString& a, const QString& b) {
   return a.isNull() == b.isNull() && a == b;
 }
+
+// Entries with some air between them.
+class EntryDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 6);
+  }
+};
+
 }  // namespace
 
 CodeComboBox::CodeComboBox(QWidget* parent, const QString& name) : QComboBox(parent) {
   setObjectName(name);
   setModel(new QStringListModel(this));
-  // Plain text in even rows: a list of ten thousand opens at once.
-  auto* list = new QListView(this);
-  list->setUniformItemSizes(true);
-  setView(list);
+  SetUpList();
   setMaxVisibleItems(EntriesOnShow);
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(UsualWidth);
@@ -147,6 +156,22 @@ void CodeComboBox::paintEvent(QPaintEvent*) {
   painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 
+// Some styles cover the whole height of the screen with the entries of a box that cannot be edited, and scroll them by
+// arrows. Ten thousand entries want a list below the box with a scroll bar, which the same styles give to a box that
+// can.
+void CodeComboBox::SetUpList() {
+  static_cast<QListView*>(view())->setUniformItemSizes(true);
+  view()->setItemDelegate(new EntryDelegate(view()));
+  view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  for (QWidget* arrow : view()->parentWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+    if (arrow != view()) arrow->setFixedHeight(0);
+}
+
+void CodeComboBox::initStyleOption(QStyleOptionComboBox* option) const {
+  QComboBox::initStyleOption(option);
+  if (opening_) option->editable = true;
+}
+
 // The open list is as wide as its longest entry, within the screen.
 void CodeComboBox::showPopup() {
   int widest = 0;
@@ -161,6 +186,7 @@ void CodeComboBox::showPopup() {
   }
   const int around = 24 + view()->verticalScrollBar()->sizeHint().width();
   view()->setMinimumWidth(std::min(std::max(widest + around, width()), screen()->availableGeometry().width() * 4 / 5));
+  const QScopedValueRollback opening(opening_, true);
   QComboBox::showPopup();
 }
 

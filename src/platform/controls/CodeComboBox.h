@@ -49,14 +49,17 @@ class CodeComboBox : public QComboBox {
 
  protected:
   void focusInEvent(QFocusEvent* event) override;
+  void initStyleOption(QStyleOptionComboBox* option) const override;
   void paintEvent(QPaintEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;  // scrolls the page, never the choice, unless focused
 
  private:
+  void SetUpList();
   void Append(const QString& description, const QString& code);
   void Show(const QString& text);
 
   std::vector<QString> codes_;
+  bool opening_ = false;
   int noneIndex_ = -1;
   QString none_ = QStringLiteral("(none)");
   QString shown_;  // the text on show while no entry is chosen

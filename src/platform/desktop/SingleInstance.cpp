@@ -8,8 +8,8 @@
 
 namespace {
 
-// The user's own folder for what lives as long as his session; where there is none the folder of temporary files, which
-// all users share, so that the file's name says whose it is.
+// The folder of the user for what lives as long as he is logged on; where there is none the folder of temporary files,
+// which all users share, so that the file's name says whose it is.
 QString LockPath(const QString& applicationName) {
   const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
   if (!runtime.isEmpty() && QDir().mkpath(runtime)) return QDir(runtime).filePath(applicationName + ".lock");

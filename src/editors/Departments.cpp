@@ -1,0 +1,291 @@
+#include "editors/Departments.h"
+
+#include "core/GridTable.h"
+#include "core/Messages.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
+#include "core/Procedure.h"
+#include "core/SqlText.h"
+#include "core/frmTabulon.h"
+#include "editors/LibrarySymbol.h"
+
+Departments::Departments(frmTabulon& shell) : TabPage(shell) {
+  BuildControls();
+  ConnectControls();
+}
+
+void Departments::BuildControls() {
+  cmbShowDepartments->AddNone("All Libraries!");
+  cmbShowDepartments->SetIndex(0);
+  auto* const boxes = new QWidget(this);
+  Form::Rows rows(boxes);
+  rows.Add("lblShowDepartments", "Show Departments from:", cmbShowDepartments);
+  rows.Add("lbl2LibrarySymbol", "Library Symbol:", txt2LibrarySymbol, cmd2FindLibrary);
+  rows.Add("lbl2Department", "Department:", txt2Department);
+  rows.Add("lbl2Description", "Description:", txt2Description);
+  rows.Add("lbl2Address", "Address:", txt2Address);
+  rows.Beside("lblNCIPDepartment", "NCIP Department:", txtNCIPDepartment);
+  boxes->layout()->setContentsMargins(0, 0, 0, 0);
+  grd2Department->setAccessibleName("Departments");
+  Form::Column(this, {boxes})->addWidget(grd2Department, 1);
+}
+
+void Departments::ConnectControls() {
+  fields_.Add(txt2LibrarySymbol, Symbol)
+      .Add(txt2Department, Department)
+      .Add(txt2Description, Description)
+      .Add(txt2Address, Address)
+      .Add(txtNCIPDepartment, NCIPDepartment);
+  WatchField(txt2LibrarySymbol, grd2Department, Symbol);
+  WatchField(txt2Department, grd2Department, Department);
+  WatchField(txt2Description, grd2Department, Description);
+  WatchField(txt2Address, grd2Department, Address);
+  WatchField(txtNCIPDepartment, grd2Department, NCIPDepartment);
+  connect(cmbShowDepartments, &CodeComboBox::Click, this, &Departments::cmbShowDepartments_Click);
+  connect(cmd2FindLibrary, &QPushButton::clicked, this,
+          [this] { LibrarySymbol::Find(*txt2LibrarySymbol, this, "frmTabulon.cmd2FindLibrary_Click"); });
+  connect(grd2Department, &Grid::SelChange, this, &Departments::grd2Department_SelChange);
+  KeepRowOnSort(grd2Department);
+}
+
+// --- Entering the tab and choosing a library ---
+
+void Departments::Departments_Tab() {
+  Procedure procedure("frmTabulon.Departments_Tab", this);
+  procedure.Run([this] {
+    gstrButtonMode = "F";
+    SetDepartmentList();
+    cmbShowDepartments->SetIndex(0);
+    fields_.Clear();
+    shell().ConfigureGrdTable();
+    shell().LoadDataInGrid();
+    shell().EnableButtons(gstrButtonMode);
+    SelectFirstRow();
+  });
+}
+
+void Departments::SetDepartmentList() {
+  Procedure procedure("frmTabulon.SetDepartmentList", this);
+  procedure.Run([this] {
+    const QString sql = QString("SELECT   DISTINCT LIBRARY_SYMBOL ") + "FROM " + Sql::Table("ID_LIBRARY") + " " +
+                        "WHERE    LIBRARY_ID IN " + "(SELECT LIBRARY_ID FROM " + Sql::Table("ID_DEPARTMENT") + ") " +
+                        "ORDER BY LIBRARY_SYMBOL";
+    FillCombo(*cmbShowDepartments, "All libraries", sql, "***** SQL error on OSTANA.ID_LIBRARY (Select) *****", 0, 0);
+  });
+}
+
+void Departments::cmbShowDepartments_Click() {
+  Procedure procedure("frmTabulon.cmbShowDepartments_Click", this);
+  procedure.Run([this] {
+    shell().ConfigureGrdTable();
+    shell().LoadDataInGrid();
+    SelectFirstRow();
+  });
+}
+
+void Departments::SelectFirstRow() {
+  if (grd2Department->Rows() < 2) return;
+  grd2Department->SetRowQuietly(1);
+  gbSkipGridEvents = false;
+  grd2Department_SelChange();
+}
+
+void Departments::LoadGrid() {
+  const QString description = "DEPARTMENT_DESC" + gclsOF->LanguageSuffix();
+  const QString one = cmbShowDepartments->IsEmptyOrNone()
+                          ? QString()
+                          : "AND      L.LIBRARY_SYMBOL = " + Sql::National(cmbShowDepartments->Code()) + " ";
+  FillGrid(*grd2Department, {GridKey(),
+                             [&] {
+                               return "SELECT   D.DEPARTMENT, D." + description +
+                                      ", D.DEPARTMENT_ADDR, D.NCIP_DEPARTMENT, L.LIBRARY_SYMBOL " + "FROM " +
+                                      Sql::Table("ID_DEPARTMENT") + " D, " + Sql::Table("ID_LIBRARY") + " L " +
+                                      "WHERE    L.LIBRARY_ID = D.LIBRARY_ID " + one +
+                                      "ORDER BY L.LIBRARY_SYMBOL, D.DEPARTMENT";
+                             },
+                             "***** SQL error on OSTANA.ID_DEPARTMENT (Select) *****",
+                             {"LIBRARY_SYMBOL", "DEPARTMENT", description, "DEPARTMENT_ADDR", "NCIP_DEPARTMENT"}});
+}
+
+void Departments::grd2Department_SelChange() {
+  const int row = grd2Department->Row();
+  if (gbSkipGridEvents || row == 0) return;
+  fields_.FillFromRow(*grd2Department, row);
+  gbRecordModified = false;
+  txt2Department->setFocus();
+}
+
+void Departments::FindDepartmentLibraryId() {
+  glngDepartmentLibraryId_ = LibrarySymbol::IdOf(*txt2LibrarySymbol);
+}
+
+QString Departments::WhereLibrary() const {
+  return "AND      LIBRARY_ID = " + Sql::Number(glngDepartmentLibraryId_);
+}
+
+QString Departments::DepartmentOfDescription(const QString& failureLine) const {
+  return FirstValue(QString("SELECT   DEPARTMENT ") + "FROM " + Sql::Table("ID_DEPARTMENT") + " " +
+                        "WHERE    DEPARTMENT_DESC" + gclsOF->LanguageSuffix() + " = " +
+                        Sql::National(txt2Description->Text()) + " " + WhereLibrary(),
+                    failureLine);
+}
+
+// --- Add ---
+
+bool Departments::Departments_Add() {
+  bool done = false;
+  Procedure procedure("frmTabulon.Departments_Add", this);
+  procedure
+      .OnFailure([](const AdoError& error) {
+        return "An error occurred while trying to add a Department Code.\n\n" + error.Description();
+      })
+      .Run([&] {
+        if (!EntryIsComplete() || !IsNew()) return;
+        ExecuteInTransaction(InsertStatement(), "***** SQL error on OSTANA.ID_DEPARTMENT (INSERT INTO) *****");
+        shell().LoadDataInGrid();
+        Tell("Record Added", MessageStyle::Information);
+        done = true;
+      });
+  return done;
+}
+
+bool Departments::EntryIsComplete() {
+  fields_.TrimAll();
+  if (txt2Department->TrimUpperInPlace().isEmpty())
+    return Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt2Department);
+  if (txt2Description->Text().isEmpty())
+    return Refuse("Please enter a Valid Description.", MessageStyle::Warning, txt2Description);
+  if (txt2LibrarySymbol->Text().isEmpty())
+    return Refuse("Please select a Library Symbol.", MessageStyle::Warning, txt2LibrarySymbol);
+  if (!gclsOF->FindLibraryId(txt2LibrarySymbol->Text(), glngDepartmentLibraryId_))
+    return Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt2LibrarySymbol);
+  return true;
+}
+
+bool Departments::IsNew() {
+  bool found = false;
+  FirstValue(QString("SELECT   DEPARTMENT ") + "FROM " + Sql::Table("ID_DEPARTMENT") + " " +
+                 "WHERE    DEPARTMENT = " + Sql::National(txt2Department->Text()) + " " + WhereLibrary(),
+             "***** SQL error on ID_DEPARTMENT (Select 1) *****", &found);
+  if (found) return Refuse("This Department Code already exists.", MessageStyle::Warning, txt2Department);
+  return !RefuseDescriptionOf(DepartmentOfDescription("***** SQL error on ID_DEPARTMENT (Select 2) *****"));
+}
+
+// True when the description belongs to a department already and the user has been told.
+bool Departments::RefuseDescriptionOf(const QString& department) {
+  if (department.isEmpty()) return false;
+  Refuse("The Description already exists for this\nLibrary Symbol in Department: " + department, MessageStyle::Warning,
+         txt2Description);
+  return true;
+}
+
+QString Departments::InsertStatement() const {
+  const QString description = Sql::National(txt2Description->Text());
+  const Sql::LanguagePieces languages = Sql::LanguageColumns("DEPARTMENT_DESC_", description);
+  return "INSERT INTO " + Sql::Table("ID_DEPARTMENT") + " (DEPARTMENT, LIBRARY_ID, DEPARTMENT_DESC, " +
+         "DEPARTMENT_ADDR, NCIP_DEPARTMENT" + languages.columns + ") " + "VALUES(" +
+         Sql::National(txt2Department->Text()) + ", " + Sql::Number(glngDepartmentLibraryId_) + ", " + description +
+         ", " + Sql::NationalOr(txt2Address->Text(), "Null") + ", " +
+         Sql::NationalOr(txtNCIPDepartment->Text(), "Null") + languages.values + ")";
+}
+
+// --- Update ---
+
+bool Departments::Departments_Update() {
+  bool done = false;
+  Procedure procedure("frmTabulon.Departments_Update", this);
+  procedure.Run([&] {
+    const int row = grd2Department->Row();
+    if (row == 0) return;
+    fields_.TrimAll();
+    if (!KeyIsThatOfRow(row)) return;
+    if (fields_.EqualsRow(*grd2Department, row)) {
+      Refuse("Nothing has been changed.", MessageStyle::Warning, txt2Department);
+      return;
+    }
+    if (txt2Description->Text().isEmpty()) {
+      Refuse("Enter a Valid Description.", MessageStyle::Warning, txt2Description);
+      return;
+    }
+    FindDepartmentLibraryId();
+    if (glngDepartmentLibraryId_ < 1) {
+      // The library has gone since the grid was loaded.
+      Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt2LibrarySymbol);
+      return;
+    }
+    if (txt2Description->Text() != grd2Department->Text(row, Description) &&
+        RefuseDescriptionOf(DepartmentOfDescription("***** SQL error on ID_DEPARTMENT (Select) *****")))
+      return;
+    ExecuteInTransaction(UpdateStatement(), "***** SQL error on OSTANA.ID_DEPARTMENT (UPDATE) *****");
+    shell().LoadDataInGrid();
+    grd2Department->SetRowQuietly(
+        grd2Department->FindRow({{Symbol, txt2LibrarySymbol->Text()}, {Department, txt2Department->Text()}}));
+    Tell("Record Updated", MessageStyle::Information);
+    done = true;
+  });
+  return done;
+}
+
+bool Departments::KeyIsThatOfRow(int row) {
+  if (txt2Department->Text() == grd2Department->Text(row, Department) &&
+      txt2LibrarySymbol->Text() == grd2Department->Text(row, Symbol))
+    return true;
+  Tell(
+      "Only the Description, Address, and NCIP department may be updated.\n\n"
+      "If you wish to change the Department or Library Symbol the record must be deleted and a new record added.",
+      MessageStyle::Warning);
+  fields_.FillFromRow(*grd2Department, row);
+  gbRecordModified = false;
+  txt2Description->setFocus();
+  return false;
+}
+
+QString Departments::UpdateStatement() const {
+  return "UPDATE   " + Sql::Table("ID_DEPARTMENT") + " " + "SET      DEPARTMENT_DESC" + gclsOF->LanguageSuffix() +
+         " = " + Sql::National(txt2Description->Text()) + ", " +
+         "DEPARTMENT_ADDR = " + Sql::NationalOr(txt2Address->Text(), "Null") + ", " +
+         "NCIP_DEPARTMENT = " + Sql::NationalOr(txtNCIPDepartment->Text(), "Null") + " " +
+         "WHERE    DEPARTMENT = " + Sql::National(txt2Department->Text()) + " " + WhereLibrary();
+}
+
+// --- Delete and Clear ---
+
+bool Departments::Departments_Delete() {
+  bool done = false;
+  Procedure procedure("frmTabulon.Departments_Delete", this);
+  procedure.OnFailure(DeleteFailureText).Run([&] {
+    const QString department = txt2Department->Trimmed();
+    if (department.isEmpty() || txt2LibrarySymbol->Trimmed().isEmpty()) {
+      Refuse("Choose a record to be Deleted", MessageStyle::Stop, txt2Department);
+      return;
+    }
+    if (grd2Department->FindRow(department, Department) == 0) {
+      Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt2Department);
+      return;
+    }
+    if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return;
+    FindDepartmentLibraryId();
+    const qint64 deleted =
+        ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_DEPARTMENT") + " " +
+                                 "WHERE    DEPARTMENT = " + Sql::Plain(department) + " " + WhereLibrary(),
+                             "***** SQL error on OSTANA.ID_DEPARTMENT (DELETE) *****");
+    if (deleted == 0) {
+      Refuse("Nothing was deleted.  Make sure you have a valid record selected.", MessageStyle::Warning,
+             txt2Department);
+      return;
+    }
+    shell().LoadDataInGrid();
+    fields_.Clear();
+    SelectFirstRow();
+    Tell("Record Deleted", MessageStyle::Information);
+    done = true;
+  });
+  return done;
+}
+
+bool Departments::Departments_Clear() {
+  grd2Department->SetRowQuietly(0);
+  fields_.Clear();
+  gbRecordModified = false;
+  return true;
+}

@@ -1,0 +1,23 @@
+#include "editors/LibrarySymbol.h"
+
+#include "core/FindLibrary.h"
+#include "core/Messages.h"
+#include "core/Procedure.h"
+#include "platform/controls/TextBox.h"
+
+qint32 LibrarySymbol::IdOf(TextBox& box) {
+  const QString symbol = box.TrimInPlace();
+  if (symbol.isEmpty()) return 0;
+  return LibraryIdOfExactSymbol(symbol, "***** SQL error on OSTANA.ID_LIBRARY (Select) *****");
+}
+
+void LibrarySymbol::Find(TextBox& box, QWidget* form, const QString& logName) {
+  Procedure procedure(logName, form);
+  procedure.OnFailure(Texts::NotifySupport).Run([&] {
+    const FoundLibrary found = FindLibrary(form);
+    if (found.id > 0)
+      box.SetText(found.symbol);
+    else
+      box.setFocus();
+  });
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "core/Editing.h"
+#include "core/TabPage.h"
+#include "platform/controls/FormLayout.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/TextBox.h"
+
+// Tab "Printers": the named printers of the system and the device behind each name.
+class Printers : public TabPage {
+  Q_OBJECT
+
+ public:
+  explicit Printers(frmTabulon& shell);
+
+  void Printers_Tab();
+  bool Printers_Add();
+  bool Printers_Update();
+  bool Printers_Delete();
+  bool Printers_Clear();
+
+  QString GridKey() const override { return "3"; }
+
+ private:
+  enum Column { Marker, Printer, Device };
+
+  void BuildControls();
+  void ConnectControls();
+  void grd3Printer_SelChange();
+  void cmd3Select_Click();
+  bool IsUpdate(int row);
+  bool IsNameOfAnotherRow(int row) const;
+  QString UpdateStatement() const;
+
+  FieldList fields_;
+  QString gstrOldPrinter, gstrOldDevice;  // of the row that is updated
+
+  TextBox* const txt3Printer = new TextBox(this, "txt3Printer", 40);
+  TextBox* const txt3Device = new TextBox(this, "txt3Device", 80);
+  QPushButton* const cmd3Select =
+      Form::Button(this, "cmd3Select", "D&evice", "Choose the device in the printer dialog");
+  Grid* const grd3Printer = new Grid(this, "grd3Printer", 3);
+};

@@ -1,0 +1,225 @@
+#include "editors/RequestType.h"
+
+#include "core/Editing.h"
+#include "core/GridTable.h"
+#include "core/Messages.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
+#include "core/Procedure.h"
+#include "core/SqlText.h"
+#include "core/frmTabulon.h"
+#include "editors/LibrarySymbol.h"
+
+namespace {
+
+const QString CustomersFailed = "***** SQL error on OSTANA.ID_CUSTOMER_ID (Select) *****";
+
+QString CustomersStatement() {
+  return "SELECT   * FROM " + Sql::Table("ID_CUSTOMER_ID") + " ORDER BY CUSTOMER_ID_DESC";
+}
+
+QString CustomerDescription(const Recordset& customers) {
+  return Value(customers, "CUSTOMER_ID_DESC" + gclsOF->LanguageSuffix());
+}
+
+}  // namespace
+
+RequestType::RequestType(frmTabulon& shell) : TabPage(shell) {
+  BuildControls();
+  ConnectControls();
+}
+
+void RequestType::BuildControls() {
+  cmb9CustomerID->AddNone("(none)");
+  cmb9InvoiceFlag->Add("Cover is an Invoice", "Y");
+  cmb9InvoiceFlag->Add("Cover is not an Invoice!", "N");
+  auto* const boxes = new QWidget(this);
+  Form::Rows rows(boxes);
+  rows.Add("lbl9Code", "Code:", txt9Code);
+  rows.Add("lbl9Description", "Description:", txt9Description);
+  rows.Add("lbl9LibrarySymbol", "Library Symbol:", txt9LibrarySymbol, cmd9FindLibrary);
+  rows.Add("lbl9CustomerID", "Customer ID:", cmb9CustomerID);
+  rows.Add("lbl9InvoiceFlag", "Invoice  Flag:", cmb9InvoiceFlag);
+  boxes->layout()->setContentsMargins(0, 0, 0, 0);
+  txt9Code->setReadOnly(true);
+  txt9Code->setFocusPolicy(Qt::ClickFocus);
+  grd9RequestType->setAccessibleName("Request types");
+  Form::Column(this, {boxes})->addWidget(grd9RequestType, 1);
+}
+
+void RequestType::ConnectControls() {
+  WatchField(txt9Description, grd9RequestType, Description);
+  WatchField(txt9LibrarySymbol, grd9RequestType, LibrarySymbol_);
+  connect(cmd9FindLibrary, &QPushButton::clicked, this,
+          [this] { LibrarySymbol::Find(*txt9LibrarySymbol, this, "frmTabulon.cmd9FindLibrary_Click"); });
+  connect(cmb9CustomerID, &CodeComboBox::Click, this, &RequestType::cmb9CustomerID_Click);
+  connect(cmb9InvoiceFlag, &CodeComboBox::Click, this, &RequestType::cmb9InvoiceFlag_Click);
+  connect(grd9RequestType, &Grid::SelChange, this, &RequestType::grd9RequestType_SelChange);
+  KeepRowOnSort(grd9RequestType);
+}
+
+// --- Entering the tab ---
+
+void RequestType::RequestType_Tab() {
+  Procedure procedure("frmTabulon.RequestType_Tab", this);
+  procedure.Run([this] {
+    gstrButtonMode = "U";
+    RequestType_Clear();
+    shell().ConfigureGrdTable();
+    shell().LoadDataInGrid();
+    shell().EnableButtons(gstrButtonMode);
+    if (grd9RequestType->Rows() > 1) {
+      grd9RequestType->SetRowQuietly(1);
+      gbSkipGridEvents = false;
+      grd9RequestType_SelChange();
+    }
+    txt9Description->setFocus();
+  });
+}
+
+void RequestType::LoadGrid() {
+  const QString description = "REQUEST_TYPE_DESC" + gclsOF->LanguageSuffix();
+  FillGrid(*grd9RequestType, {GridKey(),
+                              // A type without a library is listed as well.
+                              [&] {
+                                return "SELECT L.LIBRARY_SYMBOL, RT.REQUEST_TYPE, RT." + description +
+                                       ", RT.INVOICE_FLAG, RT.CUSTOMER_ID " + "FROM " + Sql::Table("ID_REQUEST_TYPE") +
+                                       " RT LEFT JOIN " + Sql::Table("ID_LIBRARY") +
+                                       " L ON L.LIBRARY_ID = RT.LIBRARY_ID " + "ORDER BY RT.REQUEST_TYPE";
+                              },
+                              "***** SQL error on OSTANA.ID_REQUEST_TYPE (Select) *****",
+                              {"REQUEST_TYPE", description, "LIBRARY_SYMBOL", "", "INVOICE_FLAG", "CUSTOMER_ID"}});
+  LoadCustomers();
+}
+
+void RequestType::LoadCustomers() {
+  cmb9CustomerID->Clear();
+  cmb9CustomerID->AddNone("(none)");
+  ForEachRow(CustomersStatement(), CustomersFailed, [this](Recordset& customers) {
+    cmb9CustomerID->Add(CustomerDescription(customers), Value(customers, "CUSTOMER_ID"));
+  });
+  for (int row = 1; row < grd9RequestType->Rows(); ++row) {
+    const QString customer = grd9RequestType->Text(row, CustomerCode);
+    if (!customer.isEmpty()) grd9RequestType->SetText(row, CustomerID, cmb9CustomerID->DescriptionOf(customer));
+  }
+}
+
+// --- Choosing a row ---
+
+void RequestType::grd9RequestType_SelChange() {
+  const int row = grd9RequestType->Row();
+  if (gbSkipGridEvents || row == 0) return;
+  {
+    const FillingFields filling;
+    txt9Code->SetText(grd9RequestType->Text(row, Code));
+    txt9LibrarySymbol->SetText(grd9RequestType->Text(row, LibrarySymbol_));
+    txt9Description->SetText(grd9RequestType->Text(row, Description));
+    const QString customer = grd9RequestType->Text(row, CustomerCode);
+    if (customer.isEmpty() || !cmb9CustomerID->SetCode(customer)) cmb9CustomerID->SetIndex(0);
+    cmb9InvoiceFlag->SetIndex(grd9RequestType->Text(row, InvoiceFlag) == "N" ? 1 : 0);
+  }
+  gbRecordModified = false;
+  txt9Description->setFocus();
+}
+
+QString RequestType::FlagLetter() const {
+  return cmb9InvoiceFlag->Index() == 0 ? "Y" : "N";
+}
+
+void RequestType::cmb9InvoiceFlag_Click() {
+  gstrErrorMessage.clear();
+  const int row = grd9RequestType->Row();
+  if (row == 0 || FlagLetter() != grd9RequestType->Text(row, InvoiceFlag)) gbRecordModified = true;
+}
+
+void RequestType::cmb9CustomerID_Click() {
+  gstrErrorMessage.clear();
+  const int row = grd9RequestType->Row();
+  if (row == 0 || cmb9CustomerID->Code() != grd9RequestType->Text(row, CustomerCode)) gbRecordModified = true;
+}
+
+// --- Update ---
+
+bool RequestType::RequestType_Update() {
+  bool done = false;
+  Procedure procedure("frmTabulon.RequestType_Update", this);
+  procedure.OnFailure(Texts::DatabaseError).Run([&] {
+    txt9Description->TrimInPlace();
+    const int row = grd9RequestType->Row();
+    if (row > 0 && EqualsRow(row)) {
+      Refuse("Nothing has been changed", MessageStyle::Warning, txt9Description);
+      return;
+    }
+    FindRequestLibraryId();
+    if (glngRequestLibraryId_ == -1) {
+      Refuse("Please select a valid library.", MessageStyle::Warning, txt9LibrarySymbol);
+      return;
+    }
+    if (row == 0) {
+      Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop,
+             txt9Description);
+      return;
+    }
+    const QString customer = StoredCustomer();
+    ExecuteInTransaction(UpdateStatement(customer), "***** SQL error on OSTANA.ID_REQUEST_TYPE (UPDATE) *****");
+    WriteRow(row, customer);
+    Tell("Record Updated", MessageStyle::Information);
+    txt9Description->setFocus();
+    done = true;
+  });
+  return done;
+}
+
+bool RequestType::EqualsRow(int row) const {
+  return txt9Description->Text() == grd9RequestType->Text(row, Description) &&
+         FlagLetter() == grd9RequestType->Text(row, InvoiceFlag) &&
+         txt9LibrarySymbol->Text() == grd9RequestType->Text(row, LibrarySymbol_) &&
+         cmb9CustomerID->Code() == grd9RequestType->Text(row, CustomerCode);
+}
+
+void RequestType::FindRequestLibraryId() {
+  glngRequestLibraryId_ = LibrarySymbol::IdOf(*txt9LibrarySymbol);
+}
+
+// The customer id whose description is on show, read anew; of equal descriptions the one that was chosen.
+QString RequestType::StoredCustomer() const {
+  QString found;
+  const QString chosen = cmb9CustomerID->Code();
+  ForEachRow(CustomersStatement(), CustomersFailed, [&](Recordset& customers) {
+    const QString id = Value(customers, "CUSTOMER_ID");
+    if (!chosen.isEmpty() && CustomerDescription(customers) == cmb9CustomerID->Text() &&
+        (found.isEmpty() || id == chosen))
+      found = id;
+  });
+  return found;
+}
+
+QString RequestType::UpdateStatement(const QString& customer) const {
+  return "UPDATE   " + Sql::Table("ID_REQUEST_TYPE") + " " + "SET      REQUEST_TYPE_DESC" + gclsOF->LanguageSuffix() +
+         " = " + Sql::NationalOr(txt9Description->Text(), "NULL") + ", " +
+         "LIBRARY_ID = " + (glngRequestLibraryId_ > 0 ? Sql::Number(glngRequestLibraryId_) : QString("Null")) + ", " +
+         "INVOICE_FLAG = " + Sql::National(FlagLetter()) + ", " + "CUSTOMER_ID = " + Sql::NationalOr(customer, "NULL") +
+         " " + "WHERE    REQUEST_TYPE = " + Sql::National(txt9Code->Text());
+}
+
+void RequestType::WriteRow(int row, const QString& customer) {
+  grd9RequestType->SetText(row, Description, txt9Description->Text());
+  grd9RequestType->SetText(row, LibrarySymbol_, txt9LibrarySymbol->Text());
+  grd9RequestType->SetText(row, CustomerID, customer.isEmpty() ? QString() : cmb9CustomerID->Text());
+  grd9RequestType->SetText(row, CustomerCode, customer);
+  grd9RequestType->SetText(row, InvoiceFlag, FlagLetter());
+}
+
+bool RequestType::RequestType_Clear() {
+  grd9RequestType->SetRowQuietly(0);
+  {
+    const FillingFields filling;
+    txt9Code->SetText({});
+    txt9Description->SetText({});
+    txt9LibrarySymbol->SetText({});
+    cmb9InvoiceFlag->SetIndex(-1);
+    cmb9CustomerID->SetIndex(-1);
+  }
+  gbRecordModified = false;
+  return true;
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "core/TabPage.h"
+#include "platform/controls/CodeComboBox.h"
+#include "platform/controls/FormLayout.h"
+#include "platform/controls/Grid.h"
+#include "platform/controls/TextBox.h"
+
+// Tab "Request Type": library, customer id and invoice flag of the request types. The types themselves are the
+// system's, so rows are only updated.
+class RequestType : public TabPage {
+  Q_OBJECT
+
+ public:
+  explicit RequestType(frmTabulon& shell);
+
+  void RequestType_Tab();
+  bool RequestType_Update();
+  bool RequestType_Clear();
+
+  QString GridKey() const override { return "9"; }
+  void LoadGrid() override;
+
+ private:
+  // Column 4 shows the customer id's description; the id itself is hidden.
+  enum Column { Marker, Code, Description, LibrarySymbol_, CustomerID, InvoiceFlag, CustomerCode };
+
+  void BuildControls();
+  void ConnectControls();
+  void LoadCustomers();
+  void grd9RequestType_SelChange();
+  void cmb9InvoiceFlag_Click();
+  void cmb9CustomerID_Click();
+
+  QString FlagLetter() const;
+  QString StoredCustomer() const;
+  bool EqualsRow(int row) const;
+  void FindRequestLibraryId();
+  QString UpdateStatement(const QString& customer) const;
+  void WriteRow(int row, const QString& customer);
+
+  qint32 glngRequestLibraryId_ = 0;  // 0: no symbol given, -1: no such library
+
+  TextBox* const txt9Code = new TextBox(this, "txt9Code", 3);
+  TextBox* const txt9Description = new TextBox(this, "txt9Description", 50);
+  TextBox* const txt9LibrarySymbol = new TextBox(this, "txt9LibrarySymbol", 25);
+  QPushButton* const cmd9FindLibrary = Form::Button(this, "cmd9FindLibrary", "&Find Library");
+  CodeComboBox* const cmb9CustomerID = new CodeComboBox(this, "cmb9CustomerID");
+  CodeComboBox* const cmb9InvoiceFlag = new CodeComboBox(this, "cmb9InvoiceFlag");
+  Grid* const grd9RequestType = new Grid(this, "grd9RequestType", 7);
+};

@@ -1,0 +1,188 @@
+#include "reference/NoticeEmail.h"
+
+#include <QFileInfo>
+#include <QStackedWidget>
+#include <algorithm>
+
+#include "core/Editing.h"
+#include "core/Messages.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
+#include "core/Procedure.h"
+#include "core/SqlText.h"
+
+NoticeEmail::NoticeEmail(NoticeSheet sheet, QWidget* parent)
+    : Screen(sheet.form, sheet.caption, parent), sheet_(std::move(sheet)) {
+  for (const NoticeColumn& column : sheet_.columns) fields_.push_back({column, nullptr, nullptr, {}});
+  BuildControls();
+}
+
+// --- Controls ---
+
+void NoticeEmail::BuildControls() {
+  for (TextBox* box : {txtRequestType, txtRequestTypeDesc}) {
+    box->setReadOnly(true);
+    box->setFocusPolicy(Qt::ClickFocus);
+  }
+  txtRequestTypeDesc->setAccessibleName("Description of the request type");
+  const bool hasPdf = std::any_of(sheet_.columns.begin(), sheet_.columns.end(),
+                                  [](const NoticeColumn& column) { return column.group == NoticeColumn::Pdf; });
+  auto* const head = new QWidget(this);
+  Form::Rows rows(head);
+  rows.Add("lblRequestType", "Request Type:", txtRequestType, txtRequestTypeDesc);
+  if (hasPdf) {
+    options_ = new OptionGroup(this, {{"optText", "&Text message"}, {"optPDF", "&PDF message"}});
+    rows.Add("lblMessage", "Message:", options_->Row());
+    connect(options_, &OptionGroup::Click, this, [this](int group) {
+      ShowGroup(group);
+      mbRecordChanged = true;
+    });
+  }
+  groups_ = new QStackedWidget(this);
+  groups_->addWidget(BuildGroup(NoticeColumn::Text));
+  if (hasPdf) groups_->addWidget(BuildGroup(NoticeColumn::Pdf));
+
+  auto* const buttons = new QHBoxLayout;
+  for (const NoticeBrowse& browse : sheet_.browse)
+    if (browse.report.isEmpty()) buttons->addWidget(BrowseButton(browse));
+  cmdOK = Form::Button(this, "cmdOK", "&OK");
+  cmdCancel = Form::Button(this, "cmdCancel", "&Cancel");
+  connect(cmdOK, &QPushButton::clicked, this, &NoticeEmail::cmdOK_Click);
+  connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(); });
+  buttons->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}), 1);
+  head->layout()->setContentsMargins(0, 0, 0, 0);
+  Form::Column(this, {head, groups_})->addLayout(buttons);
+}
+
+QWidget* NoticeEmail::BuildGroup(NoticeColumn::Group group) {
+  auto* const page = new QWidget;
+  Form::Rows rows(page);
+  for (Field& field : fields_) {
+    const NoticeColumn& column = field.column;
+    if (column.group != group) continue;
+    QWidget* box = nullptr;
+    if (column.box == NoticeColumn::Memo)
+      box = field.memo = new MemoBox(page, column.control, column.limit);
+    else
+      box = field.line = new TextBox(page, column.control, column.limit);
+    QWidget* beside = nullptr;
+    for (const NoticeBrowse& browse : sheet_.browse)
+      if (browse.report == column.control) beside = BrowseButton(browse);
+    rows.Add("lbl" + column.control.mid(3), column.caption, box, beside);
+    ConnectBox(field);
+  }
+  page->layout()->setContentsMargins(0, 0, 0, 0);
+  const bool grows = std::any_of(fields_.begin(), fields_.end(),
+                                 [group](const Field& field) { return field.column.group == group && field.memo; });
+  if (!grows) rows.Stretch();
+  return page;
+}
+
+QPushButton* NoticeEmail::BrowseButton(const NoticeBrowse& browse) {
+  QPushButton* const button = Form::Button(this, browse.button, "&Browse...", "Choose the report file");
+  connect(button, &QPushButton::clicked, this, [this, browse] { Browse(browse); });
+  return button;
+}
+
+void NoticeEmail::ConnectBox(Field& field) {
+  const auto changed = [this] { mbRecordChanged = true; };
+  if (field.line)
+    connect(field.line, &TextBox::Change, this, changed);
+  else
+    connect(field.memo, &MemoBox::Change, this, changed);
+}
+
+void NoticeEmail::ShowGroup(int group) {
+  groups_->setCurrentIndex(group);
+}
+
+QWidget* NoticeEmail::Box(const QString& control) const {
+  return findChild<QWidget*>(control);
+}
+
+bool NoticeEmail::AllEmpty(std::initializer_list<const char*> controls) const {
+  return std::all_of(fields_.begin(), fields_.end(), [&](const Field& field) {
+    const bool asked = std::any_of(controls.begin(), controls.end(),
+                                   [&](const char* name) { return field.column.control == QLatin1String(name); });
+    return !asked || field.Text().isEmpty();
+  });
+}
+
+// --- Load ---
+
+void NoticeEmail::Form_Load() {
+  if (options_) options_->Select(NoticeColumn::Text);
+  ShowGroup(NoticeColumn::Text);
+  // What could not be read must not be written over.
+  cmdOK->setEnabled(Procedure(sheet_.loadLogName, this).Run([this] { PopulateForm(); }));
+  mbRecordChanged = false;
+}
+
+void NoticeEmail::PopulateForm() {
+  const QString ofType = "WHERE    REQUEST_TYPE = " + Sql::Plain(gstrCoverRequestType);
+  txtRequestType->SetText(gstrCoverRequestType);
+  txtRequestTypeDesc->SetText(FirstValue(
+      "SELECT   REQUEST_TYPE_DESC" + gclsOF->LanguageSuffix() + " FROM " + Sql::Table("ID_REQUEST_TYPE") + " " + ofType,
+      "***** SQL error on ID_REQUEST_TYPE (Select) *****"));
+  QStringList names;
+  for (const Field& field : fields_) names.append(field.column.name);
+  ForEachRow("SELECT   " + names.join(", ") + " FROM " + Sql::Table("ID_COVER_INFO") + " " + ofType,
+             "***** SQL error on ID_COVER_INFO (Select) *****", [this](Recordset& rows) {
+               for (Field& field : fields_) {
+                 field.stored = Value(rows, field.column.name);
+                 field.SetText(field.stored);
+               }
+             });
+}
+
+// --- Reports ---
+
+void NoticeEmail::Browse(const NoticeBrowse& browse) {
+  Procedure procedure(sheet_.form + "." + browse.button + "_Click", this);
+  procedure.Run([&] {
+    const std::optional<QString> file =
+        Prompts().OpenFile({browse.title, gclsOF->SystemFile("Reports"), "*.rpt", this});
+    if (!file) return;
+    const QString control = !browse.report.isEmpty() ? browse.report
+                            : PdfChosen()            ? QString("txtPDFReport")
+                                                     : QString("txtTextReport");
+    for (Field& field : fields_)
+      if (field.column.control == control) field.SetText(QFileInfo(*file).fileName());
+  });
+}
+
+// --- OK ---
+
+void NoticeEmail::cmdOK_Click() {
+  QString query;
+  Procedure procedure(sheet_.okLogName, this);
+  procedure
+      .Finally([&] {
+        if (sheet_.logsQuery && !query.isEmpty()) gclsOF->WriteLog("Query: " + query, {}, "S");
+      })
+      .Run([&] {
+        if (!mbRecordChanged) {
+          ShowMessage("Nothing has been changed.", MessageStyle::Stop, Caption(), {}, this);
+          return;
+        }
+        QWidget* const blank = BlankMessage();
+        if (blank && ShowMessage("Are you sure you wish to leave the message blank?", MessageStyle::Question, Caption(),
+                                 {}, this) == MessageAnswer::No) {
+          blank->setFocus();
+          return;
+        }
+        query = UpdateStatement();
+        ExecuteInTransaction(query, "***** SQL error on ID_COVER_INFO (Update) *****");
+        ShowMessage("Record has been updated.", MessageStyle::Information, Caption(), {}, this);
+        Unload();
+      });
+}
+
+// Both messages are saved, whichever is on screen.
+QString NoticeEmail::UpdateStatement() const {
+  QStringList settings;
+  for (const Field& field : fields_)
+    settings.append(field.column.name + " = " + Sql::PlainOr(KeepLineEnds(field.Text(), field.stored), "Null"));
+  return "UPDATE   " + Sql::Table("ID_COVER_INFO") + " SET      " + settings.join(", ") +
+         " WHERE    REQUEST_TYPE = " + Sql::Plain(gstrCoverRequestType);
+}
