@@ -169,7 +169,7 @@ void LibraryScreen::Compose(QWidget* content, std::initializer_list<QWidget*> co
   for (QMenu* menu : {mnuFile, mnuDisplay, mnuOptions, mnuRequest, mnuHelp}) bar->addMenu(menu);
   column->setMenuBar(bar);
 
-  std::vector<QWidget*> order = {txtLibrarySymbol, cmbLibrarySymbol, cmdSearch,     cmdAdvanced,
+  std::vector<QWidget*> order = {txtLibrarySymbol, cmbLibrarySymbol, cmdSearch, cmdAdvanced,
                                  txtInstitution,   txtLibraryName,   txtContact};
   for (QWidget* field : content->findChildren<QWidget*>())
     if (IsTabStop(field, content)) order.push_back(field);
