@@ -57,6 +57,7 @@ struct Command {
 int RunCreate(const QStringList& arguments);
 int RunCheck(const QStringList& arguments);
 int RunAddLanguage(const QStringList& arguments);
+int RunEncodePassword(const QStringList& arguments);
 int RunUser(const QStringList& arguments);
 
 // All of tabulon-db but its main: the arguments of the process without the program's name.
