@@ -161,6 +161,7 @@ TEST_F(DepartmentsTest, ADescriptionIsUniqueWithinItsLibrary) {
   Prompt().Expect("The Description already exists for this\nLibrary Symbol in Department: MUS", 48);
   Click("cmdAdd");
   EXPECT_EQ(Focus(), "txt2Description");
+  Select("ONE", "MUS");
   Select("ONE", "ART");
   Type("txt2Description", "Music");
   Prompt().Expect("The Description already exists for this\nLibrary Symbol in Department: MUS", 48);
