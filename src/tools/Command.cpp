@@ -17,7 +17,7 @@ const std::vector<Command>& Commands() {
       {"check", "Tells what the database of a site lacks.", RunCheck},
       {"add-language", "Adds a language to a site, or completes one.", RunAddLanguage},
       {"encode-password", "Encodes the password of the database's user for the settings.", RunEncodePassword},
-            {"user", "Adds, changes, removes and lists users and their rights.", RunUser},
+      {"user", "Adds, changes, removes and lists users and their rights.", RunUser},
       {"export", "Writes the settings of a site to a text file.", RunExport},
       {"compare", "Tells what differs between a file, a database and that of another site.", RunCompare},
       {"apply", "Carries the settings of a file into the database of a site.", RunApply}};
