@@ -16,6 +16,7 @@ const std::vector<Command>& Commands() {
       {"create", "Makes the tables and the first rows in the database of a site.", RunCreate},
       {"check", "Tells what the database of a site lacks.", RunCheck},
       {"add-language", "Adds a language to a site, or completes one.", RunAddLanguage},
+      {"encode-password", "Encodes the password of the database's user for the settings.", RunEncodePassword},
       {"user", "Adds, changes, removes and lists users and their rights.", RunUser},
       {"export", "Writes the settings of a site to a text file.", RunExport},
       {"compare", "Tells what differs between a file, a database and that of another site.", RunCompare},
@@ -28,7 +29,7 @@ QString Overview() {
       "Usage: tabulon-db COMMAND [options]\n"
       "Makes, checks and extends the database of an Ostana site. The settings are those of the program: Ostana.ini in\n"
       "OSTANA_HOME, else in the current directory.\n\nCommands:\n";
-  for (const Command& command : Commands()) text += "  " + command.name.leftJustified(14) + command.summary + '\n';
+  for (const Command& command : Commands()) text += "  " + command.name.leftJustified(17) + command.summary + '\n';
   return text +
          "\nOptions:\n  --site NAME   the section [Database NAME] of the settings instead of [Database]\n"
          "  --help        this text; behind a command, its own\n  --version\n\n"

@@ -64,6 +64,7 @@ struct Command {
 int RunCreate(const QStringList& arguments);
 int RunCheck(const QStringList& arguments);
 int RunAddLanguage(const QStringList& arguments);
+int RunEncodePassword(const QStringList& arguments);
 int RunUser(const QStringList& arguments);
 int RunExport(const QStringList& arguments);
 int RunCompare(const QStringList& arguments);
