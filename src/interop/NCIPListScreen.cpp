@@ -55,6 +55,7 @@ void NCIPListScreen::Form_Load() {
         if (grid_->Rows() > 1) SelectRow(1);
         mbListChanged = false;
       });
+  KeyBox()->setFocus(Qt::OtherFocusReason);
 }
 
 void NCIPListScreen::SelectRow(int row) {

@@ -46,6 +46,7 @@ void ServerConnection::Form_Load() {
   Procedure(facts_.loadName, this)
       .OnFailure("An error has occurred loading the form.  Please Notify Support.")
       .Run([this] { LoadForm(); });
+  cmbSystem->setFocus(Qt::OtherFocusReason);
 }
 
 void ServerConnection::LoadForm() {

@@ -456,11 +456,13 @@ TEST_F(NCIPListsTest, FindLibraryWithoutTheRightIsRefused) {
 
 TEST_F(NCIPListsTest, TabGoesThroughTheFieldsInReadingOrder) {
   OpenStatus();
+  EXPECT_EQ(Focus(), "txtNCIPStatusCode");
   EXPECT_EQ(TabStops("txtNCIPStatusCode", 9),
             (QStringList{"txtNCIPStatusCode", "rdAllowILLYes", "grdNCIPStatusCodes", "cmdAdd", "cmdUpdate", "cmdDelete",
                          "cmdClear", "cmdCancel", "cmdClose"}));
   Click("cmdCancel");
   OpenMapping();
+  EXPECT_EQ(Focus(), "txtNCIPLibrary");
   EXPECT_EQ(TabStops("txtNCIPLibrary", 5),
             (QStringList{"txtNCIPLibrary", "txtOstanaLibrary", "cmdFindLibrary", "grdLibraryMapping", "cmdAdd"}));
 }

@@ -483,6 +483,7 @@ TEST_F(ServerConnectionTest, TheWindowsOwnCloseButtonIsCancel) {
 
 TEST_F(ServerConnectionTest, TabGoesThroughTheFieldsInReadingOrder) {
   OpenForm(NcipForm);
+  EXPECT_EQ(Focus(), "cmbNCIPSystem");
   EXPECT_EQ(TabStops("cmbNCIPSystem", 13),
             (QStringList{"cmbNCIPSystem", "cmbConnect", "txtServerAddress", "txtNCIPURL", "txtPort", "rdVersion(0)",
                          "txtApplicationProfile", "txtServerAgency", "txtAgencySchema", "txtToAgency", "txtFromAgency",
