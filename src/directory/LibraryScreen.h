@@ -43,8 +43,8 @@ class LibraryScreen : public Screen {
   virtual void ReadFurtherText(const CustomText&) {}
   // Settings that the rest of the load stands on.
   virtual void LoadSettings() {}
-  // The screen was loaded with no library in hand.
-  virtual void LoadedEmpty() {}
+  // How the screen looks when it is loaded with no library in hand; a record that is read comes over it.
+  virtual void ShowNoRecord() {}
   // Hides what the user's rights do not allow.
   virtual void ApplyRights();
   // Buttons and entries that work on the record on show.
