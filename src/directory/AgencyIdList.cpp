@@ -45,7 +45,8 @@ void AgencyIdList::BuildControls() {
   row->addWidget(cmdSave_);
   row->addWidget(cmdCancel_);
   QVBoxLayout* const column = Form::Column(this, {grid_});
-  column->addLayout(Form::ButtonRow({cmdAdd_, cmdDelete_, nullptr, fraNew_}));
+  column->addLayout(Form::ButtonRow({cmdAdd_, cmdDelete_, nullptr}));
+  column->addWidget(fraNew_, 0, Qt::AlignLeft);
   ShowNewRow(false);
 }
 
