@@ -10,6 +10,7 @@
 #include "directory/frmDeliveryEmailTemplate.h"
 #include "directory/frmLibraryAnnotationTemplate.h"
 #include "directory/frmLibraryBillingInfo.h"
+#include "directory/frmLibraryContactInfo.h"
 #include "directory/frmLibraryLoginInfo.h"
 #include "directory/frmLibraryRegistration.h"
 #include "directory/frmLibrarySearch.h"
@@ -99,6 +100,7 @@ void RegisterDialogs() {
   RegisterScreen<frmAddExceptionNotes>("frmAddExceptionNotes");
   RegisterScreen<frmLoans>("frmLoans");
   RegisterScreen<frmLibraryRegistration>("frmLibraryRegistration");
+  RegisterScreen<frmLibraryContactInfo>("frmLibraryContactInfo");
   RegisterScreen<frmLibraryLoginInfo>("frmLibraryLoginInfo");
   RegisterScreen<frmLibraryStatisticalInfo>("frmLibraryStatisticalInfo");
   RegisterScreen<frmLibraryBillingInfo>("frmLibraryBillingInfo");

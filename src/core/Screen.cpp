@@ -6,16 +6,21 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include "core/Help.h"
+#include "core/WindowMemory.h"
+
 Screen::Screen(const QString& formName, const QString& caption, QWidget* parent) : QDialog(parent) {
   setObjectName(formName);
   setWindowTitle(caption);
   setModal(true);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  Help::OpenByF1(*this, [formName] { return formName; });
 }
 
 void Screen::Begin() {
   Form_Load();
   loaded_ = true;
+  WindowMemory::Restore(*this);
 }
 
 void Screen::ShowModeless() {
@@ -44,6 +49,7 @@ bool Screen::Unload() {
   unloading_ = false;
   if (cancelled) return false;
   gone_ = true;
+  if (isVisible()) WindowMemory::Remember(*this);
   QDialog::done(0);
   return true;
 }

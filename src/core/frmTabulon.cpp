@@ -12,6 +12,8 @@
 #include "core/OstanaFunctions.h"
 #include "core/Procedure.h"
 #include "core/ProcessEnd.h"
+#include "core/WindowMemory.h"
+#include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 
 void frmTabulon::SetTab(int index, TabRow row) { rows_.at(static_cast<size_t>(index)) = std::move(row); }
@@ -67,9 +69,19 @@ void frmTabulon::Enter(int index) {
     sstabtables_->widget(index)->layout()->addWidget(pages_[at]);
     // The layout would show it only when the event loop runs again, too late for the entry to set a focus.
     pages_[at]->show();
+    TabBeforeButtons(*pages_[at]);
   }
   buttonState();
   rows_[at].entry(*pages_[at]);
+}
+
+// A page that is made later comes last in the window's tab order; its fields stand before the row of buttons.
+void frmTabulon::TabBeforeButtons(const QWidget& page) {
+  QWidget* last = nullptr;
+  for (QWidget* at = nextInFocusChain(); at != this; at = at->nextInFocusChain())
+    if (page.isAncestorOf(at)) last = at;
+  if (last) setTabOrder(last, add_.button);
+  Form::TabOrder({add_.button, update_.button, delete_.button, clear_.button, cmdClose_});
 }
 
 void frmTabulon::ReturnSilently(int index) {
@@ -149,7 +161,9 @@ void frmTabulon::cmdClose_Click() { close(); }
 
 void frmTabulon::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (Form_Unload()) EndProcess();
+  if (!Form_Unload()) return;
+  WindowMemory::Remember(*this);
+  EndProcess();
 }
 
 bool frmTabulon::Form_Unload() {

@@ -8,10 +8,12 @@
 #include <QTabWidget>
 #include <QToolBar>
 
+#include "core/Help.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/Procedure.h"
 #include "core/Screens.h"
+#include "core/WindowMemory.h"
 #include "core/frmTabulon.h"
 #include "platform/controls/FormLayout.h"
 
@@ -34,6 +36,8 @@ frmTabulon::frmTabulon(QString commandLine, QWidget* parent)
   BuildMenu();
   BuildStatusBar();
   resize(1180, 720);
+  WindowMemory::Restore(*this);
+  Help::OpenByF1(*this, [this] { return Help::TabPageName("frmTabulon", sstabtables_->tabText(Tab())); });
   connect(sstabtables_, &QTabWidget::currentChanged, this, &frmTabulon::TabChanged);
 }
 

@@ -16,6 +16,9 @@ void RefuseMissing(const std::vector<TableDifference>& differences) {
   for (const TableDifference& difference : differences)
     for (const QString& column : difference.missing) missing += difference.table->name + '.' + column;
   if (missing.isEmpty()) return;
+  constexpr qsizetype Named = 6;  // a language lacks in eighty places at once
+  if (missing.size() > Named)
+    missing = missing.mid(0, Named) << QStringLiteral("and %1 more").arg(missing.size() - Named);
   throw std::runtime_error(("The database lacks columns that the file names: " + missing.join(", ") +
                             ".\nA language is added with tabulon-db add-language, and with its option "
                             "--legacy-columns those under another table's name.")

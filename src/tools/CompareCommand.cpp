@@ -37,7 +37,7 @@ QStringList Differences(const Side& first, const Side& second) {
 int Tell(const Side& first, const Side& second) {
   const QStringList lines = Differences(first, second);
   if (lines.isEmpty()) {
-    Terminal::Print(first.name + " and " + second.name + " are equal.");
+    Terminal::Print("Equal: " + first.name + " and " + second.name + '.');
     return ExitCode::Done;
   }
   Terminal::Print("First: " + first.name + "\nSecond: " + second.name +

@@ -44,8 +44,8 @@ Cell CanonicalNumber(const QString& text, int scale) {
 }
 
 Cell CanonicalDate(const QString& text) {
-  const QDate date = QDate::fromString(text, Qt::ISODate);
-  return date.isValid() ? Cell(date.toString(Qt::ISODate)) : std::nullopt;
+  const QDate date = QDate::fromString(text, Qt::ISODate);  // which overlooks what stands behind
+  return date.isValid() && text.size() == 10 ? Cell(date.toString(Qt::ISODate)) : std::nullopt;
 }
 
 // A date and a time apart: the clock of this machine must not decide which moments there are.

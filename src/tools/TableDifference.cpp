@@ -1,5 +1,6 @@
 #include "tools/TableDifference.h"
 
+#include <algorithm>
 #include <map>
 #include <stdexcept>
 

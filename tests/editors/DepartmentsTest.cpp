@@ -369,6 +369,17 @@ TEST_F(DepartmentsTest, AMissingTableSaysSoAndLeavesTheOtherTabsWorking) {
   EXPECT_GT(Rows("grd1CoverInfo"), 1);
 }
 
+TEST_F(DepartmentsTest, AClosedConnectionIsOpenedAgain) {
+  Enter();
+  gclsOF->Connection().Close();
+  Add("TWO", "LAW", "Law");
+  Select("TWO", "LAW");
+  gclsOF->Connection().Close();
+  Prompt().Expect("Are you sure you wish to Delete this record?", 36, MessageAnswer::Yes).Expect("Record Deleted", 64);
+  Click("cmdDelete");
+  EXPECT_EQ(Count("ID_DEPARTMENT"), 3);
+}
+
 TEST_F(DepartmentsTest, Looks) {
   Enter();
   Picture("departments");

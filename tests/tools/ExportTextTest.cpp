@@ -51,9 +51,9 @@ TEST(ExportTextTest, ATextOfSeveralLinesHasALineForEach) {
 }
 
 TEST(ExportTextTest, AnyTextComesBackAsItWas) {
-  for (const char* text : {"'", "\"", "\\", "\\n", "a\tb", "\n", "\r\n", "\n\n", "x\n", " blank ", "# no comment", "end",
-                           "'; DROP TABLE ID_PRINTER; --", "Straße, naïve, 漢字, 😀, ğİı", "\u2028\u00a0\ufeff\u202e",
-                           "e\u0301", "\u007f\u0001", "\\u{41}", "\ufffd"})
+  for (const char* text : {"'", "\"", "\\", "\\n", "a\tb", "\n", "\r\n", "\n\n", "x\n", " blank ", "# no comment",
+                           "end", "'; DROP TABLE ID_PRINTER; --", "Straße, naïve, 漢字, 😀, ğİı",
+                           "\u2028\u00a0\ufeff\u202e", "e\u0301", "\u007f\u0001", "\\u{41}", "\ufffd"})
     EXPECT_EQ(Again(QString::fromUtf8(text)), Cell(QString::fromUtf8(text))) << text;
   EXPECT_EQ(Again(QString(QChar(0))), Cell(QString(QChar(0))));
   EXPECT_EQ(Again(QString(QChar(0xd800))), Cell(QString(QChar(0xd800))));
@@ -133,15 +133,16 @@ TEST(ExportTextTest, WhatCannotBeUnderstoodIsRefusedWithItsLine) {
   EXPECT_TRUE(Refusal(row + "NULL\nCOLOUR NULL\nend").contains("\"COLOUR\" cannot be understood here"));
   EXPECT_TRUE(Refusal(row + "NULL\n<<<<<<< HEAD\nend").startsWith("Line 8: \"<<<<<<<\""));
   EXPECT_TRUE(Refusal(Head + "row\nPRINTER \"a\"\nend").contains("no value of DEVICE"));
-  EXPECT_TRUE(Refusal(row + "NULL\nrow\nPRINTER \"a\"\nDEVICE \"b\"\nend").contains("two rows of the key PRINTER \"a\""));
+  EXPECT_TRUE(
+      Refusal(row + "NULL\nrow\nPRINTER \"a\"\nDEVICE \"b\"\nend").contains("two rows of the key PRINTER \"a\""));
   EXPECT_TRUE(Refusal(Head + "column COLOUR\nend").contains("has no column \"COLOUR\""));
   EXPECT_TRUE(Refusal(Head + "column DEVICE\nend").contains("twice"));
   EXPECT_TRUE(Refusal(Head + "table ID_PRINTER\ncolumn PRINTER\nend").contains("stands in the file twice"));
   EXPECT_TRUE(Refusal(ExportText::FirstLine + "\ntable ID_NONE\nend").contains("no table \"ID_NONE\""));
   EXPECT_TRUE(Refusal(ExportText::FirstLine + "\ntable ID_PRINTER\ncolumn DEVICE\nrow\nDEVICE \"x\"\nend")
                   .contains("without the column PRINTER of its key"));
-  EXPECT_TRUE(
-      Refusal(ExportText::FirstLine + "\ntable ID_EVENT\ncolumn EVENT_ID\nrow\nEVENT_ID 1 OR 1\nend").contains("no value"));
+  EXPECT_TRUE(Refusal(ExportText::FirstLine + "\ntable ID_EVENT\ncolumn EVENT_ID\nrow\nEVENT_ID 1 OR 1\nend")
+                  .contains("no value"));
 }
 
 TEST(ExportTextTest, AFileOfAnotherEncodingIsRefused) {
