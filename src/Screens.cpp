@@ -3,18 +3,25 @@
 #include "about/frmAboutApp.h"
 #include "about/frmAboutOstana.h"
 #include "about/frmSplash.h"
+#include "core/Screen.h"
 #include "core/Screens.h"
 #include "core/frmTabulon.h"
-#include "editors/Audit.h"
-#include "editors/AutoRejects.h"
+#include "directory/ForeignForm.h"
+#include "directory/frmDeliveryEmailTemplate.h"
+#include "directory/frmLibraryAnnotationTemplate.h"
 #include "directory/frmLibraryBillingInfo.h"
+#include "directory/frmLibraryContactInfo.h"
 #include "directory/frmLibraryLoginInfo.h"
 #include "directory/frmLibraryRegistration.h"
 #include "directory/frmLibrarySearch.h"
+#include "directory/frmLibrarySequence.h"
 #include "directory/frmLibraryStatisticalInfo.h"
+#include "editors/Audit.h"
+#include "editors/AutoRejects.h"
 #include "editors/CodeTables.h"
 #include "editors/CoverPages.h"
 #include "editors/Departments.h"
+#include "editors/Delivery.h"
 #include "editors/Exceptions.h"
 #include "editors/Invoicing.h"
 #include "editors/LoansTab.h"
@@ -23,6 +30,12 @@
 #include "editors/RequestType.h"
 #include "editors/frmAddExceptionNotes.h"
 #include "editors/frmLoans.h"
+#include "interop/frmAPIServerConnection.h"
+#include "interop/frmISO18626Connect.h"
+#include "interop/frmNCIPProfile.h"
+#include "interop/frmNCIPServerConnection.h"
+#include "interop/frmNCIPStatusCodes.h"
+#include "interop/frmNCIPUnitLibraryMapping.h"
 #include "reference/frmCurrencyCodes.h"
 #include "reference/frmGeneralEmail.h"
 #include "reference/frmGeneralMessages.h"
@@ -34,12 +47,6 @@
 #include "reference/frmNotifyPatronMessages.h"
 #include "reference/frmPickupLocationEmail.h"
 #include "reference/frmServiceCode.h"
-#include "interop/frmAPIServerConnection.h"
-#include "interop/frmISO18626Connect.h"
-#include "interop/frmNCIPProfile.h"
-#include "interop/frmNCIPServerConnection.h"
-#include "interop/frmNCIPStatusCodes.h"
-#include "interop/frmNCIPUnitLibraryMapping.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
@@ -61,6 +68,9 @@ void RegisterTabs(frmTabulon& shell) {
                        &RequestType::RequestType_Clear));
   shell.SetTab(frmTabulon::AuditTab,
                MakeTab(&Audit::Audit_Tab, &Audit::Audit_Add, &Audit::Audit_Update, nullptr, &Audit::Audit_Clear));
+  shell.SetTab(frmTabulon::DeliveryTab,
+               MakeTab(&Delivery::Delivery_Tab, &Delivery::Delivery_Add, &Delivery::Delivery_Update,
+                       &Delivery::Delivery_Delete, &Delivery::Delivery_Clear));
   shell.SetTab(frmTabulon::LoansTab, MakeTab(&LoansTab::Loans_Tab, nullptr, nullptr, nullptr, nullptr));
   shell.SetTab(frmTabulon::ExceptionsTab,
                MakeTab(&Exceptions::EnterTab, &Exceptions::Exception_Add, &Exceptions::Exception_Update,
@@ -90,10 +100,17 @@ void RegisterDialogs() {
   RegisterScreen<frmAddExceptionNotes>("frmAddExceptionNotes");
   RegisterScreen<frmLoans>("frmLoans");
   RegisterScreen<frmLibraryRegistration>("frmLibraryRegistration");
+  RegisterScreen<frmLibraryContactInfo>("frmLibraryContactInfo");
   RegisterScreen<frmLibraryLoginInfo>("frmLibraryLoginInfo");
   RegisterScreen<frmLibraryStatisticalInfo>("frmLibraryStatisticalInfo");
   RegisterScreen<frmLibraryBillingInfo>("frmLibraryBillingInfo");
   RegisterScreen<frmLibrarySearch>("frmLibrarySearch");
+  RegisterScreen<frmLibrarySequence>("frmLibrarySequence");
+  RegisterScreen<frmDeliveryEmailTemplate>("frmDeliveryEmailTemplate");
+  RegisterScreen<frmLibraryAnnotationTemplate>("frmLibraryAnnotationTemplate");
+  for (const QString name : {"frmRequestArticle", "frmRequestBook", "frmQueryRequests", "frmPatronRegistration",
+                             "frmSupplierRegistration"})
+    RegisterScreen(name, [name](QWidget* owner) { return std::make_unique<ForeignForm>(name, owner); });
   RegisterScreen<frmISO18626Connect>("frmISO18626Connect");
   RegisterScreen<frmNCIPServerConnection>("frmNCIPServerConnection");
   RegisterScreen<frmAPIServerConnection>("frmAPIServerConnection");

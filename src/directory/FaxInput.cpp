@@ -6,6 +6,7 @@
 #include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
+#include "platform/controls/FormLayout.h"
 #include "platform/controls/TextBox.h"
 
 namespace {
@@ -14,6 +15,8 @@ constexpr char16_t Backspace = 8, Enter = 13, NoKey = 0;
 
 FaxInput::FaxInput(TextBox* box, QCheckBox* free, QString enterMessage)
     : QObject(box), box_(box), free_(free), enterMessage_(std::move(enterMessage)) {
+  // One width for both lengths: the form keeps its shape when the tick comes and goes.
+  box_->setMinimumWidth(Form::FieldWidth(box_, FreeLength));
   box_->SetKeyPress([this](char16_t key) { return KeyPress(key); });
   connect(box_, &TextBox::Change, this, &FaxInput::Change);
   connect(free_, &QCheckBox::toggled, this, &FaxInput::SetLimit);

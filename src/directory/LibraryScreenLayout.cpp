@@ -64,10 +64,18 @@ LibraryScreen::LibraryScreen(LibrarySibling self, QWidget* parent)
 // A box that shows only looks like the window behind it.
 void LibraryScreen::MakeReadOnly(TextBox* box) {
   box->setReadOnly(true);
-  QPalette palette = box->palette();
-  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  QPalette palette;
+  palette.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
   box->setPalette(palette);
   box->setFocusPolicy(Qt::ClickFocus);
+}
+
+// The user changed between light and dark while the screen is open.
+void LibraryScreen::changeEvent(QEvent* event) {
+  Screen::changeEvent(event);
+  if (event->type() != QEvent::ApplicationPaletteChange) return;
+  for (TextBox* box : findChildren<TextBox*>())
+    if (box->isReadOnly() && box->testAttribute(Qt::WA_SetPalette)) MakeReadOnly(box);
 }
 
 void LibraryScreen::MakeEditable(TextBox* box) {
@@ -169,7 +177,7 @@ void LibraryScreen::Compose(QWidget* content, std::initializer_list<QWidget*> co
   for (QMenu* menu : {mnuFile, mnuDisplay, mnuOptions, mnuRequest, mnuHelp}) bar->addMenu(menu);
   column->setMenuBar(bar);
 
-  std::vector<QWidget*> order = {txtLibrarySymbol, cmbLibrarySymbol, cmdSearch,     cmdAdvanced,
+  std::vector<QWidget*> order = {txtLibrarySymbol, cmbLibrarySymbol, cmdSearch, cmdAdvanced,
                                  txtInstitution,   txtLibraryName,   txtContact};
   for (QWidget* field : content->findChildren<QWidget*>())
     if (IsTabStop(field, content)) order.push_back(field);

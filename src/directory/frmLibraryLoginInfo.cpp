@@ -62,11 +62,11 @@ void frmLibraryLoginInfo::BuildControls() {
 }
 
 void frmLibraryLoginInfo::PopulateComboBoxes() {
-  const QString description = "LANGUAGE_CODE_DESC" + gclsOF->LanguageSuffix();
-  FillCombo(
-      *cboLanguageCode, "(None)",
-      "SELECT   LANGUAGE_CODE, " + description + " FROM " + Sql::Table("ID_LANGUAGE_CODE") + " ORDER BY " + description,
-      "***** SQL error on ID_LANGUAGE_CODE (Select) *****", 1, 0);
+  const QString suffix = gclsOF->LanguageSuffix();
+  FillCombo(*cboLanguageCode, "(None)",
+            "SELECT   LANGUAGE_CODE, LANGUAGE_CODE_DESC" + suffix + " FROM " + Sql::Table("ID_LANGUAGE_CODE") +
+                " ORDER BY LANGUAGE_CODE_DESC" + suffix,
+            "***** SQL error on ID_LANGUAGE_CODE (Select) *****", 1, 0);
   cboLanguageCode->SetCode({});
 }
 

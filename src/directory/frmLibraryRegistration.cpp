@@ -14,6 +14,7 @@
 namespace {
 
 const QString UsualTimeZone = "Eastern Standard Time";
+const QString DeliveryDeactivated = "The current Delivery Method has been deactivated.";
 const QString WriteFailed = "***** SQL error on ID_library (Insert) *****";
 constexpr const char* ActiveOnly = "WHERE    ACTIVE_FLAG = N'Y' ";
 
@@ -107,15 +108,15 @@ void frmLibraryRegistration::ShowRecord(const Recordset& rows) {
   // A zone that the list does not know stays on the record as it is.
   if (!zone.isEmpty() && cmbTimeZone->IndexOfCode(zone) < 0) cmbTimeZone->Add(zone);
   cmbTimeZone->SetIndex(zone.isEmpty() ? -1 : cmbTimeZone->IndexOfCode(zone));
-  ShowMethod(cmbDeliveryMethodCopy, Value(rows, "DELIV_METHOD_COPY"), "The current Delivery Method");
-  ShowMethod(cmbDeliveryMethodLoan, Value(rows, "DELIV_METHOD_LOAN"), "The current Delivery Method");
-  ShowMethod(cboMsgMethod, Value(rows, "MSG_METHOD"), "The current Messaging Method");
+  ShowMethod(cmbDeliveryMethodCopy, Value(rows, "DELIV_METHOD_COPY"), DeliveryDeactivated);
+  ShowMethod(cmbDeliveryMethodLoan, Value(rows, "DELIV_METHOD_LOAN"), DeliveryDeactivated);
+  ShowMethod(cboMsgMethod, Value(rows, "MSG_METHOD"), "The current Messaging Method has been deactivated.");
 }
 
 // The change to Mail is on the screen only, until the user updates.
-void frmLibraryRegistration::ShowMethod(CodeComboBox* box, const QString& stored, const QString& subject) {
+void frmLibraryRegistration::ShowMethod(CodeComboBox* box, const QString& stored, const QString& deactivated) {
   if (!stored.isEmpty() && box->SetCode(stored)) return;
-  if (!stored.isEmpty()) Tell(subject + " has been deactivated.\n\nResetting to Mail.", MessageStyle::Information);
+  if (!stored.isEmpty()) Tell(deactivated + "\n\nResetting to Mail.", MessageStyle::Information);
   box->SetIndex(-1);
   box->SetCode("M");
 }

@@ -72,7 +72,7 @@ class frmLibraryRegistration : public LibraryScreen {
   void ReadSupplier();
   // Takes the rights of another function, or tells that they are refused.
   bool BorrowRight(const QString& function);
-  void ShowMethod(CodeComboBox* box, const QString& stored, const QString& subject);
+  void ShowMethod(CodeComboBox* box, const QString& stored, const QString& deactivated);
 
   TextBox* const txtStreet1 = new TextBox(this, "txtStreet1", 70);
   TextBox* const txtStreet2 = new TextBox(this, "txtStreet2", 70);

@@ -66,33 +66,33 @@ bool frmLibraryRegistration::OdysseyIsValid() {
 // The three lists differ on purpose: wordings, the street test behind the delivery service, the full stop behind the
 // street, and the codes that have no line of their own under messaging.
 bool frmLibraryRegistration::RequiredAddressesGiven(const Methods& methods) {
-  const QString delivery = " is required for the current Delivery Method.";
-  const QString messaging = " is required for the current Messaging Method.";
-  const QString deliveryEmail = "The Delivery E-mail address" + delivery;
-  const QString messagingEmail = "The Messaging E-mail address" + messaging;
+  const QString deliveryEmail = "The Delivery E-mail address is required for the current Delivery Method.";
+  const QString messagingEmail = "The Messaging E-mail address is required for the current Messaging Method.";
   const QString deliveryStreet = "The Street Address is required for the current Delivery Method";
   const QString messagingStreet = "The Street Address is required for the current Messaging Method";
 
   // What both delivery methods need alike, behind the line for Ariel.
-  const std::vector<RequiredAddress> both = {{"O", txtOdyssey, "The Odyssey Address" + delivery},
-                                             {"C", txtDeliveryService, "The Delivery Service" + delivery},
-                                             {"C", txtStreet1, deliveryStreet},
-                                             {"E", txtDeliveryEmail, deliveryEmail},
-                                             {"S", txtDeliveryEmail, deliveryEmail},
-                                             {"W", txtDeliveryEmail, deliveryEmail},
-                                             {"F", txtDeliveryFax, "The Delivery Fax Number" + delivery},
-                                             {"V", txtDocview, "The Docview Number" + delivery},
-                                             {"", txtStreet1, deliveryStreet}};
+  const std::vector<RequiredAddress> both = {
+      {"O", txtOdyssey, "The Odyssey Address is required for the current Delivery Method."},
+      {"C", txtDeliveryService, "The Delivery Service is required for the current Delivery Method."},
+      {"C", txtStreet1, deliveryStreet},
+      {"E", txtDeliveryEmail, deliveryEmail},
+      {"S", txtDeliveryEmail, deliveryEmail},
+      {"W", txtDeliveryEmail, deliveryEmail},
+      {"F", txtDeliveryFax, "The Delivery Fax Number is required for the current Delivery Method."},
+      {"V", txtDocview, "The Docview Number is required for the current Delivery Method."},
+      {"", txtStreet1, deliveryStreet}};
   std::vector<RequiredAddress> copy = both, loan = both;
-  copy.insert(copy.begin(), {"A", txtAriel, Form::PlainCaption(lblAriel->text()) + delivery});
-  loan.insert(loan.begin(), {"A", txtAriel, "The Ariel Address" + delivery});
+  copy.insert(copy.begin(),
+              {"A", txtAriel, Form::PlainCaption(lblAriel->text()) + " is required for the current Delivery Method."});
+  loan.insert(loan.begin(), {"A", txtAriel, "The Ariel Address is required for the current Delivery Method."});
   const std::vector<RequiredAddress> message = {
-      {"A", txtAriel, "The Ariel Address" + messaging},
-      {"C", txtDeliveryService, "The Delivery Service" + messaging},
+      {"A", txtAriel, "The Ariel Address is required for the current Messaging Method."},
+      {"C", txtDeliveryService, "The Delivery Service is required for the current Messaging Method."},
       {"E", txtMsgEmail, messagingEmail},
       {"W", txtMsgEmail, messagingEmail},
       {"F", txtMsgFax, "The Messaging Fax Number is required for the Messaging Method."},
-      {"V", txtDocview, "The Docview Number" + messaging},
+      {"V", txtDocview, "The Docview Number is required for the current Messaging Method."},
       {"", txtStreet1, messagingStreet}};
 
   const auto given = [this](const QString& method, const std::vector<RequiredAddress>& needs) {

@@ -35,8 +35,9 @@ struct Heading {
   const char* caption;
   int width;  // twips
 };
+constexpr int MarkerWidth = 350;  // twips
 constexpr Heading Headings[] = {
-    {"Lib. Symbol", 2000}, {"Institution", 4500}, {"Library Name", 4500}, {"Contact", 2800}, {"Zip/Postal Code", 1500}};
+    {"Lib. Symbol", 1800}, {"Institution", 4200}, {"Library Name", 4200}, {"Contact", 2500}, {"Zip/Postal Code", 1500}};
 
 // Plain quoted, as the statement of this search has it.
 QString Like(const char* column, const QString& value) {
@@ -74,6 +75,7 @@ void frmLibrarySearch::BuildControls() {
   combination.Add("lblLibrary", "Library Name:", txtLibrary);
   combination.Stretch();
 
+  grdViewSearchResults->SetColWidth(Marker, MarkerWidth);
   int column = Symbol;
   for (const Heading& heading : Headings) {
     grdViewSearchResults->SetHeading(column, heading.caption);

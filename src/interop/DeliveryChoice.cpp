@@ -48,6 +48,7 @@ void DeliveryChoice::BuildControls() {
   rows.Add("lblDeliverySelect" + kind_, "Delivery Select:", rdDeliverySelect_->Row());
   rows.Add("lblDeliveryMethod" + kind_, "Delivery Method:", cmbDeliveryMethod_);
   rows.Add("lblDeliveryAddress" + kind_, "Delivery Address:", txtDeliveryAddress_, cmbPickupLocation_);
+  rows.Stretch();
   cmbPickupLocation_->setAccessibleName("Pickup location");
   cmbPickupLocation_->hide();
 }

@@ -18,10 +18,12 @@ NCIPListScreen::NCIPListScreen(const QString& formName, const QString& caption, 
   connect(cmdClose, &QPushButton::clicked, this, &NCIPListScreen::cmdClose_Click);
 }
 
-void NCIPListScreen::Compose(QWidget* fields) {
+void NCIPListScreen::Compose(QWidget* fields, QWidget* lastField) {
   QVBoxLayout* const column = Form::Column(this, {fields, grid_});
   column->setStretch(1, 1);
   column->addLayout(Form::ButtonRow({cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdCancel, cmdClose}));
+  // Grid and buttons were made before the fields of the list.
+  Form::TabOrder({lastField, grid_, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdCancel, cmdClose});
 }
 
 // --- Frames ---
@@ -53,6 +55,7 @@ void NCIPListScreen::Form_Load() {
         if (grid_->Rows() > 1) SelectRow(1);
         mbListChanged = false;
       });
+  KeyBox()->setFocus(Qt::OtherFocusReason);
 }
 
 void NCIPListScreen::SelectRow(int row) {

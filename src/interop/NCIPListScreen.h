@@ -33,8 +33,8 @@ class NCIPListScreen : public Screen {
   virtual QString DuplicateText(const QString& key) const = 0;
   virtual ListRewrite Rewrite() const = 0;
 
-  // The grid under the fields, the buttons under the grid.
-  void Compose(QWidget* fields);
+  // The grid under the fields, the buttons under the grid; Tab leads the same way.
+  void Compose(QWidget* fields, QWidget* lastField);
   bool Refuse(const QString& text, QWidget* focus);
   // The frame of an event procedure.
   void Run(const QString& handler, const std::function<void()>& body);

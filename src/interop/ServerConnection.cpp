@@ -32,10 +32,12 @@ ServerConnection::ServerConnection(const Facts& facts, qint32 libraryId, QWidget
   connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(); });
 }
 
-void ServerConnection::Compose(QWidget* content) {
+void ServerConnection::Compose(QWidget* content, QWidget* lastField) {
   QVBoxLayout* const column = Form::Column(this, {content});
   column->addStretch();
   column->addLayout(Form::ButtonRow({cmdOK, cmdDelete, cmdCancel}));
+  // The buttons were made before the dialog's own fields.
+  Form::TabOrder({lastField, cmdOK, cmdDelete, cmdCancel});
 }
 
 // --- Loading ---
@@ -44,6 +46,7 @@ void ServerConnection::Form_Load() {
   Procedure(facts_.loadName, this)
       .OnFailure("An error has occurred loading the form.  Please Notify Support.")
       .Run([this] { LoadForm(); });
+  cmbSystem->setFocus(Qt::OtherFocusReason);
 }
 
 void ServerConnection::LoadForm() {

@@ -40,8 +40,8 @@ class ServerConnection : public Screen {
   // All columns but the key, in the order of the table.
   virtual Columns Values() const = 0;
 
-  // Lays out the dialog around its fields.
-  void Compose(QWidget* content);
+  // Lays out the dialog around its fields; behind the last of them Tab leads to the buttons.
+  void Compose(QWidget* content, QWidget* lastField);
 
   CodeComboBox* const cmbSystem;  // the name is the dialog's own
   CodeComboBox* const cmbConnect = new CodeComboBox(this, "cmbConnect");

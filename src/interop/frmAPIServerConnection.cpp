@@ -48,7 +48,7 @@ void frmAPIServerConnection::BuildControls() {
   rows.Add(lblPort, txtPort);
   rows.Add("lblUseAllLocations", "Use All Locations:", LocationOptions());
   rows.Add(lblValidLocations, txtValidLocations);
-  Compose(fields);
+  Compose(fields, txtValidLocations);
   resize(620, 320);
 }
 

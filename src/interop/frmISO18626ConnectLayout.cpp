@@ -74,10 +74,10 @@ QWidget* frmISO18626Connect::Fields() {
 }
 
 QWidget* frmISO18626Connect::Messages() {
-  Form::Column(fraRequest, {chkRetryEnabled, chkTransferEnabled});
-  Form::Column(fraPatronInfo, {chkPatronInfo, chkPatronEmail, chkPatronAddress});
-  Form::Column(fraRequestingAgency, {chkActionCancel, chkActionRenew, chkActionNotification});
-  Form::Column(fraSupplyingAgency, {chkReasonRequestResponse, chkReasonNotification});
+  Form::Column(fraRequest, {chkRetryEnabled, chkTransferEnabled})->addStretch();
+  Form::Column(fraPatronInfo, {chkPatronInfo, chkPatronEmail, chkPatronAddress})->addStretch();
+  Form::Column(fraRequestingAgency, {chkActionCancel, chkActionRenew, chkActionNotification})->addStretch();
+  Form::Column(fraSupplyingAgency, {chkReasonRequestResponse, chkReasonNotification})->addStretch();
   auto* const messages = new QWidget(this);
   auto* const grid = new QGridLayout(messages);
   grid->setContentsMargins(0, 0, 0, 0);

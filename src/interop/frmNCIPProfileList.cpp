@@ -31,6 +31,7 @@ void frmNCIPProfile::Form_Load() {
       .OnFailure("An error has occurred loading the form.  Please Notify Support.")
       .Run([this] { ReadOstanaInfo(); });
   mbProfileChanged = false;
+  txtProfileCode->setFocus(Qt::OtherFocusReason);
 }
 
 void frmNCIPProfile::ReadOstanaInfo() {

@@ -36,7 +36,7 @@ void frmNCIPStatusCodes::BuildControls() {
   rows.Layout()->setContentsMargins(0, 0, 0, 0);
   rows.Add("lblNCIPStatusCode", "NCIP Status Code:", txtNCIPStatusCode);
   rows.Add("lblAllowILL", "Allow ILL:", options);
-  Compose(fields);
+  Compose(fields, rdAllowILL->Button(1));
   resize(640, 480);
 }
 

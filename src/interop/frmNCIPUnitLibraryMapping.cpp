@@ -32,7 +32,7 @@ void frmNCIPUnitLibraryMapping::BuildControls() {
   rows.Layout()->setContentsMargins(0, 0, 0, 0);
   rows.Add("lblNCIPLibrary", "NCIP Library:", txtNCIPLibrary);
   rows.Add("lblOstanaLibrary", "Ostana Library:", txtOstanaLibrary, cmdFindLibrary);
-  Compose(fields);
+  Compose(fields, cmdFindLibrary);
   resize(680, 480);
 }
 

@@ -41,34 +41,6 @@ void ExceptionDesk::Enter(SubTab subTab) {
   Statements();
 }
 
-void ExceptionDesk::TakeAway(const QString& flag) {
-  Another("UPDATE ID_USER_FUNCTION SET " + flag + " = NULL WHERE USER_ID = 'admin'");
-}
-
-bool ExceptionDesk::DropConnection() {
-  QString sessions, end;
-  switch (TestDatabase::TestEngine()) {
-    case Engine::Sqlite:
-    case Engine::SqlServer:
-      return false;
-    case Engine::PostgreSql:
-      sessions = "SELECT pid FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid()";
-      end = "SELECT pg_terminate_backend(%1)";
-      break;
-    case Engine::MariaDb:
-      sessions = "SELECT ID FROM INFORMATION_SCHEMA.PROCESSLIST WHERE DB = DATABASE() AND ID <> CONNECTION_ID()";
-      end = "KILL %1";
-      break;
-  }
-  QStringList numbers;
-  Recordset rows;
-  for (rows.Open(Database().OtherClient(), sessions); !rows.EOF_(); rows.MoveNext())
-    numbers.append(rows.Fields(0).Value());
-  rows.Close();
-  for (const QString& number : numbers) Another(end.arg(number));
-  return !numbers.isEmpty();
-}
-
 void ExceptionDesk::ShowText(const QString& combo, const QString& text) {
   if (auto* const box = Find<CodeComboBox>(combo)) box->SetText(text);
 }
@@ -78,8 +50,4 @@ QStringList ExceptionDesk::Entries(const QString& combo) const {
   if (const auto* const box = Find<CodeComboBox>(combo))
     for (int index = 0; index < box->Count(); ++index) entries.append(box->TextAt(index));
   return entries;
-}
-
-bool ExceptionDesk::LogHolds(const QString& text) const {
-  return LogLines().join('\n').contains(text);
 }

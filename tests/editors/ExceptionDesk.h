@@ -22,15 +22,9 @@ class ExceptionDesk : public Desk {
   // Starts the program and enters the tab and one of its sub-tabs. Statements run until then are forgotten.
   void Enter(SubTab subTab = Codes);
   void Go(SubTab subTab) { SelectTab("sstab8Exception", subTab); }
-  // Another right of the administrator is taken away before the program starts: "ADD_FLAG" and the like.
-  void TakeAway(const QString& flag);
-  // Ends the program's session on the server. False on an engine without a server.
-  bool DropConnection();
   // Shows a text in a list although it may be no entry of it, as a choice made before the list changed.
   void ShowText(const QString& combo, const QString& text);
   QStringList Entries(const QString& combo) const;
-  // The last two lines that a failure leaves in the log.
-  bool LogHolds(const QString& text) const;
 
   static constexpr const char* DatabaseError =
       "A database error has occurred.  Please verify your data entry\nand your Database structure.";

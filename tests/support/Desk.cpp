@@ -395,3 +395,35 @@ int Desk::Count(const QString& table, const QString& where) {
 }
 
 void Desk::Another(const QString& sql) { database_->OtherClient().Execute(sql); }
+
+void Desk::TakeAway(const QString& flag) {
+  Another("UPDATE ID_USER_FUNCTION SET " + flag + " = NULL WHERE USER_ID = 'admin'");
+}
+
+bool Desk::DropConnection() {
+  QString sessions, end;
+  switch (TestDatabase::TestEngine()) {
+    case Engine::Sqlite:
+    case Engine::SqlServer:
+      return false;
+    case Engine::PostgreSql:
+      sessions = "SELECT pid FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid()";
+      end = "SELECT pg_terminate_backend(%1)";
+      break;
+    case Engine::MariaDb:
+      sessions = "SELECT ID FROM INFORMATION_SCHEMA.PROCESSLIST WHERE DB = DATABASE() AND ID <> CONNECTION_ID()";
+      end = "KILL %1";
+      break;
+  }
+  QStringList numbers;
+  Recordset rows;
+  for (rows.Open(Database().OtherClient(), sessions); !rows.EOF_(); rows.MoveNext())
+    numbers.append(rows.Fields(0).Value());
+  rows.Close();
+  for (const QString& number : numbers) Another(end.arg(number));
+  return !numbers.isEmpty();
+}
+
+bool Desk::LogHolds(const QString& text) const {
+  return LogLines().join('\n').contains(text);
+}

@@ -91,6 +91,12 @@ class Desk : public testing::Test {
   int Count(const QString& table, const QString& where = {});
   // A statement of another client.
   void Another(const QString& sql);
+  // A right of the administrator is taken away before the program starts: "ADD_FLAG" and the like.
+  void TakeAway(const QString& flag);
+  // Ends the program's session on the server. False on an engine without a server.
+  bool DropConnection();
+  // Whether any line of the log holds the text.
+  bool LogHolds(const QString& text) const;
 
  private:
   void WriteSettings();

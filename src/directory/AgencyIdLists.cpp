@@ -1,0 +1,147 @@
+#include "directory/AgencyIdLists.h"
+
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
+#include "core/SqlText.h"
+
+namespace {
+
+const QString Receive = "ID_ISO18626_AGENCY_ID_RECEIVE", Send = "ID_ISO18626_AGENCY_ID_SEND";
+
+QString SelectFailed(const QString& table) {
+  return "***** SQL error on " + table + " (Select) *****";
+}
+
+// Both statements go under the failure line of the first. The inserts are one text.
+void Replace(const QString& table, qint32 libraryId, const QStringList& inserts) {
+  Connection& connection = gclsOF->Connection();
+  gstrErrorMessage = "***** SQL error on " + table + " (Delete) *****";
+  Transaction transaction(connection);
+  const QString remove = "DELETE FROM " + Sql::Table(table) + " WHERE LIBRARY_ID= " + Sql::Number(libraryId);
+  gclsOF->SetLastSQL(remove);
+  connection.Execute(remove);
+  if (!inserts.isEmpty()) {
+    gclsOF->SetLastSQL(inserts.join(QString()));
+    connection.Execute(inserts.join(QString()), static_cast<int>(inserts.size()));
+  }
+  transaction.Commit();
+  gclsOF->SetLastSQL({});
+  gstrErrorMessage.clear();
+}
+
+}  // namespace
+
+// --- Receive ---
+
+AgencyIdReceiveList::AgencyIdReceiveList(QWidget* parent)
+    : AgencyIdList(parent,
+                   {"fraAgencyIdReceive", "Agency Ids for receiving messages", "grdISO18626AgencyIdReceive",
+                    "cmdAddISO18626AgencyIdReceive", "cmdDeleteISO18626AgencyIdReceive", "fraNewAgencyIdReceive",
+                    "cmdSaveAgencyIdReceive", "cmdCancelAgencyIdReceive",
+                    "Unexpected error trying to add a row in the Grid of 'ISO 18626 Agency IDs for receiving "
+                    "messages'. Please try again later.",
+                    "An error occurred trying to add the new ISO 18626 Agency ID for receiving messages. Please "
+                    "Notify Support."},
+                   ColumnCount) {
+  grid_->SetHeading(AgencyId, "Agency Id");
+  grid_->SetEditable(AgencyId, 0);
+  AddRule(AgencyId, [this](int row) { return LengthRefusal(grid_->Text(row, AgencyId)); });
+  AddRule(AgencyId, [this](int row) -> QString {
+    if (SavedRowWith(grid_->Text(row, AgencyId), AgencyId, row) == 0) return {};
+    return "The Agency Id entered already exists. Please enter a different Agency Id.";
+  });
+  AddRule(AgencyId, [this](int row) { return OtherLibraryRefusal(grid_->Text(row, AgencyId)); });
+}
+
+// The library's own row in the table is no clash: the id may have been taken from the list and come back.
+QString AgencyIdReceiveList::OtherLibraryRefusal(const QString& id) const {
+  bool taken = false;
+  ForEachRow(
+      "SELECT DISTINCT LIBRARY_ID FROM " + Sql::Table(Receive) + " WHERE    ISO18626_AGENCY_ID = " + Sql::National(id),
+      SelectFailed(Receive), [&](Recordset& rows) { taken |= Value(rows, 0).toInt() != gclsOF->LibraryId(); });
+  if (!taken) return {};
+  return "The Agency Id entered is already assigned to another Library. The Agency Id must be unique. Please enter a "
+         "different value.";
+}
+
+void AgencyIdReceiveList::Read(qint32 libraryId) {
+  Clear();
+  ForEachRow("SELECT DISTINCT ISO18626_AGENCY_ID FROM " + Sql::Table(Receive) +
+                 " WHERE    LIBRARY_ID = " + Sql::Number(libraryId),
+             SelectFailed(Receive), [this](Recordset& rows) { AddSavedRow({Value(rows, 0)}); });
+}
+
+void AgencyIdReceiveList::Write(qint32 libraryId) const {
+  QStringList inserts;
+  for (const int row : SavedRows())
+    inserts.append("INSERT INTO " + Sql::Table(Receive) + " (ISO18626_AGENCY_ID, LIBRARY_ID) VALUES (" +
+                   Sql::National(grid_->Text(row, AgencyId)) + ", " + Sql::Number(libraryId) + "); ");
+  Replace(Receive, libraryId, inserts);
+}
+
+// --- Send ---
+
+AgencyIdSendList::AgencyIdSendList(QWidget* parent)
+    : AgencyIdList(
+          parent,
+          {"fraAgencyIdSend", "Agency Ids for sending messages", "grdISO18626AgencyIdSend",
+           "cmdAddISO18626AgencyIdSend", "cmdDeleteISO18626AgencyIdSend", "fraNewAgencyIdSend", "cmdSaveAgencyIdSend",
+           "cmdCancelAgencyIdSend",
+           "Unexpected error trying to add a row in the Grid of 'ISO 18626 Agency IDs for sending messages'. Please "
+           "try again later.",
+           "An error occurred trying to add the new ISO 18626 Agency ID for sending messages. Please Notify Support."},
+          ColumnCount) {
+  grid_->SetHeading(IllSystem, "ILL System");
+  grid_->SetHeading(AgencyId, "Agency Id");
+  grid_->SetColWidth(IllSystem, 2400);
+  grid_->HideCol(SystemCode, true);
+  grid_->SetEditable(AgencyId, 0);
+  AddRule(IllSystem, [this](int row) -> QString {
+    if (!grid_->Text(row, SystemCode).isEmpty()) return {};
+    return "The External ILL System selected is not valid. Please select an External ILL System .";
+  });
+  AddRule(AgencyId, [this](int row) { return LengthRefusal(grid_->Text(row, AgencyId)); });
+  AddRule(IllSystem, [this](int row) -> QString {
+    if (SavedRowWith(grid_->Text(row, SystemCode), SystemCode, row) == 0) return {};
+    return "There is already an Agency ID for the selected External ILL System. Please select a different ILL System.";
+  });
+}
+
+void AgencyIdSendList::CellEdited(int row, int col) {
+  AgencyIdList::CellEdited(row, col);
+  if (col == IllSystem) grid_->SetText(row, SystemCode, codeOf_.value(grid_->Text(row, IllSystem)));
+}
+
+void AgencyIdSendList::ReadSystems() {
+  codeOf_.clear();
+  QStringList descriptions;
+  ForEachRow(
+      "SELECT DISTINCT ILL_SYSTEM, ILL_SYSTEM_DESC" + gclsOF->LanguageSuffix() + " FROM " + Sql::Table("ID_ILL_SYSTEM"),
+      SelectFailed("ID_ILL_SYSTEM"), [&](Recordset& rows) {
+        const QString description = Value(rows, 1);
+        if (!codeOf_.contains(description)) codeOf_.insert(description, Value(rows, 0));
+        descriptions.append(description);
+      });
+  grid_->SetEditable(IllSystem, 0, descriptions);
+}
+
+void AgencyIdSendList::Read(qint32 libraryId) {
+  Clear();
+  ReadSystems();
+  ForEachRow("SELECT DISTINCT A.EXTERNAL_ILL_SYSTEM, SY.ILL_SYSTEM_DESC" + gclsOF->LanguageSuffix() +
+                 ", A.ISO18626_AGENCY_ID FROM " + Sql::Table(Send) + " A INNER JOIN " + Sql::Table("ID_ILL_SYSTEM") +
+                 " SY ON A.EXTERNAL_ILL_SYSTEM = SY.ILL_SYSTEM WHERE    A.LIBRARY_ID = " + Sql::Number(libraryId),
+             SelectFailed(Send), [this](Recordset& rows) {
+               AddSavedRow({Value(rows, 1), Value(rows, 2), Value(rows, 0)});
+             });
+}
+
+void AgencyIdSendList::Write(qint32 libraryId) const {
+  QStringList inserts;
+  for (const int row : SavedRows())
+    inserts.append("INSERT INTO " + Sql::Table(Send) +
+                   " (LIBRARY_ID, EXTERNAL_ILL_SYSTEM, ISO18626_AGENCY_ID) VALUES (" + Sql::Number(libraryId) + ", " +
+                   Sql::National(grid_->Text(row, SystemCode)) + ", " + Sql::National(grid_->Text(row, AgencyId)) +
+                   "); ");
+  Replace(Send, libraryId, inserts);
+}

@@ -1,0 +1,167 @@
+#include "directory/frmLibraryAnnotationTemplate.h"
+
+#include "core/Messages.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
+#include "core/Procedure.h"
+#include "core/SqlText.h"
+
+namespace {
+
+const QString DefaultSize = "8";  // points
+const QString DefaultOrientation = "BottomLeft";
+const QString SeriousFailure = "A serious error has occurred.  Please contact suppler.";
+
+}  // namespace
+
+frmLibraryAnnotationTemplate::frmLibraryAnnotationTemplate(QWidget* parent)
+    : Screen("frmLibraryAnnotationTemplate", "Ostana - Annotation Template", parent) {
+  BuildControls();
+  connect(cmdSetSystemDefault, &QPushButton::clicked, this, [this] {
+    target_.Toggle();
+    LoadTemplate();
+  });
+  connect(cmdOK, &QPushButton::clicked, this, &frmLibraryAnnotationTemplate::cmdOK_Click);
+  connect(cmdDelete, &QPushButton::clicked, this, &frmLibraryAnnotationTemplate::cmdDelete_Click);
+  connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(); });
+}
+
+void frmLibraryAnnotationTemplate::BuildControls() {
+  for (TextBox* box : {txtInstitution, txtPatronName}) {
+    box->setReadOnly(true);
+    box->setFocusPolicy(Qt::ClickFocus);
+  }
+  for (const char* size : {"8", "10", "12"}) cmbTextFontSize->Add(size);
+  for (const char* place : {"BottomLeft", "BottomCenter", "BottomRight", "TopLeft", "TopCenter", "TopRight", "LeftTop",
+                            "LeftCenter", "LeftBottom", "RightTop", "RightCenter", "RightBottom"})
+    cmbTextOrientation->Add(place);
+  auto* const fields = new QWidget(this);
+  Form::Rows rows(fields);
+  rows.Add("lblInstitution", "Institution:", txtInstitution);
+  rows.Add("lblPatronName", "Patron:", txtPatronName);
+  rows.Add("lblUseAnnotation", "Use Annotation:", optUseAnnotation->Row());
+  rows.Add("lblAnnotationText", "&Annotation Text:", txtAnnotationText);
+  rows.Add("lblTextFontSize", "Text &Font Size:", cmbTextFontSize);
+  rows.Add("lblTextOrientation", "Text O&rientation:", cmbTextOrientation);
+  fields->layout()->setContentsMargins(0, 0, 0, 0);
+  QVBoxLayout* const column = Form::Column(this, {fields});
+  column->addStretch();
+  column->addLayout(Form::ButtonRow({cmdSetSystemDefault, nullptr, cmdOK, cmdDelete, cmdCancel}));
+  resize(720, 320);
+}
+
+int frmLibraryAnnotationTemplate::Tell(const QString& text, int style) {
+  return ShowMessage(text, style, Caption(), {}, this);
+}
+
+void frmLibraryAnnotationTemplate::Form_Load() {
+  LoadTemplate();
+  txtAnnotationText->setFocus();
+}
+
+void frmLibraryAnnotationTemplate::ShowDefaults() {
+  optUseAnnotation->Select(0);
+  txtAnnotationText->SetText({});
+  cmbTextFontSize->SetText(DefaultSize);
+  cmbTextOrientation->SetText(DefaultOrientation);
+}
+
+QString frmLibraryAnnotationTemplate::PatronClause() const {
+  const QString patron = target_.PatronId();
+  return patron.isEmpty() ? QString("AND PATRON_ID IS NULL") : "AND PATRON_ID = " + Sql::National(patron);
+}
+
+QString frmLibraryAnnotationTemplate::SelectStatement() const {
+  return "SELECT   * FROM " + Sql::Table("ID_ANNOTATION") + " WHERE        LIBRARY_ID  = " +
+         Sql::Number(target_.LibraryId()) + " " + PatronClause();
+}
+
+void frmLibraryAnnotationTemplate::LoadTemplate() {
+  QString query;
+  Procedure("frmLibraryAnnotationTemplate.LoadTemplate", this)
+      .Finally([&query] {
+        if (!query.isEmpty()) gclsOF->WriteLog("Query: " + query, {}, "S");
+      })
+      .Run([&] {
+        ShowDefaults();
+        txtInstitution->SetText(target_.Institution());
+        txtPatronName->SetText(target_.PatronName());
+        query = SelectStatement();
+        ForEachRow(query, "***** SQL error on ID_ANNOTATION (Select) *****", [this](Recordset& rows) {
+          optUseAnnotation->Select(Value(rows, "USE_ANNOTATION") == "N" ? 1 : 0);
+          txtAnnotationText->SetText(Value(rows, "ANNOTATION"));
+          // A value that is not in its list falls back to the default.
+          const QString size = Value(rows, "TEXT_FONT_SIZE"), place = Value(rows, "TEXT_ORIENTATION");
+          if (cmbTextFontSize->IndexOfText(size) >= 0) cmbTextFontSize->SetText(size);
+          if (cmbTextOrientation->IndexOfText(place) >= 0) cmbTextOrientation->SetText(place);
+        });
+      });
+}
+
+QString frmLibraryAnnotationTemplate::UpdateStatement() const {
+  const QString text = txtAnnotationText->Text();
+  return "UPDATE " + Sql::Table("ID_ANNOTATION") + " SET LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
+         (optUseAnnotation->IsSet(0) ? ",USE_ANNOTATION = N'Y' " : ",USE_ANNOTATION = N'N' ") +
+         (text.isEmpty() ? QString(", ANNOTATION = NULL ") : ", ANNOTATION = " + Sql::National(text) + " ") +
+         ", TEXT_FONT_SIZE = " + cmbTextFontSize->Text() + ", TEXT_ORIENTATION = " +
+         Sql::National(cmbTextOrientation->Text()) + " WHERE        LIBRARY_ID  = " +
+         Sql::Number(target_.LibraryId()) + " " + PatronClause();
+}
+
+QString frmLibraryAnnotationTemplate::InsertStatement() const {
+  const QString patron = target_.PatronId();
+  return "INSERT INTO " + Sql::Table("ID_ANNOTATION") + " ( " +
+         "LIBRARY_ID, PATRON_ID, USE_ANNOTATION, ANNOTATION, TEXT_FONT_SIZE, TEXT_ORIENTATION ) " + "VALUES ( " +
+         Sql::Number(target_.LibraryId()) + (patron.isEmpty() ? QString(", NULL ") : ", " + Sql::National(patron)) +
+         (optUseAnnotation->IsSet(0) ? ", N'Y'" : ", N'N'") + ", " +
+         Sql::NationalOr(txtAnnotationText->Text(), "NULL") + ", " + cmbTextFontSize->Text() + ", " +
+         Sql::National(cmbTextOrientation->Text()) + ")";
+}
+
+void frmLibraryAnnotationTemplate::LogFailure(const QString& opening, const QString& statement, const QString& error) {
+  gclsOF->WriteLog(opening + statement, {}, "L");
+  gclsOF->WriteLog("SQL Error: " + error, {}, "L");
+  gclsOF->WriteLog("Values: " + QStringList{QString::number(target_.LibraryId()), target_.PatronId(),
+                                            optUseAnnotation->IsSet(0) ? "Y" : "N", txtAnnotationText->Text(),
+                                            cmbTextFontSize->Text(), cmbTextOrientation->Text()}
+                                    .join(", "),
+                   {}, "L");
+  gclsOF->WriteLog("Fields: LIBRARY_ID, PATRON_ID, USE_ANNOTATION, ANNOTATION, TEXT_FONT_SIZE, TEXT_ORIENTATION", {},
+                   "L");
+}
+
+void frmLibraryAnnotationTemplate::cmdOK_Click() {
+  QString opening, statement;
+  Procedure("frmLibraryAnnotationTemplate.cmdOK_Click", this)
+      .OnFailure([&](const AdoError& error) {
+        if (!statement.isEmpty()) LogFailure(opening, statement, error.Description());
+        return SeriousFailure;
+      })
+      .Run([&] {
+        // Asked anew for each target.
+        bool exists = false;
+        FirstValue(SelectStatement(), "***** SQL error on ID_ANNOTATION (Select) *****", &exists);
+        opening = exists ? "Update SQL: " : "Insert Statement: ";
+        statement = exists ? UpdateStatement() : InsertStatement();
+        const qint64 written =
+            ExecuteInTransaction(statement, exists ? "***** SQL Error on ID_ANNOTATION (Update) *****"
+                                                   : "***** SQL Error on ID_ANNOTATION (Insert) *****");
+        if (written == 0) {
+          LogFailure(opening, statement, "no row was written");
+          Tell("Cannot add record to database.", MessageStyle::Stop);
+          return;
+        }
+        Tell("Annotation Email settings Updated.", MessageStyle::Information);
+      });
+}
+
+void frmLibraryAnnotationTemplate::cmdDelete_Click() {
+  Procedure("frmLibraryAnnotationTemplate.cmdDelete_Click", this).OnFailure(SeriousFailure).Run([this] {
+    if (Tell("Are you sure you wish to delete this record ?", MessageStyle::Question) != MessageAnswer::Yes) return;
+    ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_ANNOTATION") + " WHERE        LIBRARY_ID  = " +
+                             Sql::Number(target_.LibraryId()) + " " + PatronClause(),
+                         "***** SQL error on ID_ID_ANNOTATION (Delete) *****");
+    Tell("Record deleted.", MessageStyle::Information);
+    ShowDefaults();
+  });
+}

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "core/Screen.h"
+#include "directory/TemplateTarget.h"
+#include "platform/controls/CodeComboBox.h"
+#include "platform/controls/FormLayout.h"
+#include "platform/controls/OptionGroup.h"
+#include "platform/controls/TextBox.h"
+
+// The text stamped on a delivered page: whether, what, how large, where. One row for a library, a patron or the system.
+class frmLibraryAnnotationTemplate : public Screen {
+  Q_OBJECT
+
+ public:
+  explicit frmLibraryAnnotationTemplate(QWidget* parent = nullptr);
+
+ protected:
+  void Form_Load() override;
+
+ private:
+  void BuildControls();
+  void LoadTemplate();
+  void ShowDefaults();
+  void cmdOK_Click();
+  void cmdDelete_Click();
+  QString SelectStatement() const;
+  // The patron's part of a WHERE.
+  QString PatronClause() const;
+  QString UpdateStatement() const;
+  QString InsertStatement() const;
+  void LogFailure(const QString& opening, const QString& statement, const QString& error);
+  int Tell(const QString& text, int style);
+
+  TextBox* const txtInstitution = new TextBox(this, "txtInstitution", 100);
+  TextBox* const txtPatronName = new TextBox(this, "txtPatronName", 101);
+  OptionGroup* const optUseAnnotation =
+      new OptionGroup(this, {{"optUseAnnotationYes", "Yes"}, {"optUseAnnotationNo", "No"}});
+  TextBox* const txtAnnotationText = new TextBox(this, "txtAnnotationText", 200);
+  CodeComboBox* const cmbTextFontSize = new CodeComboBox(this, "cmbTextFontSize");
+  CodeComboBox* const cmbTextOrientation = new CodeComboBox(this, "cmbTextOrientation");
+  QPushButton* const cmdSetSystemDefault = Form::Button(this, "cmdSetSystemDefault", "");
+  QPushButton* const cmdOK = Form::Button(this, "cmdOK", "&OK");
+  QPushButton* const cmdDelete = Form::Button(this, "cmdDelete", "&Delete");
+  QPushButton* const cmdCancel = Form::Button(this, "cmdCancel", "&Cancel");
+  TemplateTarget target_{cmdSetSystemDefault, cmdOK, cmdDelete};
+};
