@@ -8,6 +8,7 @@
 
 #include "core/Help.h"
 #include "core/WindowMemory.h"
+#include "platform/controls/FormLayout.h"
 
 Screen::Screen(const QString& formName, const QString& caption, QWidget* parent) : QDialog(parent) {
   setObjectName(formName);
@@ -20,6 +21,7 @@ Screen::Screen(const QString& formName, const QString& caption, QWidget* parent)
 void Screen::Begin() {
   Form_Load();
   loaded_ = true;
+  Form::ReadingOrder(this);
   WindowMemory::Restore(*this);
 }
 

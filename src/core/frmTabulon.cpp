@@ -69,19 +69,10 @@ void frmTabulon::Enter(int index) {
     sstabtables_->widget(index)->layout()->addWidget(pages_[at]);
     // The layout would show it only when the event loop runs again, too late for the entry to set a focus.
     pages_[at]->show();
-    TabBeforeButtons(*pages_[at]);
+    Form::ReadingOrder(this);
   }
   buttonState();
   rows_[at].entry(*pages_[at]);
-}
-
-// A page that is made later comes last in the window's tab order; its fields stand before the row of buttons.
-void frmTabulon::TabBeforeButtons(const QWidget& page) {
-  QWidget* last = nullptr;
-  for (QWidget* at = nextInFocusChain(); at != this; at = at->nextInFocusChain())
-    if (page.isAncestorOf(at)) last = at;
-  if (last) setTabOrder(last, add_.button);
-  Form::TabOrder({add_.button, update_.button, delete_.button, clear_.button, cmdClose_});
 }
 
 void frmTabulon::ReturnSilently(int index) {

@@ -110,7 +110,6 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   void TabChanged(int index);
   void sstabtables_Click(int previousTab);
   void Enter(int index);
-  void TabBeforeButtons(const QWidget& page);
   void ReturnSilently(int index);
   void RunOperation(const QString& logName, int tab, std::function<bool(TabPage&)> TabRow::*operation);
   bool UpdateIsPossible() const;
