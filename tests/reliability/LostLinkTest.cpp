@@ -42,10 +42,17 @@ class LostLinkTest : public ReliabilityDesk, public testing::WithParamInterface<
     EXPECT_FALSE(Said().Success()) << Said().Transcript().toStdString();
   }
 
-  void MustWorkAgain(const QString& mark) {
+  // Where the link was cut behind the last statement, nobody has been told yet: the next action finds it, writes
+  // nothing, and the one after it works.
+  void MustWorkAgain(const QString& mark, bool mayFindTheLoss = false) {
     RestoreLink();
     Fill(mark);
     Subject().write(*this);
+    if (mayFindTheLoss && Said().Refusal()) {
+      EXPECT_EQ(IsWritten(mark), Written::No);
+      Fill(mark);
+      Subject().write(*this);
+    }
     EXPECT_EQ(IsWritten(mark), Written::Yes) << Said().Transcript().toStdString();
     EXPECT_FALSE(Said().Refusal()) << Said().Transcript().toStdString();
     EXPECT_FALSE(gclsOF->Connection().InTransaction());
@@ -93,7 +100,7 @@ TEST_P(LostLinkTest, CutBehindEachStatement) {
       EXPECT_TRUE(Differences(before, ContentsOf(Database().OtherClient())).isEmpty());
       MustSayWhatFailed();
     }
-    MustWorkAgain("q" + QString(QChar(u'a' + cut)));
+    MustWorkAgain("q" + QString(QChar(u'a' + cut)), written == Written::Yes);
   }
 }
 
