@@ -33,11 +33,9 @@ FieldList& FieldList::Add(MemoBox* box, int column, Trim trim) {
 }
 
 FieldList& FieldList::Add(OptionGroup* pair, int column, const QString& no) {
-  fields_.push_back(
-      {nullptr, column, [pair, no] { return pair->IsSet(0)   ? QString("Y")
-                                            : pair->IsSet(1) ? no
-                                                             : QString(); },
-       [pair](const QString& text) { pair->Select(text == "Y" ? 0 : 1); }, [] {}, [pair] { pair->Unset(); }});
+  fields_.push_back({nullptr, column,
+                     [pair, no] { return pair->IsSet(0) ? QString("Y") : pair->IsSet(1) ? no : QString(); },
+                     [pair](const QString& text) { pair->Select(text == "Y" ? 0 : 1); }, [] {}, [pair] { pair->Unset(); }});
   return *this;
 }
 
@@ -92,7 +90,9 @@ void WatchField(TextBox* box, const Grid* grid, int column) {
 }
 
 void WatchField(MemoBox* box, const Grid* grid, int column) {
-  QObject::connect(box, &MemoBox::Change, box, [box, grid, column] { CompareWithRow(box->Text(), grid, column); });
+  QObject::connect(box, &MemoBox::Change, box, [box, grid, column] {
+    CompareWithRow(KeepLineEnds(box->Text(), grid->Text(grid->Row(), column)), grid, column);
+  });
 }
 
 void WatchAnyChange(TextBox* box) {

@@ -6,16 +6,23 @@
 #include <QKeyEvent>
 #include <QPushButton>
 
+#include "core/Help.h"
+#include "core/WindowMemory.h"
+#include "platform/controls/FormLayout.h"
+
 Screen::Screen(const QString& formName, const QString& caption, QWidget* parent) : QDialog(parent) {
   setObjectName(formName);
   setWindowTitle(caption);
   setModal(true);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  Help::OpenByF1(*this, [formName] { return formName; });
 }
 
 void Screen::Begin() {
   Form_Load();
   loaded_ = true;
+  Form::ReadingOrder(this);
+  WindowMemory::Restore(*this);
 }
 
 void Screen::ShowModeless() {
@@ -44,6 +51,7 @@ bool Screen::Unload() {
   unloading_ = false;
   if (cancelled) return false;
   gone_ = true;
+  if (isVisible()) WindowMemory::Remember(*this);
   QDialog::done(0);
   return true;
 }

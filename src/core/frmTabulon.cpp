@@ -12,6 +12,8 @@
 #include "core/OstanaFunctions.h"
 #include "core/Procedure.h"
 #include "core/ProcessEnd.h"
+#include "core/WindowMemory.h"
+#include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 
 void frmTabulon::SetTab(int index, TabRow row) { rows_.at(static_cast<size_t>(index)) = std::move(row); }
@@ -67,6 +69,7 @@ void frmTabulon::Enter(int index) {
     sstabtables_->widget(index)->layout()->addWidget(pages_[at]);
     // The layout would show it only when the event loop runs again, too late for the entry to set a focus.
     pages_[at]->show();
+    Form::ReadingOrder(this);
   }
   buttonState();
   rows_[at].entry(*pages_[at]);
@@ -149,7 +152,9 @@ void frmTabulon::cmdClose_Click() { close(); }
 
 void frmTabulon::closeEvent(QCloseEvent* event) {
   event->ignore();
-  if (Form_Unload()) EndProcess();
+  if (!Form_Unload()) return;
+  WindowMemory::Remember(*this);
+  EndProcess();
 }
 
 bool frmTabulon::Form_Unload() {

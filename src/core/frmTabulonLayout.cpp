@@ -1,5 +1,6 @@
 // The main screen's controls: tabs, the shared row of buttons, the menu that mirrors them, the status bar.
 #include <QAction>
+#include <QIcon>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
@@ -7,21 +8,36 @@
 #include <QTabWidget>
 #include <QToolBar>
 
+#include "core/Help.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/Procedure.h"
 #include "core/Screens.h"
+#include "core/WindowMemory.h"
 #include "core/frmTabulon.h"
 #include "platform/controls/FormLayout.h"
+
+// Resources of a static library are not linked by themselves. Outside of every namespace, as the macro wants it.
+static void LinkIcons() {
+  Q_INIT_RESOURCE(icons);
+}
+
+static QIcon Icon(const char* name) {
+  return QIcon(QString(":/icons/%1.svg").arg(name));
+}
 
 frmTabulon::frmTabulon(QString commandLine, QWidget* parent)
     : QMainWindow(parent), commandLine_(std::move(commandLine)), sstabtables_(new QTabWidget) {
   setObjectName("frmTabulon");
   setWindowTitle("Ostana - System Maintenance");
+  LinkIcons();
+  setWindowIcon(Icon("tabulon"));
   BuildControls();
   BuildMenu();
   BuildStatusBar();
   resize(1180, 720);
+  WindowMemory::Restore(*this);
+  Help::OpenByF1(*this, [this] { return Help::TabPageName("frmTabulon", sstabtables_->tabText(Tab())); });
   connect(sstabtables_, &QTabWidget::currentChanged, this, &frmTabulon::TabChanged);
 }
 
@@ -87,6 +103,11 @@ void frmTabulon::BuildMenu() {
   tlbButtons->setObjectName("tlbButtons");
   tlbButtons->setMovable(false);
   tlbButtons->setFocusPolicy(Qt::NoFocus);
+  tlbButtons->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  add_.entry->setIcon(Icon("add"));
+  update_.entry->setIcon(Icon("update"));
+  delete_.entry->setIcon(Icon("delete"));
+  clear_.entry->setIcon(Icon("clear"));
   tlbButtons->addActions({add_.entry, update_.entry, delete_.entry, clear_.entry});
 }
 

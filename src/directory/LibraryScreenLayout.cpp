@@ -1,4 +1,5 @@
 // Controls of a library screen: the menu that mirrors the buttons, symbol row, banner, buttons.
+#include <QApplication>
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -64,10 +65,18 @@ LibraryScreen::LibraryScreen(LibrarySibling self, QWidget* parent)
 // A box that shows only looks like the window behind it.
 void LibraryScreen::MakeReadOnly(TextBox* box) {
   box->setReadOnly(true);
-  QPalette palette = box->palette();
-  palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+  QPalette palette;
+  palette.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
   box->setPalette(palette);
   box->setFocusPolicy(Qt::ClickFocus);
+}
+
+// The user changed between light and dark while the screen is open.
+void LibraryScreen::changeEvent(QEvent* event) {
+  Screen::changeEvent(event);
+  if (event->type() != QEvent::ApplicationPaletteChange) return;
+  for (TextBox* box : findChildren<TextBox*>())
+    if (box->isReadOnly() && box->testAttribute(Qt::WA_SetPalette)) MakeReadOnly(box);
 }
 
 void LibraryScreen::MakeEditable(TextBox* box) {

@@ -54,7 +54,7 @@ void AutoRejects::BuildControls() {
 }
 
 void AutoRejects::ConnectControls() {
-  WatchField(txt4Code, grd4AutoReject, Value_);
+  WatchField(txt4Code, grd4AutoReject, ListedValue);
   connect(cmb4Tables, &CodeComboBox::Click, this, &AutoRejects::cmb4Tables_Click);
   connect(cmb4RejectType, &CodeComboBox::Click, this, &AutoRejects::cmb4RejectType_Click);
   connect(grd4AutoReject, &Grid::SelChange, this, &AutoRejects::grd4AutoReject_SelChange);
@@ -155,7 +155,7 @@ void AutoRejects::grd4AutoReject_SelChange() {
   if (gbSkipGridEvents || row == 0) return;
   {
     const FillingFields filling;
-    txt4Code->SetText(grd4AutoReject->Text(row, Value_));
+    txt4Code->SetText(grd4AutoReject->Text(row, ListedValue));
     // An exception that rejects no more is in no list; its description is shown all the same.
     if (!cmb4RejectType->SetCode(grd4AutoReject->Text(row, ExceptionCode)))
       cmb4RejectType->SetText(grd4AutoReject->Text(row, RejectType));
@@ -194,7 +194,7 @@ bool AutoRejects::AutoRejects_Add() {
       return;
     }
     // The code is compared as it was typed; what only differs in letter case is left to the database.
-    if (grd4AutoReject->FindRow(txt4Code->Text(), Value_) > 0) {
+    if (grd4AutoReject->FindRow(txt4Code->Text(), ListedValue) > 0) {
       Tell("This record already exists", MessageStyle::Warning);
       const FillingFields filling;
       txt4Code->SetText({});
@@ -207,7 +207,7 @@ bool AutoRejects::AutoRejects_Add() {
                              Sql::Plain(cmb4RejectType->Code()) + ")",
                          FailureLine("INSERT INTO"));
     shell().LoadDataInGrid();
-    grd4AutoReject->SetRowQuietly(grd4AutoReject->FindRow(code, Value_));
+    grd4AutoReject->SetRowQuietly(grd4AutoReject->FindRow(code, ListedValue));
     Tell("Record Added", MessageStyle::Information);
     done = true;
   });
@@ -225,11 +225,11 @@ bool AutoRejects::AutoRejects_Update() {
     if (!IsUpdate(row)) return;
     const QString sql = "UPDATE  " + Sql::Table(TableName()) + " SET " + gstrField + " = " + Sql::Plain(code) + ", " +
                         gstrExcCode + " = " + Sql::Plain(cmb4RejectType->Code()) + " where " + gstrField + " = " +
-                        Sql::Plain(grd4AutoReject->Text(row, Value_)) + " and " + gstrExcCode + " = " +
+                        Sql::Plain(grd4AutoReject->Text(row, ListedValue)) + " and " + gstrExcCode + " = " +
                         Sql::Plain(grd4AutoReject->Text(row, ExceptionCode));
     ExecuteInTransaction(sql, FailureLine("UPDATE"));
     shell().LoadDataInGrid();
-    grd4AutoReject->SetRowQuietly(grd4AutoReject->FindRow(code, Value_));
+    grd4AutoReject->SetRowQuietly(grd4AutoReject->FindRow(code, ListedValue));
     Tell("Record Updated", MessageStyle::Information);
     done = true;
   });
@@ -238,7 +238,7 @@ bool AutoRejects::AutoRejects_Update() {
 
 bool AutoRejects::IsUpdate(int row) {
   if (row == 0 || txt4Code->Text().isEmpty()) return Refuse(NoSuchCode, MessageStyle::Stop, txt4Code);
-  if (txt4Code->Text() == grd4AutoReject->Text(row, Value_) && RejectTypeIsThatOf(row))
+  if (txt4Code->Text() == grd4AutoReject->Text(row, ListedValue) && RejectTypeIsThatOf(row))
     return Refuse("Nothing has been changed", MessageStyle::Warning, txt4Code);
   if (IsInAnotherRow(row)) return Refuse("This record already exists.", MessageStyle::Warning, txt4Code);
   if (cmb4RejectType->IndexOfCode(grd4AutoReject->Text(row, ExceptionCode)) < 0)
@@ -250,7 +250,7 @@ bool AutoRejects::IsUpdate(int row) {
 }
 
 bool AutoRejects::IsInAnotherRow(int row) const {
-  const std::vector<std::pair<int, QString>> entry = {{Value_, txt4Code->Text()},
+  const std::vector<std::pair<int, QString>> entry = {{ListedValue, txt4Code->Text()},
                                                       {ExceptionCode, cmb4RejectType->Code()}};
   int found = grd4AutoReject->FindRow(entry);
   if (found == row) found = grd4AutoReject->FindRow(entry, row + 1);
@@ -268,7 +268,7 @@ bool AutoRejects::AutoRejects_Delete() {
       Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt4Code);
       return;
     }
-    if (grd4AutoReject->FindRow(code, Value_) == 0) {
+    if (grd4AutoReject->FindRow(code, ListedValue) == 0) {
       Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt4Code);
       return;
     }

@@ -26,7 +26,7 @@ class AutoRejects : public TabPage {
   void LoadGrid() override;
 
  private:
-  enum Column { Marker, Value_, RejectType, ExceptionCode };
+  enum Column { Marker, ListedValue, RejectType, ExceptionCode };
 
   void BuildControls();
   void ConnectControls();

@@ -51,6 +51,7 @@ void MethodPage::BuildControls() {
     QGroupBox* const frame = Form::Frame(this, flag.frame, flag.caption);
     pairs_.push_back(new OptionGroup(frame, flag.option, {"Yes", "No"}));
     (new QHBoxLayout(frame))->addWidget(pairs_.back()->Row());
+    frame->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     frames->addWidget(frame);
   }
   frames->addStretch();
@@ -59,6 +60,15 @@ void MethodPage::BuildControls() {
   QVBoxLayout* const column = Form::Column(this, {fields});
   column->addLayout(frames);
   column->addWidget(grid_, 1);
+
+  // The options were made after the grid and stand above it.
+  QWidget* before = description_;
+  for (const OptionGroup* pair : pairs_)
+    for (const int element : {Yes, No}) {
+      setTabOrder(before, pair->Button(element));
+      before = pair->Button(element);
+    }
+  setTabOrder(before, grid_);
 }
 
 void MethodPage::ConnectControls() {
@@ -123,14 +133,19 @@ void MethodPage::SelChange() {
   gbRecordModified = false;
 }
 
+void MethodPage::TrimEntry() {
+  const FillingFields filling;  // a record that was changed stays so whatever is trimmed
+  fields_.TrimAll();
+}
+
 // --- Add ---
 
 bool MethodPage::Add() {
   bool done = false;
   Procedure procedure("frmTabulon.Delivery_Add", this);
   procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    const QString code = code_->TrimUpperInPlace();
-    const QString description = description_->TrimInPlace();
+    TrimEntry();
+    const QString code = code_->Text(), description = description_->Text();
     if (!EntryIsNew(code, description)) return;
     Execute(InsertStatement(code, description), "***** SQL error on OSTANA." + method_.table + " (INSERT INTO) *****");
     shell().LoadDataInGrid();
@@ -177,8 +192,8 @@ bool MethodPage::Update() {
       .Run([&] {
         // The code goes first: it may lock "Active", which is read for the statement. Unlike Add, an empty description
         // is taken and an unchanged record is written.
-        const QString code = code_->TrimUpperInPlace();
-        const QString description = description_->TrimInPlace();
+        TrimEntry();
+        const QString code = code_->Text(), description = description_->Text();
         const int row = grid_->FindRow(code, Code);
         if (row == 0) {
           Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop,

@@ -40,6 +40,7 @@ class MethodPage : public DeliveryPage {
   void FlagClicked(size_t flag, int element);
   int ColumnOf(size_t flag) const { return FirstFlag + static_cast<int>(flag); }
 
+  void TrimEntry();
   bool EntryIsNew(const QString& code, const QString& description);
   QString InsertStatement(const QString& code, const QString& description) const;
   QString UpdateStatement(const QString& code, const QString& description) const;

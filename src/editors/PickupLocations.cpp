@@ -179,7 +179,10 @@ bool PickupLocations::Add() {
 }
 
 bool PickupLocations::EntryIsValid(qint32& libraryId) {
-  fields_.TrimAll();
+  {
+    const FillingFields filling;  // a record that was changed stays so whatever is trimmed
+    fields_.TrimAll();
+  }
   if (txt5dCode->Text().isEmpty())
     return Refuse("Please enter a pickup location code.", MessageStyle::Warning, txt5dCode);
   if (txt5dDescription->Text().isEmpty())

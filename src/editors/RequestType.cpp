@@ -49,7 +49,7 @@ void RequestType::BuildControls() {
 
 void RequestType::ConnectControls() {
   WatchField(txt9Description, grd9RequestType, Description);
-  WatchField(txt9LibrarySymbol, grd9RequestType, LibrarySymbol_);
+  WatchField(txt9LibrarySymbol, grd9RequestType, Symbol);
   connect(cmd9FindLibrary, &QPushButton::clicked, this,
           [this] { LibrarySymbol::Find(*txt9LibrarySymbol, this, "frmTabulon.cmd9FindLibrary_Click"); });
   connect(cmb9CustomerID, &CodeComboBox::Click, this, &RequestType::cmb9CustomerID_Click);
@@ -112,7 +112,7 @@ void RequestType::grd9RequestType_SelChange() {
   {
     const FillingFields filling;
     txt9Code->SetText(grd9RequestType->Text(row, Code));
-    txt9LibrarySymbol->SetText(grd9RequestType->Text(row, LibrarySymbol_));
+    txt9LibrarySymbol->SetText(grd9RequestType->Text(row, Symbol));
     txt9Description->SetText(grd9RequestType->Text(row, Description));
     const QString customer = grd9RequestType->Text(row, CustomerCode);
     if (customer.isEmpty() || !cmb9CustomerID->SetCode(customer)) cmb9CustomerID->SetIndex(0);
@@ -173,7 +173,7 @@ bool RequestType::RequestType_Update() {
 bool RequestType::EqualsRow(int row) const {
   return txt9Description->Text() == grd9RequestType->Text(row, Description) &&
          FlagLetter() == grd9RequestType->Text(row, InvoiceFlag) &&
-         txt9LibrarySymbol->Text() == grd9RequestType->Text(row, LibrarySymbol_) &&
+         txt9LibrarySymbol->Text() == grd9RequestType->Text(row, Symbol) &&
          cmb9CustomerID->Code() == grd9RequestType->Text(row, CustomerCode);
 }
 
@@ -204,7 +204,7 @@ QString RequestType::UpdateStatement(const QString& customer) const {
 
 void RequestType::WriteRow(int row, const QString& customer) {
   grd9RequestType->SetText(row, Description, txt9Description->Text());
-  grd9RequestType->SetText(row, LibrarySymbol_, txt9LibrarySymbol->Text());
+  grd9RequestType->SetText(row, Symbol, txt9LibrarySymbol->Text());
   grd9RequestType->SetText(row, CustomerID, customer.isEmpty() ? QString() : cmb9CustomerID->Text());
   grd9RequestType->SetText(row, CustomerCode, customer);
   grd9RequestType->SetText(row, InvoiceFlag, FlagLetter());

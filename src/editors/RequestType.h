@@ -25,7 +25,7 @@ class RequestType : public TabPage {
 
  private:
   // Column 4 shows the customer id's description; the id itself is hidden.
-  enum Column { Marker, Code, Description, LibrarySymbol_, CustomerID, InvoiceFlag, CustomerCode };
+  enum Column { Marker, Code, Description, Symbol, CustomerID, InvoiceFlag, CustomerCode };
 
   void BuildControls();
   void ConnectControls();

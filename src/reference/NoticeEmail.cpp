@@ -1,6 +1,7 @@
 #include "reference/NoticeEmail.h"
 
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QStackedWidget>
 #include <algorithm>
 
@@ -51,7 +52,18 @@ void NoticeEmail::BuildControls() {
   connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(); });
   buttons->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}), 1);
   head->layout()->setContentsMargins(0, 0, 0, 0);
+  forms_.push_back(rows.Layout());
+  AlignLabels();
   Form::Column(this, {head, groups_})->addLayout(buttons);
+}
+
+void NoticeEmail::AlignLabels() {
+  int widest = 0;
+  for (const QGridLayout* form : forms_)
+    for (int row = 0; row < form->rowCount(); ++row)
+      if (const QLayoutItem* const label = form->itemAtPosition(row, 0))
+        widest = std::max(widest, label->sizeHint().width());
+  for (QGridLayout* form : forms_) form->setColumnMinimumWidth(0, widest);
 }
 
 QWidget* NoticeEmail::BuildGroup(NoticeColumn::Group group) {
@@ -72,6 +84,7 @@ QWidget* NoticeEmail::BuildGroup(NoticeColumn::Group group) {
     ConnectBox(field);
   }
   page->layout()->setContentsMargins(0, 0, 0, 0);
+  forms_.push_back(rows.Layout());
   const bool grows = std::any_of(fields_.begin(), fields_.end(),
                                  [group](const Field& field) { return field.column.group == group && field.memo; });
   if (!grows) rows.Stretch();

@@ -9,6 +9,7 @@
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
 
+class QGridLayout;
 class QStackedWidget;
 
 // One column of ID_COVER_INFO that a notice dialog edits, and its box.
@@ -71,6 +72,7 @@ class NoticeEmail : public Screen {
   QWidget* BuildGroup(NoticeColumn::Group group);
   QPushButton* BrowseButton(const NoticeBrowse& browse);
   void ConnectBox(Field& field);
+  void AlignLabels();
   void ShowGroup(int group);
   void PopulateForm();
   void Browse(const NoticeBrowse& browse);
@@ -79,6 +81,7 @@ class NoticeEmail : public Screen {
 
   const NoticeSheet sheet_;
   std::vector<Field> fields_;
+  std::vector<QGridLayout*> forms_;  // one below the other
   bool mbRecordChanged = false;
 
   TextBox* const txtRequestType = new TextBox(this, "txtRequestType", 3);

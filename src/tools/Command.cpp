@@ -16,7 +16,11 @@ const std::vector<Command>& Commands() {
       {"create", "Makes the tables and the first rows in the database of a site.", RunCreate},
       {"check", "Tells what the database of a site lacks.", RunCheck},
       {"add-language", "Adds a language to a site, or completes one.", RunAddLanguage},
-      {"user", "Adds, changes, removes and lists users and their rights.", RunUser}};
+      {"encode-password", "Encodes the password of the database's user for the settings.", RunEncodePassword},
+      {"user", "Adds, changes, removes and lists users and their rights.", RunUser},
+      {"export", "Writes the settings of a site to a text file.", RunExport},
+      {"compare", "Tells what differs between a file, a database and that of another site.", RunCompare},
+      {"apply", "Carries the settings of a file into the database of a site.", RunApply}};
   return commands;
 }
 
@@ -25,11 +29,11 @@ QString Overview() {
       "Usage: tabulon-db COMMAND [options]\n"
       "Makes, checks and extends the database of an Ostana site. The settings are those of the program: Ostana.ini in\n"
       "OSTANA_HOME, else in the current directory.\n\nCommands:\n";
-  for (const Command& command : Commands()) text += "  " + command.name.leftJustified(14) + command.summary + '\n';
+  for (const Command& command : Commands()) text += "  " + command.name.leftJustified(17) + command.summary + '\n';
   return text +
          "\nOptions:\n  --site NAME   the section [Database NAME] of the settings instead of [Database]\n"
          "  --help        this text; behind a command, its own\n  --version\n\n"
-         "Exit status: 0 done, 1 refused or gaps found, 2 wrong usage.";
+         "Exit status: 0 done, 1 refused, or gaps or differences found, 2 wrong usage.";
 }
 
 QString Wrapped(const QString& text) {
@@ -52,16 +56,6 @@ QStringList CommandFirst(QStringList arguments) {
   const int length = arguments.first().contains('=') ? 1 : 2;
   QStringList moved = arguments.mid(length);
   return moved.isEmpty() ? arguments : moved + arguments.mid(0, length);
-}
-
-bool ReadSite(const CommandArguments& arguments, SiteSettings& settings, QString& error) {
-  const QString site = arguments.Value("site");
-  if (!LoadSiteSettings(site, settings, error)) return false;
-  // The program falls back to the common section. A tool that writes must not take one site for another.
-  if (site.isEmpty() || IniFile::Sections(settings.settingsFile).contains("Database " + site, Qt::CaseInsensitive))
-    return true;
-  error = QStringLiteral("The settings file '%1' has no section [Database %2].").arg(settings.settingsFile, site);
-  return false;
 }
 
 }  // namespace
@@ -112,12 +106,27 @@ int RefuseUsage(const QString& reason, const QString& command) {
   return ExitCode::WrongUsage;
 }
 
-int WithSite(const CommandArguments& arguments, const std::function<int(const SiteSettings&)>& body) {
+SiteSettings ReadSite(const QString& site) {
+  SiteSettings settings;
+  QString error;
+  if (!LoadSiteSettings(site, settings, error)) throw std::runtime_error(error.toStdString());
+  // The program falls back to the common section. A tool that writes must not take one site for another.
+  if (!site.isEmpty() && !IniFile::Sections(settings.settingsFile).contains("Database " + site, Qt::CaseInsensitive))
+    throw std::runtime_error(QStringLiteral("The settings file '%1' has no section [Database %2].")
+                                 .arg(settings.settingsFile, site)
+                                 .toStdString());
+  return settings;
+}
+
+void OpenDatabase(Connection& connection) {
+  connection.Open();
+  if (!DatabaseBuilder::HasTables(connection))
+    throw std::runtime_error("The database holds no tables of Ostana. Make them with tabulon-db create.");
+}
+
+int Guarded(const std::function<int()>& body) {
   try {
-    SiteSettings settings;
-    QString error;
-    if (!ReadSite(arguments, settings, error)) return Refuse(error);
-    return body(settings);
+    return body();
   } catch (const AdoError& error) {
     return Refuse(error.Description());
   } catch (const std::exception& error) {
@@ -125,12 +134,14 @@ int WithSite(const CommandArguments& arguments, const std::function<int(const Si
   }
 }
 
+int WithSite(const CommandArguments& arguments, const std::function<int(const SiteSettings&)>& body) {
+  return Guarded([&] { return body(ReadSite(arguments.Value("site"))); });
+}
+
 int WithDatabase(const CommandArguments& arguments, const std::function<int(Connection&, const SiteSettings&)>& body) {
   return WithSite(arguments, [&](const SiteSettings& settings) {
     Connection connection(settings.connection);
-    connection.Open();
-    if (!DatabaseBuilder::HasTables(connection))
-      return Refuse("The database holds no tables of Ostana. Make them with tabulon-db create.");
+    OpenDatabase(connection);
     return body(connection, settings);
   });
 }

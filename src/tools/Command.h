@@ -12,7 +12,7 @@
 
 namespace ExitCode {
 inline constexpr int Done = 0;
-inline constexpr int Refused = 1;  // refused by the database or the tool, or a check that found gaps
+inline constexpr int Refused = 1;  // refused by the database or the tool, or gaps or differences were found
 inline constexpr int WrongUsage = 2;
 }  // namespace ExitCode
 
@@ -40,6 +40,13 @@ class CommandArguments {
   QCommandLineParser parser_;
 };
 
+// The settings of a site; without a name, of the section [Database]. std::runtime_error when they cannot be used.
+SiteSettings ReadSite(const QString& site);
+// Opens a database, which must hold the tables of the system: std::runtime_error otherwise.
+void OpenDatabase(Connection& connection);
+
+// Runs the body; what goes wrong is told on the terminal and ends with Refused.
+int Guarded(const std::function<int()>& body);
 // Reads the settings of the site that the arguments name and runs the body; what goes wrong is told on the terminal.
 int WithSite(const CommandArguments& arguments, const std::function<int(const SiteSettings&)>& body);
 // The same, with the open database of the site, which must hold the tables of the system.
@@ -57,7 +64,11 @@ struct Command {
 int RunCreate(const QStringList& arguments);
 int RunCheck(const QStringList& arguments);
 int RunAddLanguage(const QStringList& arguments);
+int RunEncodePassword(const QStringList& arguments);
 int RunUser(const QStringList& arguments);
+int RunExport(const QStringList& arguments);
+int RunCompare(const QStringList& arguments);
+int RunApply(const QStringList& arguments);
 
 // All of tabulon-db but its main: the arguments of the process without the program's name.
 int RunTabulonDb(const QStringList& arguments);

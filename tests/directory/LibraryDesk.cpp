@@ -1,5 +1,6 @@
 #include "directory/LibraryDesk.h"
 
+#include "Screens.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/Screen.h"
@@ -17,11 +18,7 @@ class EmptyForm : public Screen {
 
 void LibraryDesk::SetUp() {
   Desk::SetUp();
-  for (const QString name :
-       {"frmRequestArticle", "frmRequestBook", "frmQueryRequests", "frmPatronRegistration", "frmSupplierRegistration",
-        "frmLibraryContactInfo", "frmLibrarySequence", "frmLibraryAnnotationTemplate", "frmDeliveryEmailTemplate"})
-    if (!RegisteredScreens().contains(name))
-      RegisterScreen(name, [name](QWidget* owner) { return std::make_unique<EmptyForm>(name, owner); });
+  RegisterForms();
   AddLibrary(North, "NORTH",
              {{"INSTITUTION_NAME", "'NORTH COLLEGE'"},
               {"LIBRARY", "'MAIN LIBRARY'"},
@@ -30,6 +27,15 @@ void LibraryDesk::SetUp() {
               {"PRIME_POST_ZIPCODE", "'N1 1AA'"}});
   AddLibrary(South, "SOUTH",
              {{"INSTITUTION_NAME", "'SOUTH INSTITUTE'"}, {"CONTACT", "'Ben Cole'"}, {"LIBRARY_ACTIVE", "'N'"}});
+}
+
+void LibraryDesk::RegisterForms() {
+  for (const QString name :
+       {"frmRequestArticle", "frmRequestBook", "frmQueryRequests", "frmPatronRegistration", "frmSupplierRegistration",
+        "frmLibraryContactInfo", "frmLibrarySequence", "frmLibraryAnnotationTemplate", "frmDeliveryEmailTemplate"})
+    RegisterScreen(name, [name](QWidget* owner) { return std::make_unique<EmptyForm>(name, owner); });
+  // The program's own forms take the places that they have.
+  RegisterDialogs();
 }
 
 void LibraryDesk::AddLibrary(qint32 id, const QString& symbol, const QMap<QString, QString>& values) {

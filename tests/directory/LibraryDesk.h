@@ -12,6 +12,8 @@ class LibraryDesk : public Desk {
 
   void SetUp() override;
 
+  // All forms by their names, those of other applications included.
+  static void RegisterForms();
   // A row of ID_LIBRARY; `values` are SQL values by column.
   void AddLibrary(qint32 id, const QString& symbol, const QMap<QString, QString>& values = {});
   void SetColumn(qint32 id, const QString& column, const QString& value);

@@ -225,6 +225,19 @@ TEST_F(LibraryLoginTest, AFailedUpdateMasksThePasswordInTheLog) {
   EXPECT_FALSE(LogHolds("topsecret"));
 }
 
+// What the database says of a broken key may quote the row.
+TEST_F(LibraryLoginTest, ABrokenKeyLeavesNoPasswordInTheLog) {
+  OpenScreen();
+  Choose("cboLanguageCode", "German");
+  Type("txtPassword", "topsecret");
+  Type("txtConfirmPassword", "topsecret");
+  Another("DELETE FROM ID_LANGUAGE_CODE WHERE LANGUAGE_CODE = 'GER'");
+  Prompt().ExpectStart("An error has occurred while attempting to update the Library.", MessageStyle::Stop);
+  Click("cmdUpdate");
+  EXPECT_TRUE(LogHolds("REFERENCE"));
+  EXPECT_FALSE(LogHolds("topsecret"));
+}
+
 // --- Load balancing ---
 
 TEST_F(LibraryLoginTest, NToYAsksAboutLoadBalancingOnlyWhereItIsUsed) {

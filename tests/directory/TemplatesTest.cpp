@@ -10,9 +10,11 @@ class TemplatesTest : public Desk {
  protected:
   void SetUp() override {
     Desk::SetUp();
-    Another("INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME) VALUES (71, 'ONE', 'First Library')");
-    Another("INSERT INTO ID_PATRON (LIBRARY_ID, PATRON_ID, PATRON_NAME, PATRON_SURNAME) VALUES (71, 'P1', 'Ada', "
-            "'Moss')");
+    Another(
+        "INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME) VALUES (71, 'ONE', 'First Library')");
+    Another(
+        "INSERT INTO ID_PATRON (LIBRARY_ID, PATRON_ID, PATRON_NAME, PATRON_SURNAME) VALUES (71, 'P1', 'Ada', "
+        "'Moss')");
     Logon();
     gclsOF->SetLibraryId(71);
   }
@@ -59,9 +61,10 @@ TEST_F(EmailTemplateTest, TheFirstSaveInsertsAndTheNextUpdatesAndTheScreenStays)
   Click("rdSkipHeaderAndFooterNo");
   Prompt().Expect("Email settings Updated.", 64);
   Click("cmdOK");
-  EXPECT_EQ(Writing(), QStringList{"UPDATE ID_EMAIL_MESSAGE SET EMAIL_SKIP_HEADER_FOOTER = N'N', EMAIL_MESSAGE_SUBJECT = "
-                                   "N'Your article', EMAIL_MESSAGE_REQUEST = N'About', EMAIL_MESSAGE_BODY = N'It''s "
-                                   "here' WHERE    LIBRARY_ID = 71 AND      PATRON_ID IS NULL"});
+  EXPECT_EQ(Writing(),
+            QStringList{"UPDATE ID_EMAIL_MESSAGE SET EMAIL_SKIP_HEADER_FOOTER = N'N', EMAIL_MESSAGE_SUBJECT = "
+                        "N'Your article', EMAIL_MESSAGE_REQUEST = N'About', EMAIL_MESSAGE_BODY = N'It''s "
+                        "here' WHERE    LIBRARY_ID = 71 AND      PATRON_ID IS NULL"});
   EXPECT_TRUE(screen.isVisible());
   EXPECT_EQ(Count("ID_EMAIL_MESSAGE"), 1);
 }
@@ -110,10 +113,11 @@ TEST_F(EmailTemplateTest, APatronHasARowOfHisOwn) {
   Click("cmdOK");
   EXPECT_EQ(Ask("SELECT PATRON_ID FROM ID_EMAIL_MESSAGE WHERE LIBRARY_ID = 71"), "P1");
   Statements();
-  Prompt().Expect("Are you sure you wish to delete this record ?", 36, MessageAnswer::Yes).Expect("Record deleted.", 64);
+  Prompt()
+      .Expect("Are you sure you wish to delete this record ?", 36, MessageAnswer::Yes)
+      .Expect("Record deleted.", 64);
   Click("cmdDelete");
-  EXPECT_EQ(Writing(),
-            QStringList{"DELETE FROM ID_EMAIL_MESSAGE WHERE    LIBRARY_ID = 71 AND PATRON_ID = N'P1'"});
+  EXPECT_EQ(Writing(), QStringList{"DELETE FROM ID_EMAIL_MESSAGE WHERE    LIBRARY_ID = 71 AND PATRON_ID = N'P1'"});
 }
 
 TEST_F(EmailTemplateTest, DeleteRemovesTheRowAndEmptiesTheBoxes) {
@@ -124,7 +128,9 @@ TEST_F(EmailTemplateTest, DeleteRemovesTheRowAndEmptiesTheBoxes) {
   Prompt().Expect("Are you sure you wish to delete this record ?", 36, MessageAnswer::No);
   Click("cmdDelete");
   EXPECT_EQ(Count("ID_EMAIL_MESSAGE"), 1);
-  Prompt().Expect("Are you sure you wish to delete this record ?", 36, MessageAnswer::Yes).Expect("Record deleted.", 64);
+  Prompt()
+      .Expect("Are you sure you wish to delete this record ?", 36, MessageAnswer::Yes)
+      .Expect("Record deleted.", 64);
   Click("cmdDelete");
   EXPECT_EQ(Count("ID_EMAIL_MESSAGE"), 0);
   EXPECT_EQ(Text("txtSubject"), "");
@@ -165,14 +171,16 @@ TEST_F(AnnotationTest, TheFirstSaveInsertsAndTheNextUpdates) {
   Click("optUseAnnotationNo");
   Prompt().Expect("Annotation Email settings Updated.", 64);
   Click("cmdOK");
-  EXPECT_EQ(Writing(), QStringList{"UPDATE ID_ANNOTATION SET LIBRARY_ID = 71,USE_ANNOTATION = N'N' , ANNOTATION = NULL , "
-                                   "TEXT_FONT_SIZE = 12, TEXT_ORIENTATION = N'TopRight' WHERE        LIBRARY_ID  = 71 "
-                                   "AND PATRON_ID IS NULL"});
+  EXPECT_EQ(Writing(),
+            QStringList{"UPDATE ID_ANNOTATION SET LIBRARY_ID = 71,USE_ANNOTATION = N'N' , ANNOTATION = NULL , "
+                        "TEXT_FONT_SIZE = 12, TEXT_ORIENTATION = N'TopRight' WHERE        LIBRARY_ID  = 71 "
+                        "AND PATRON_ID IS NULL"});
 }
 
 TEST_F(AnnotationTest, AValueOutsideItsListFallsBackToTheDefault) {
-  Another("INSERT INTO ID_ANNOTATION (LIBRARY_ID, USE_ANNOTATION, ANNOTATION, TEXT_FONT_SIZE, TEXT_ORIENTATION) VALUES "
-          "(71, 'N', 'x', 99, 'Sideways')");
+  Another(
+      "INSERT INTO ID_ANNOTATION (LIBRARY_ID, USE_ANNOTATION, ANNOTATION, TEXT_FONT_SIZE, TEXT_ORIENTATION) VALUES "
+      "(71, 'N', 'x', 99, 'Sideways')");
   Open("frmLibraryAnnotationTemplate");
   EXPECT_TRUE(IsChecked("optUseAnnotationNo"));
   EXPECT_EQ(Text("txtAnnotationText"), "x");
@@ -192,10 +200,13 @@ TEST_F(AnnotationTest, TheDefaultOfTheSystemIsTheRowOfLibraryZero) {
 }
 
 TEST_F(AnnotationTest, DeleteRemovesTheRow) {
-  Another("INSERT INTO ID_ANNOTATION (LIBRARY_ID, USE_ANNOTATION, ANNOTATION, TEXT_FONT_SIZE, TEXT_ORIENTATION) VALUES "
-          "(71, 'Y', 'x', 8, 'TopLeft')");
+  Another(
+      "INSERT INTO ID_ANNOTATION (LIBRARY_ID, USE_ANNOTATION, ANNOTATION, TEXT_FONT_SIZE, TEXT_ORIENTATION) VALUES "
+      "(71, 'Y', 'x', 8, 'TopLeft')");
   Open("frmLibraryAnnotationTemplate");
-  Prompt().Expect("Are you sure you wish to delete this record ?", 36, MessageAnswer::Yes).Expect("Record deleted.", 64);
+  Prompt()
+      .Expect("Are you sure you wish to delete this record ?", 36, MessageAnswer::Yes)
+      .Expect("Record deleted.", 64);
   Click("cmdDelete");
   EXPECT_EQ(Count("ID_ANNOTATION"), 0);
 }

@@ -1,4 +1,5 @@
 #include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "support/Desk.h"
 
 namespace {
@@ -305,6 +306,18 @@ TEST_F(AuditTest, CodesTakeOneCharacterAndDescriptionsFifty) {
   EXPECT_EQ(Text("txt10aCode"), "a");
   Type("txt10aDescription", QString(60, 'd'));
   EXPECT_EQ(Text("txt10aDescription").size(), 50);
+}
+
+TEST_F(AuditTest, AClosedConnectionIsOpenedAgain) {
+  Enter();
+  Type("txt10aCode", "q");
+  Type("txt10aDescription", "Queue");
+  gclsOF->Connection().Close();
+  Added();
+  Type("txt10aDescription", "Row");
+  gclsOF->Connection().Close();
+  Updated();
+  EXPECT_EQ(Ask("SELECT STAT_LOCATION_DESC FROM ID_STAT_LOCATION WHERE STAT_LOCATION = 'Q'"), "Row");
 }
 
 TEST_F(AuditTest, Looks) {

@@ -214,7 +214,8 @@ TEST_F(AutoRejectsTest, TheDuplicateScanRunsBeforeTheCodeBecomesCapitals) {
   EXPECT_EQ(Writing(), QStringList{"INSERT INTO ID_REJ_CALL_NUMBER VALUES('QA 76', 'NOH')"});
   EXPECT_EQ(LogLines().at(LogLines().size() - 2).mid(24),
             "* ***** SQL error on OSTANA.ID_REJ_CALL_NUMBER (INSERT INTO) *****");
-  EXPECT_TRUE(gbRecordModified);
+  EXPECT_EQ(Text("txt4Code"), "QA 76");
+  EXPECT_EQ(Text("cmb4RejectType"), Reject("NOH"));
 }
 
 TEST_F(AutoRejectsTest, UpdateWritesBothFieldsOfTheRow) {

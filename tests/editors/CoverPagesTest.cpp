@@ -149,6 +149,7 @@ TEST_F(CoverPagesTest, StoredLineEndsAreNoChangeAndStay) {
   Append("txt1Message1", "!");
   EXPECT_TRUE(gbRecordModified);
   Press("txt1Message1", Qt::Key_Backspace);
+  EXPECT_EQ(Text("txt1Message1"), "one\ntwo");
   EXPECT_FALSE(gbRecordModified);
   Type("txt1message2", "three\nfive");
   Update();

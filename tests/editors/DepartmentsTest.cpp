@@ -161,6 +161,7 @@ TEST_F(DepartmentsTest, ADescriptionIsUniqueWithinItsLibrary) {
   Prompt().Expect("The Description already exists for this\nLibrary Symbol in Department: MUS", 48);
   Click("cmdAdd");
   EXPECT_EQ(Focus(), "txt2Description");
+  Select("ONE", "MUS");
   Select("ONE", "ART");
   Type("txt2Description", "Music");
   Prompt().Expect("The Description already exists for this\nLibrary Symbol in Department: MUS", 48);
@@ -366,6 +367,17 @@ TEST_F(DepartmentsTest, AMissingTableSaysSoAndLeavesTheOtherTabsWorking) {
   EXPECT_EQ(Rows("grd2Department"), 1);
   SelectTab("sstabtables", frmTabulon::CoverPagesTab);
   EXPECT_GT(Rows("grd1CoverInfo"), 1);
+}
+
+TEST_F(DepartmentsTest, AClosedConnectionIsOpenedAgain) {
+  Enter();
+  gclsOF->Connection().Close();
+  Add("TWO", "LAW", "Law");
+  Select("TWO", "LAW");
+  gclsOF->Connection().Close();
+  Prompt().Expect("Are you sure you wish to Delete this record?", 36, MessageAnswer::Yes).Expect("Record Deleted", 64);
+  Click("cmdDelete");
+  EXPECT_EQ(Count("ID_DEPARTMENT"), 3);
 }
 
 TEST_F(DepartmentsTest, Looks) {

@@ -263,18 +263,17 @@ TEST_F(PickupLocationsTest, ACodeOfTheSameLibraryIsRefused) {
 }
 
 TEST_F(PickupLocationsTest, ADescriptionOfTheSameLibrarySendsTheFocusToTheTabDepartments) {
-  EnterPage();
-  auto* const tabs = Find<QTabWidget>("sstabtables");
-  // The box as that tab builds it once it has been visited.
-  if (!Shell().findChild<QWidget*>("txt2Description"))
-    new TextBox(tabs->widget(frmTabulon::DepartmentsTab), "txt2Description");
+  Start();
+  SelectTab("sstabtables", frmTabulon::DepartmentsTab);
+  SelectTab("sstabtables", frmTabulon::DeliveryTab);
+  Go(PickupLocation);
   Fill("XXX9", "q", "Main desk");
   Refused("This Pickup Location Description already exists for this library.", 16, "cmdAdd", "txt2Description");
-  EXPECT_EQ(tabs->currentIndex(), frmTabulon::DeliveryTab);
+  EXPECT_EQ(Find<QTabWidget>("sstabtables")->currentIndex(), frmTabulon::DeliveryTab);
   EXPECT_EQ(Boxes(), QStringList({"XXX9", "Q", "", "", "Main desk"}));
 }
 
-TEST_F(PickupLocationsTest, WithoutThatTabTheFocusStays) {
+TEST_F(PickupLocationsTest, BeforeThatTabWasVisitedTheFocusStays) {
   EnterPage();
   Fill("XXX9", "q", "Main desk");
   Press("txt5dILSCode", Qt::Key_End);

@@ -276,6 +276,14 @@ TEST_F(RequestTypeTest, TheBoxesTakeNoMoreThanTold) {
   EXPECT_EQ(Text("txt9LibrarySymbol").size(), 25);
 }
 
+TEST_F(RequestTypeTest, AClosedConnectionIsOpenedAgain) {
+  Enter();
+  Type("txt9Description", "Again");
+  gclsOF->Connection().Close();
+  Update();
+  EXPECT_EQ(Stored("REQUEST_TYPE_DESC", "ILL"), "Again");
+}
+
 TEST_F(RequestTypeTest, Looks) {
   Enter();
   Picture("request-type");

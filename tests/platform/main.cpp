@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QLocale>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
@@ -34,7 +35,10 @@ int main(int argc, char** argv) {
   qputenv("XDG_RUNTIME_DIR", shared.isEmpty() ? runtime.path().toLocal8Bit() : shared);
   qInstallMessageHandler(Report);
   QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, runtime.path());
   QApplication application(argc, argv);
+  QApplication::setOrganizationName("Ostana tests");
+  QApplication::setApplicationName("Tabulon");
   if (argc == 4 && qstrcmp(argv[1], "another-is-running") == 0)
     return SayWhetherAnotherIsRunning(argv[2], qstrcmp(argv[3], "crash") == 0);
   testing::InitGoogleTest(&argc, argv);

@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QRadioButton>
+#include <QSettings>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -70,6 +71,7 @@ void Desk::SetUp() {
   QDir::setCurrent(folder_.path());
   qputenv("OSTANA_HOME", folder_.path().toUtf8());
   qputenv("OSTANA_REGISTRY", folder_.path().toUtf8());
+  QSettings().clear();
   ResetModuleState();
   SetDecimalSeparator();
   script_ = std::make_unique<Script>();

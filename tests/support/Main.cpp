@@ -2,8 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QLocale>
+#include <QSettings>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 #include <cstdio>
 
 #include "Screens.h"
@@ -15,12 +19,25 @@ void WithoutSizeHints(QtMsgType, const QMessageLogContext&, const QString& text)
   if (!text.contains("propagateSizeHints")) std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
+// The offscreen platform's own screen is smaller than the smallest one that the program is made for.
+void PutUpScreen(const QString& folder) {
+  QFile file(QDir(folder).filePath("screen.json"));
+  if (!file.open(QIODevice::WriteOnly)) return;
+  file.write(R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": 1280, "height": 832,
+                 "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   qInstallMessageHandler(WithoutSizeHints);
   testing::InitGoogleTest(&argc, argv);
+  // What the program remembers of its user stays in a folder of this process.
+  const QTemporaryDir userSettings;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, userSettings.path());
+  const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+  if (platform.isEmpty() || platform == "offscreen") PutUpScreen(userSettings.path());
   QLocale::setDefault(QLocale::c());
   QApplication application(argc, argv);
   QApplication::setApplicationName("Tabulon");

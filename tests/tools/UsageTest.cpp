@@ -11,7 +11,8 @@ TEST_F(UsageTest, EveryCommandHasHelp) {
   for (const QStringList& command :
        {QStringList{}, QStringList{"create"}, QStringList{"check"}, QStringList{"add-language"}, QStringList{"user"},
         QStringList{"user", "add"}, QStringList{"user", "password"}, QStringList{"user", "rights"},
-        QStringList{"user", "remove"}, QStringList{"user", "list"}}) {
+        QStringList{"user", "remove"}, QStringList{"user", "list"}, QStringList{"export"}, QStringList{"compare"},
+        QStringList{"apply"}}) {
     const Result help = Run(command + QStringList{"--help"});
     EXPECT_EQ(help.exitCode, 0) << command.join(' ').toStdString();
     EXPECT_TRUE(help.out.startsWith("Usage: tabulon-db")) << help.out.toStdString();

@@ -60,6 +60,7 @@ int main(int argc, char** argv) {
   frmTabulon window("\"\" \"admin\" \"secret\"");
   RegisterTabs(window);
   window.Form_Initialize();
+  window.resize(1180, 720);  // whatever the size of the screen that there is not
   window.show();
   window.Form_Activate();
   // Ends as the program itself does.

@@ -52,6 +52,8 @@ QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> buttons);
 QVBoxLayout* Column(QWidget* parent, std::initializer_list<QWidget*> widgets = {});
 // Width of a field for that many characters, in pixels of its font.
 int FieldWidth(const QWidget* field, int characters);
+// Tab order of all that stands in the form's layouts, as it is read: rows from the top, from the left, frame by frame.
+void ReadingOrder(QWidget* form);
 // Tab order in the order of the list.
 void TabOrder(std::initializer_list<QWidget*> widgets);
 // The caption without its mnemonic mark.

@@ -7,11 +7,12 @@
 #include <numeric>
 
 #include "platform/controls/GridDelegate.h"
+#include "platform/controls/GridFinder.h"
+#include "platform/controls/GridHeading.h"
 #include "platform/controls/GridModel.h"
 
 namespace {
 constexpr int DefaultTwips = 960;
-constexpr int TwipsAnInch = 1440;
 constexpr int NarrowestGrid = 160, WidestGrid = 900;  // pixels asked of a layout
 constexpr int FewestRows = 3, UsualRows = 8;
 std::size_t At(int index) {
@@ -23,8 +24,10 @@ std::vector<QStringView> Views(const QStringList& cells) {
 }
 }  // namespace
 
-Grid::Grid(QWidget* parent, const QString& name, int columns) : QTableView(parent), model_(new GridModel(this)) {
+Grid::Grid(QWidget* parent, const QString& name, int columns)
+    : QTableView(parent), model_(new GridModel(this)), heading_(new GridHeading(this)) {
   setObjectName(name);
+  setHorizontalHeader(heading_);
   setModel(model_);
   setItemDelegate(new GridDelegate(this, model_));
   setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -36,6 +39,7 @@ Grid::Grid(QWidget* parent, const QString& name, int columns) : QTableView(paren
   setShowGrid(false);
   setAlternatingRowColors(true);
   SetUpHeaders();
+  SetUpShortcuts();
   connect(model_, &GridModel::Edited, this, [this](int row, int col, const QString& old) {
     edit_ = Edit{row, col, old};
   });
@@ -46,7 +50,7 @@ void Grid::SetUpHeaders() {
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setMinimumSectionSize(1);
-  QHeaderView* heading = horizontalHeader();
+  QHeaderView* const heading = heading_;
   heading->setMinimumSectionSize(8);
   heading->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   heading->setHighlightSections(false);
@@ -57,13 +61,15 @@ void Grid::SetUpHeaders() {
   connect(heading, &QHeaderView::sectionResized, this, [this](int col, int, int width) {
     if (stretching_ || width == 0) return;
     columns_[At(col)].pixels = width;
+    columns_[At(col)].byHand = heading_->IsPressed();
     StretchLast();
   });
+  connect(heading_, &GridHeading::Released, this, &Grid::RememberWidths);
 }
 
 void Grid::SetHeights() {
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
-  horizontalHeader()->setFixedHeight(fontMetrics().height() + 10);
+  heading_->SetCaptionHeight(fontMetrics().height() + 10);
 }
 
 int Grid::HeightOf(int rows) const {
@@ -92,6 +98,9 @@ int Grid::Cols() const {
 void Grid::SetCols(int count) {
   if (count == static_cast<int>(columns_.size())) return;
   const QScopedValueRollback quiet(quiet_, true);
+  // What was looked for in the columns before says nothing in the new ones.
+  CloseFinder();
+  SetFilter({});
   model_->SetColumns(count);
   row_ = 0;
   ResetColumns();
@@ -125,6 +134,7 @@ void Grid::SetRow(int row) {
 void Grid::SetRowQuietly(int row) {
   EndLoad();
   row_ = model_->Holds(row, 0) ? row : 0;
+  if (RowHidden(row_)) return SetFilter({});
   ShowCurrent(true);
 }
 
@@ -204,61 +214,6 @@ int Grid::FindRow(const std::vector<std::pair<int, QString>>& cells, int from) c
   return 0;
 }
 
-void Grid::SetColWidth(int col, int twips) {
-  if (col < 0 || col >= Cols()) return;
-  Column& column = columns_[At(col)];
-  column.twips = twips;
-  column.pixels = qRound(twips * logicalDpiX() / double(TwipsAnInch));
-  FitHeading(col);
-}
-
-int Grid::ColWidth(int col) const {
-  return col >= 0 && col < Cols() ? columns_[At(col)].twips : 0;
-}
-
-// Widths come from another font than the one on screen; a heading that is cut off helps nobody.
-void Grid::FitHeading(int col) {
-  if (col < 0 || col >= Cols()) return;
-  Column& column = columns_[At(col)];
-  if (!model_->Heading(col).isEmpty())
-    column.pixels = std::max(column.pixels, horizontalHeader()->sectionSizeHint(col));
-  StretchLast();
-}
-
-void Grid::FitAllHeadings() {
-  for (int col = 0; col < Cols(); ++col) FitHeading(col);
-}
-
-void Grid::HideCol(int col, bool hidden) {
-  if (col < 0 || col >= Cols()) return;
-  {
-    // What a column shrinks to and comes back from is no width that somebody gave it.
-    const QScopedValueRollback stretching(stretching_, true);
-    setColumnHidden(col, hidden);
-  }
-  StretchLast();
-}
-
-bool Grid::ColHidden(int col) const {
-  return isColumnHidden(col);
-}
-
-void Grid::StretchLast() {
-  if (stretching_) return;
-  const QScopedValueRollback stretching(stretching_, true);
-  int last = -1, others = 0;
-  for (int col = 0; col < Cols(); ++col) {
-    if (isColumnHidden(col)) continue;
-    if (last >= 0) others += columns_[At(last)].pixels;
-    last = col;
-  }
-  for (int col = 0; col < Cols(); ++col) {
-    if (isColumnHidden(col)) continue;
-    const int room = col == last ? viewport()->width() - others : 0;
-    setColumnWidth(col, std::max(columns_[At(col)].pixels, room));
-  }
-}
-
 void Grid::AlignRight(int col) {
   model_->AlignRight(col);
 }
@@ -297,16 +252,46 @@ void Grid::ShowSorted() {
 
 void Grid::SetFilter(const QString& text) {
   EndLoad();
-  std::vector<int> columns;
-  for (int col = 1; col < Cols(); ++col)
-    if (!isColumnHidden(col)) columns.push_back(col);
-  const QScopedValueRollback quiet(quiet_, true);
-  model_->SetFilter(text, std::move(columns));
-  ShowCurrent(true);
+  {
+    const QScopedValueRollback quiet(quiet_, true);
+    model_->SetFilter(text, VisibleCols());
+    ShowCurrent(true);
+  }
+  filter_ = text;
+  Q_EMIT FilterChanged();
 }
 
 bool Grid::RowHidden(int row) const {
   return model_->Holds(row, 0) && !model_->IndexOf(row, 0).isValid();
+}
+
+int Grid::ShownRows() const {
+  return model_->rowCount();
+}
+
+std::vector<int> Grid::VisibleCols() const {
+  std::vector<int> columns;
+  for (int col = 1; col < Cols(); ++col)
+    if (!isColumnHidden(col)) columns.push_back(col);
+  return columns;
+}
+
+void Grid::OpenFinder(Seek seek) {
+  if (finder_ == nullptr) finder_ = new GridFinder(this, heading_);
+  finder_->Open(seek == Seek::Filter);
+}
+
+void Grid::CloseFinder() {
+  if (finder_ != nullptr) finder_->Close();
+}
+
+void Grid::FindNext(int step) {
+  if (finder_ == nullptr || !finder_->Seeks()) return OpenFinder(Seek::Find);
+  finder_->Next(step);
+}
+
+int Grid::FoundRow() const {
+  return finder_ == nullptr ? 0 : finder_->Found();
 }
 
 int Grid::FirstVisibleCol() const {

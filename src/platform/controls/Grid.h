@@ -5,6 +5,8 @@
 #include <span>
 #include <vector>
 
+class GridFinder;
+class GridHeading;
 class GridModel;
 
 // A grid of strings in the vocabulary the screens speak. Row 0 is the heading, data rows count from 1; column 0 is the
@@ -24,7 +26,8 @@ class Grid : public QTableView {
   void Clear();
 
   int Row() const { return row_; }
-  // Makes a row current; 0 is "no row". Emits SelChange when the row changes to another one or from another one.
+  // Makes a row current; 0 is "no row". Emits SelChange when the row changes to another one or from another one. A row
+  // that the filter hides lifts the filter: what a screen makes current is seen.
   void SetRow(int row);
   // As SetRow without any event.
   void SetRowQuietly(int row);
@@ -73,9 +76,23 @@ class Grid : public QTableView {
   // click on a heading sorts upwards, then downwards, numeric where the column holds nothing but numbers.
   void Sort(int col, Qt::SortOrder order, bool numeric = false);
 
-  // Hides rows that do not hold the text in any visible cell (letter case ignored); an empty text shows all.
+  // Hides rows that do not hold the text in any visible cell (letter case ignored); an empty text shows all. Hidden
+  // rows keep their numbers and are found like all others.
   void SetFilter(const QString& text);
+  const QString& Filter() const { return filter_; }
   bool RowHidden(int row) const;
+  int ShownRows() const;  // those that the filter leaves
+  // Columns on screen, from the left, without the marker.
+  std::vector<int> VisibleCols() const;
+
+  // The bar under the headings: find as you type, or the same text as a filter.
+  enum class Seek { Find, Filter };
+  void OpenFinder(Seek seek);
+  void CloseFinder();
+  // The next or the previous row of the text in the bar becomes current, the first one after the last one.
+  void FindNext(int step = 1);
+  // The row that typing in the bar has found and that is not current yet; 0 when there is none.
+  int FoundRow() const;
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
@@ -90,6 +107,7 @@ class Grid : public QTableView {
   void AfterSort(int col);
   // A cell was edited by hand and got another text, the editor being closed; `old` is what stood there.
   void AfterEdit(int row, int col, const QString& old);
+  void FilterChanged();
 
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
@@ -106,11 +124,13 @@ class Grid : public QTableView {
   void focusOutEvent(QFocusEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
   struct Column {
     int twips = 0;
-    int pixels = 0;  // without what the last column takes besides
+    int pixels = 0;       // without what the last column takes besides
+    bool byHand = false;  // a person has drawn it since the last release of the mouse
   };
   struct Edit {
     int row = 0, col = 0;
@@ -118,6 +138,8 @@ class Grid : public QTableView {
   };
 
   void SetUpHeaders();
+  void SetUpShortcuts();
+  Grid* GridInUse();
   void SetHeights();
   int HeightOf(int rows) const;
   void ResetColumns();
@@ -135,10 +157,16 @@ class Grid : public QTableView {
   void FitHeading(int col);
   void FitAllHeadings();
   void StretchLast();
+  QString WidthKey(int col) const;
+  void RecallWidth(int col);
+  void RememberWidths();
   int FirstVisibleCol() const;
   int NextEditable(int col, int step) const;
 
   GridModel* model_;
+  GridHeading* heading_;
+  GridFinder* finder_ = nullptr;  // made when it is first called for
+  QString filter_;
   std::vector<Column> columns_;
   int row_ = 0;
   bool quiet_ = false;  // what the view does now is no choice of the user

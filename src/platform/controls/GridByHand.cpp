@@ -9,10 +9,16 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QShortcut>
 
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
+#include "platform/controls/GridExport.h"
 #include "platform/controls/GridModel.h"
+
+namespace {
+constexpr QKeyCombination FilterKey = Qt::CTRL | Qt::SHIFT | Qt::Key_F;
+}
 
 // Always one whole row, never none: a press beside the rows and a release change nothing.
 QItemSelectionModel::SelectionFlags Grid::selectionCommand(const QModelIndex& index, const QEvent* event) const {
@@ -182,20 +188,63 @@ void Grid::HeadingClicked(int col) {
   Sort(col, downwards ? Qt::DescendingOrder : Qt::AscendingOrder, model_->IsNumeric(col));
 }
 
-// Sorting and copying for those who work without the mouse (the menu key opens it).
+// For those who work without the mouse (the menu key opens it), and for those who do not know the keys.
 void Grid::contextMenuEvent(QContextMenuEvent* event) {
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
   QAction* copy = menu->addAction(tr("&Copy row"), QKeySequence::Copy, this, &Grid::CopyRow);
   copy->setEnabled(row_ != 0);
   QMenu* sort = menu->addMenu(tr("&Sort by"));
-  for (int col = 1; col < Cols(); ++col) {
-    if (isColumnHidden(col) || model_->Heading(col).isEmpty()) continue;
+  for (const int col : VisibleCols()) {
+    if (model_->Heading(col).isEmpty()) continue;
     QString caption = model_->Heading(col);
     sort->addAction(caption.replace(u'&', QLatin1String("&&")), this, [this, col] { HeadingClicked(col); });
   }
   sort->setEnabled(!sort->isEmpty());
+  menu->addSeparator();
+  // The keys are only shown: those that act belong to the window.
+  const auto shown = [](const QString& caption, const QKeySequence& key) {
+    return caption + u'\t' + key.toString(QKeySequence::NativeText);
+  };
+  menu->addAction(shown(tr("&Find..."), QKeySequence::Find), this, [this] { OpenFinder(Seek::Find); });
+  menu->addAction(shown(tr("Fi&lter rows..."), FilterKey), this, [this] { OpenFinder(Seek::Filter); });
+  menu->addSeparator();
+  const bool any = ShownRows() > 0;
+  menu->addAction(tr("&Export to CSV..."), this, [this] { GridExport::AskAndSaveCsv(*this); })->setEnabled(any);
+  menu->addAction(tr("Save as P&DF..."), this, [this] { GridExport::AskAndSavePdf(*this); })->setEnabled(any);
+  menu->addAction(tr("&Print..."), this, [this] { GridExport::AskAndPrint(*this); })->setEnabled(any);
   menu->popup(event->globalPos());
+}
+
+// --- Keys that work wherever the focus is in the window ---
+
+namespace {
+// The grid that had the focus last, of whatever window: selecting a row often moves the focus on to a field.
+QPointer<Grid>& LastUsed() {
+  static QPointer<Grid> grid;
+  return grid;
+}
+}  // namespace
+
+// The grid with the focus, else the one used last, else this one; of those on screen in this window.
+Grid* Grid::GridInUse() {
+  for (QWidget* at = QApplication::focusWidget(); at != nullptr; at = at->parentWidget())
+    if (auto* const grid = qobject_cast<Grid*>(at)) return grid;
+  const QPointer<Grid>& last = LastUsed();
+  return !last.isNull() && last->isVisible() && last->window() == window() ? last.data() : this;
+}
+
+void Grid::SetUpShortcuts() {
+  const auto key = [this](const QKeySequence& keys, void (*act)(Grid&)) {
+    auto* const shortcut = new QShortcut(keys, this);
+    // Where several grids are on screen each of them has the key; any of them finds the one that is meant.
+    for (const auto signal : {&QShortcut::activated, &QShortcut::activatedAmbiguously})
+      connect(shortcut, signal, this, [this, act] { act(*GridInUse()); });
+  };
+  key(QKeySequence::Find, [](Grid& grid) { grid.OpenFinder(Seek::Find); });
+  key(FilterKey, [](Grid& grid) { grid.OpenFinder(Seek::Filter); });
+  key(Qt::Key_F3, [](Grid& grid) { grid.FindNext(1); });
+  key(Qt::SHIFT | Qt::Key_F3, [](Grid& grid) { grid.FindNext(-1); });
 }
 
 // The frame says where the focus is, since no single cell does.
@@ -208,6 +257,7 @@ void Grid::paintEvent(QPaintEvent* event) {
 }
 
 void Grid::focusInEvent(QFocusEvent* event) {
+  LastUsed() = this;
   ByHand([&] { QTableView::focusInEvent(event); });
   viewport()->update();
 }

@@ -28,6 +28,11 @@ void GridDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
   option->text = OneLineOnShow(option->text);
   // The whole row is the current thing; a frame around one of its cells would say otherwise.
   option->state &= ~QStyle::State_HasFocus;
+  // What typing has found and Enter will make current.
+  if (grid_->FoundRow() != 0 && model_->RowOf(index) == grid_->FoundRow()) {
+    option->font.setBold(true);
+    option->font.setUnderline(true);
+  }
 }
 
 void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {

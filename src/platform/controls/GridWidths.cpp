@@ -1,0 +1,105 @@
+// How wide the columns of a Grid are: as the screen says, never narrower than the heading, unless a person drew them
+// otherwise. What a person drew is kept in the user's settings by form, grid and heading.
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QSettings>
+#include <QUrl>
+
+#include "platform/controls/Grid.h"
+#include "platform/controls/GridModel.h"
+
+namespace {
+constexpr int TwipsAnInch = 1440;
+constexpr int NarrowestByHand = 16, WidestByHand = 4000;  // pixels
+
+std::size_t At(int index) {
+  return static_cast<std::size_t>(index);
+}
+}  // namespace
+
+void Grid::SetColWidth(int col, int twips) {
+  if (col < 0 || col >= Cols()) return;
+  Column& column = columns_[At(col)];
+  column.twips = twips;
+  column.pixels = qRound(twips * logicalDpiX() / double(TwipsAnInch));
+  FitHeading(col);
+}
+
+int Grid::ColWidth(int col) const {
+  return col >= 0 && col < Cols() ? columns_[At(col)].twips : 0;
+}
+
+// Widths come from another font than the one on screen; a heading that is cut off helps nobody.
+void Grid::FitHeading(int col) {
+  if (col < 0 || col >= Cols()) return;
+  Column& column = columns_[At(col)];
+  if (!model_->Heading(col).isEmpty())
+    column.pixels = std::max(column.pixels, horizontalHeader()->sectionSizeHint(col));
+  RecallWidth(col);
+  StretchLast();
+}
+
+void Grid::FitAllHeadings() {
+  for (int col = 0; col < Cols(); ++col) FitHeading(col);
+}
+
+void Grid::HideCol(int col, bool hidden) {
+  if (col < 0 || col >= Cols()) return;
+  {
+    // What a column shrinks to and comes back from is no width that somebody gave it.
+    const QScopedValueRollback stretching(stretching_, true);
+    setColumnHidden(col, hidden);
+  }
+  if (!filter_.isEmpty()) SetFilter(filter_);
+  StretchLast();
+}
+
+bool Grid::ColHidden(int col) const {
+  return isColumnHidden(col);
+}
+
+void Grid::StretchLast() {
+  if (stretching_) return;
+  const QScopedValueRollback stretching(stretching_, true);
+  int last = -1, others = 0;
+  for (int col = 0; col < Cols(); ++col) {
+    if (isColumnHidden(col)) continue;
+    if (last >= 0) others += columns_[At(last)].pixels;
+    last = col;
+  }
+  for (int col = 0; col < Cols(); ++col) {
+    if (isColumnHidden(col)) continue;
+    const int room = col == last ? viewport()->width() - others : 0;
+    setColumnWidth(col, std::max(columns_[At(col)].pixels, room));
+  }
+}
+
+// Empty where nothing can be kept: the marker, a column without a heading, a grid that stands in no window yet.
+QString Grid::WidthKey(int col) const {
+  const QString form = window()->objectName(), heading = model_->Heading(col);
+  if (col == 0 || form.isEmpty() || heading.isEmpty() || window() == this) return {};
+  // A heading may hold the mark that divides the parts of a key.
+  return QStringLiteral("Columns/%1/%2/").arg(form, objectName()) +
+         QString::fromLatin1(QUrl::toPercentEncoding(heading));
+}
+
+void Grid::RecallWidth(int col) {
+  const QString key = WidthKey(col);
+  if (key.isEmpty()) return;
+  const int width = QSettings().value(key).toInt();
+  if (width > 0) columns_[At(col)].pixels = std::clamp(width, NarrowestByHand, WidestByHand);
+}
+
+void Grid::RememberWidths() {
+  for (int col = 1; col < Cols(); ++col) {
+    if (!std::exchange(columns_[At(col)].byHand, false)) continue;
+    if (const QString key = WidthKey(col); !key.isEmpty()) QSettings().setValue(key, columns_[At(col)].pixels);
+  }
+}
+
+// Only now the grid is sure to stand in its window.
+void Grid::showEvent(QShowEvent* event) {
+  QTableView::showEvent(event);
+  for (int col = 1; col < Cols(); ++col) RecallWidth(col);
+  StretchLast();
+}

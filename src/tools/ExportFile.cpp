@@ -1,0 +1,61 @@
+#include "tools/ExportFile.h"
+
+#include <QDir>
+#include <QSaveFile>
+#include <cstdio>
+#include <stdexcept>
+
+#include "tools/ExportText.h"
+
+#ifdef Q_OS_WIN
+#include <fcntl.h>
+#include <io.h>
+#endif
+
+namespace {
+
+[[noreturn]] void Fail(const QString& path, const QString& what, const QString& reason) {
+  throw std::runtime_error(
+      QStringLiteral("The file \"%1\" %2 (%3)").arg(QDir::toNativeSeparators(path), what, reason).toStdString());
+}
+
+QByteArray ReadAll(const QString& path) {
+  QFile file(path);
+  const bool open = path == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+  if (!open) Fail(path, "cannot be read", file.errorString());
+  return file.readAll();
+}
+
+void Print(const QByteArray& text) {
+#ifdef Q_OS_WIN
+  _setmode(_fileno(stdout), _O_BINARY);
+#endif
+  QFile out;
+  const bool written = out.open(stdout, QIODevice::WriteOnly) && out.write(text) == text.size() && out.flush();
+  if (!written) Fail("-", "cannot be written", out.errorString());
+}
+
+}  // namespace
+
+std::vector<TableContent> ExportFile::Load(const QString& path) {
+  const QByteArray text = ReadAll(path);
+  try {
+    return ExportText::Parse(text);
+  } catch (const std::runtime_error& error) {
+    Fail(path, "cannot be used", QString::fromUtf8(error.what()));
+  }
+}
+
+void ExportFile::Save(const QString& path, const std::vector<TableContent>& tables, bool secret) {
+  const QByteArray text = ExportText::Write(tables);
+  if (path == u"-") {
+    Print(text);
+    return;
+  }
+  QSaveFile file(path);
+  bool written = file.open(QIODevice::WriteOnly);
+  // Before the text is in it.
+  if (written && secret) written = file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+  written = written && file.write(text) == text.size() && file.commit();
+  if (!written) Fail(path, "cannot be written", file.errorString());
+}

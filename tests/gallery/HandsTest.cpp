@@ -1,0 +1,191 @@
+// What hands and readers of the screen need of every dialog and every tab: keys, mnemonics, tab order, names.
+#include <QAbstractButton>
+#include <QAbstractSpinBox>
+#include <QAccessible>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QToolButton>
+#include <map>
+
+#include "core/Screen.h"
+#include "core/Screens.h"
+#include "platform/controls/DateBox.h"
+#include "support/Walk.h"
+
+namespace {
+
+class HandsTest : public Walk {};
+
+// Controls that a person sees now, in no order.
+template <class T>
+QList<T*> Seen(const QWidget& window) {
+  QList<T*> seen = window.findChildren<T*>();
+  seen.removeIf([](const QWidget* control) { return !control->isVisible(); });
+  return seen;
+}
+
+// Parts that the toolkit builds into its own controls.
+bool IsPartOfControl(const QWidget* control) {
+  for (const QWidget* at = control->parentWidget(); at != nullptr && !at->isWindow(); at = at->parentWidget())
+    if (qobject_cast<const QComboBox*>(at) || qobject_cast<const QAbstractSpinBox*>(at) ||
+        qobject_cast<const QAbstractScrollArea*>(at) || qobject_cast<const QTabBar*>(at))
+      return true;
+  return false;
+}
+
+bool TakesTab(const QWidget* control) {
+  return control->isEnabled() && control->isVisible() && (control->focusPolicy() & Qt::TabFocus) != 0;
+}
+
+std::string NameOf(const QWidget* control) {
+  return (control->objectName() + " (" + control->metaObject()->className() + ")").toStdString();
+}
+
+// --- Enter and Escape ---
+
+TEST_F(HandsTest, EnterPressesNoButtonThatNobodyChose) {
+  ThroughAll([](const QString&, QWidget& window) {
+    for (const QPushButton* button : window.findChildren<QPushButton*>()) {
+      EXPECT_FALSE(button->autoDefault()) << NameOf(button);
+      EXPECT_FALSE(button->isDefault()) << NameOf(button);
+    }
+  });
+}
+
+TEST_F(HandsTest, EscapeClosesEveryDialogWithNothingToLose) {
+  QString last;
+  ThroughDialogs([&](const QString& place, QWidget& window) {
+    if (std::exchange(last, window.objectName()) == last || last == "frmSplash") return;
+    QTest::keyClick(&window, Qt::Key_Escape);
+    EXPECT_FALSE(window.isVisible()) << place.toStdString();
+  });
+}
+
+// --- Mnemonics ---
+
+// Captions as the system knows them; a letter that stands twice moves the focus from one to the other.
+bool IsKnownClash(const QString& place, const QString& captions) {
+  static const std::vector<std::pair<QString, QString>> known = {};
+  return std::any_of(known.begin(), known.end(), [&](const auto& clash) {
+    return place.startsWith(clash.first) && captions == clash.second;
+  });
+}
+
+TEST_F(HandsTest, MnemonicsDoNotClashOnOneScreen) {
+  qsizetype mnemonics = 0;
+  ThroughAll([&](const QString& place, QWidget& window) {
+    std::map<QString, QStringList> byKey;
+    const auto take = [&byKey](const QString& caption) {
+      const QString key = QKeySequence::mnemonic(caption).toString();
+      if (!key.isEmpty()) byKey[key].append(caption);
+    };
+    for (const QAbstractButton* button : Seen<QAbstractButton>(window)) take(button->text());
+    for (const QLabel* label : Seen<QLabel>(window))
+      if (label->buddy() != nullptr) take(label->text());
+    for (const QGroupBox* frame : Seen<QGroupBox>(window)) take(frame->title());
+    for (const QTabBar* tabs : Seen<QTabBar>(window))
+      for (int tab = 0; tab < tabs->count(); ++tab) take(tabs->tabText(tab));
+    for (auto& [key, captions] : byKey) {
+      mnemonics += captions.size();
+      captions.sort();
+      const QString all = captions.join(" | ");
+      EXPECT_TRUE(captions.size() == 1 || IsKnownClash(place, all))
+          << place.toStdString() << "  " << key.toStdString() << ": " << all.toStdString();
+    }
+  });
+  EXPECT_GT(mnemonics, 200) << "most of the captions were not looked at";
+}
+
+// --- Tab order ---
+
+QRect In(const QWidget& window, const QWidget* control) {
+  return {control->mapTo(&window, QPoint(0, 0)), control->size()};
+}
+
+// The widget below the nearest common container of both in which `control` stands.
+const QWidget* Branch(const QWidget* control, const QWidget* other) {
+  while (control->parentWidget() != nullptr && !control->parentWidget()->isAncestorOf(other))
+    control = control->parentWidget();
+  return control;
+}
+
+// Whether reading goes on from `a` to `b`: to the right in one row, down, or up into a column further right.
+bool ReadsOn(const QWidget& window, const QWidget* a, const QWidget* b) {
+  const QRect from = In(window, Branch(a, b)), to = In(window, Branch(b, a));
+  constexpr int Tolerance = 8;  // pixels
+  if (to.left() >= from.right() - Tolerance) return true;
+  return to.top() >= from.bottom() - Tolerance || (to.top() > from.top() + Tolerance && to.left() >= from.left());
+}
+
+// What Tab goes through, from the control at the top on.
+QList<QWidget*> TabChain(QWidget& window) {
+  QList<QWidget*> chain;
+  for (QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain())
+    if (TakesTab(at) && at->window() == &window && at->focusProxy() == nullptr && !IsPartOfControl(at))
+      chain.append(at);
+  const auto first = std::min_element(chain.begin(), chain.end(), [&window](const QWidget* a, const QWidget* b) {
+    const QPoint left = In(window, a).topLeft(), right = In(window, b).topLeft();
+    return std::pair(left.y(), left.x()) < std::pair(right.y(), right.x());
+  });
+  std::rotate(chain.begin(), first, chain.end());
+  return chain;
+}
+
+TEST_F(HandsTest, TabReachesEveryFieldInReadingOrder) {
+  ThroughAll([](const QString& place, QWidget& window) {
+    const QList<QWidget*> chain = TabChain(window);
+    for (int at = 1; at < chain.size(); ++at)
+      EXPECT_TRUE(ReadsOn(window, chain[at - 1], chain[at]))
+          << place.toStdString() << ": after " << NameOf(chain[at - 1]) << " comes " << NameOf(chain[at]);
+    for (QWidget* control : Seen<QWidget>(window)) {
+      const auto* const box = qobject_cast<const QLineEdit*>(control);
+      const bool isField = (box != nullptr && !box->isReadOnly()) || qobject_cast<const QComboBox*>(control) ||
+                           qobject_cast<const QPlainTextEdit*>(control) ||
+                           qobject_cast<const QAbstractButton*>(control) || qobject_cast<const Grid*>(control);
+      const bool repeatsTheMenu = qobject_cast<const QToolButton*>(control) != nullptr;
+      if (!isField || repeatsTheMenu || IsPartOfControl(control) || !control->isEnabled()) continue;
+      EXPECT_TRUE(chain.contains(control)) << place.toStdString() << ": Tab does not reach " << NameOf(control);
+    }
+  });
+}
+
+// --- Accessibility ---
+
+QAccessible::Role ExpectedRole(const QWidget* control) {
+  if (qobject_cast<const QLineEdit*>(control) || qobject_cast<const QPlainTextEdit*>(control))
+    return QAccessible::EditableText;
+  if (qobject_cast<const QComboBox*>(control)) return QAccessible::ComboBox;
+  if (qobject_cast<const QRadioButton*>(control)) return QAccessible::RadioButton;
+  if (qobject_cast<const QCheckBox*>(control)) return QAccessible::CheckBox;
+  if (qobject_cast<const QPushButton*>(control)) return QAccessible::Button;
+  if (qobject_cast<const QTableView*>(control)) return QAccessible::Table;
+  if (qobject_cast<const QTabBar*>(control)) return QAccessible::PageTabList;
+  if (qobject_cast<const QAbstractSpinBox*>(control)) return QAccessible::SpinBox;
+  return QAccessible::NoRole;
+}
+
+TEST_F(HandsTest, ReadersOfTheScreenKnowEveryControl) {
+  ThroughAll([](const QString& place, QWidget& window) {
+    for (QWidget* control : Seen<QWidget>(window)) {
+      if (control->focusPolicy() == Qt::NoFocus || IsPartOfControl(control) || control->isWindow()) continue;
+      QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(control);
+      ASSERT_NE(reader, nullptr) << NameOf(control);
+      if (!qobject_cast<QTabBar*>(control) && !qobject_cast<QTabWidget*>(control)) {
+        EXPECT_FALSE(reader->text(QAccessible::Name).trimmed().isEmpty())
+            << place.toStdString() << ": no name for " << NameOf(control);
+      }
+      const QAccessible::Role role = ExpectedRole(control);
+      EXPECT_TRUE(role == QAccessible::NoRole || reader->role() == role)
+          << place.toStdString() << ": role " << reader->role() << " of " << NameOf(control);
+    }
+  });
+}
+
+}  // namespace

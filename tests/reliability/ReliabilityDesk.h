@@ -1,0 +1,68 @@
+#pragma once
+
+#include <functional>
+
+#include "reliability/Answers.h"
+#include "reliability/DatabaseContents.h"
+#include "support/Desk.h"
+
+// The desk of the reliability cases: the sample site, a user who agrees to everything, and a link to the server that
+// can be cut. What drives the screens is public, so that the table of writing screens can use it.
+class ReliabilityDesk : public SampleDesk {
+ public:
+  using Desk::Another;
+  using Desk::Append;
+  using Desk::Ask;
+  using Desk::Choose;
+  using Desk::ChooseAt;
+  using Desk::Click;
+  using Desk::Database;
+  using Desk::Find;
+  using Desk::Folder;
+  using Desk::LogLines;
+  using Desk::Logon;
+  using Desk::Open;
+  using Desk::Paste;
+  using Desk::ProcessEnded;
+  using Desk::Rows;
+  using Desk::SelectRow;
+  using Desk::SelectTab;
+  using Desk::Setting;
+  using Desk::Shell;
+  using Desk::Start;
+  using Desk::Statements;
+  using Desk::Text;
+  using Desk::Type;
+  using Desk::Window;
+
+  Answers& Said() { return *answers_; }
+  // The main screen with one of its tabs; started once a case.
+  void EnterTab(int tab);
+  // A dialog, logged on before; an open one stays as it is.
+  void OpenDialog(const QString& formName);
+  // A library in hand, as another application of the system gives it.
+  void OpenLibraryScreen(const QString& formName);
+  // Chooses the entry with that code.
+  void ChooseCode(const QString& combo, const QString& code);
+
+  // --- The link ---
+  // Ends the program's session from the server's side; takes SQLite's file away.
+  void CutLink();
+  // Brings SQLite's file back; a server is there all the time.
+  void RestoreLink();
+  // Runs after every statement of the program; none when empty.
+  void AfterEachStatement(std::function<void(const StatementRecord&)> watch);
+
+  static constexpr qint32 Auenfels = 10000000;  // a library of the sample site with rows in every table
+
+ protected:
+  void SetUp() override;
+  void TearDown() override;
+
+ private:
+  QString Taken() { return Database().Settings().name + ".taken"; }
+
+  std::unique_ptr<Answers> answers_;
+  std::function<void(const StatementRecord&)> watch_;
+  bool started_ = false, loggedOn_ = false, watching_ = false;
+};
