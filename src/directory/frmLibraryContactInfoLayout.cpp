@@ -58,6 +58,7 @@ void frmLibraryContactInfo::BuildControls() {
   for (TextBox* box : {txtContact, txtInstitution, txtLibraryName}) box->UpperCaseAsTyped();
   optSendCurrentSupplier->Select(SupplierDefault);
   optUseThisProfile->Select(ProfileNo);
+  EnableServerButtons(false);
   mnuOptionsConfigureAPI = Form::MenuEntry(mnuOptions, "mnuOptionsConfigureAPI", "Configure A&PI Server");
 
   auto* const content = new QWidget(this);
@@ -106,14 +107,15 @@ QWidget* frmLibraryContactInfo::ReplyPart() {
 
   auto* const ncip = Form::Frame(part, "fraNCIP", "NCIP");
   Form::Rows server(ncip);
-  server.Add("lblNCIPServerLibrary", "NCIP Server Library:", txtNCIPServerLibrary, cmdFindLibrary);
+  server.Add("lblNCIPServerLibrary", "NCIP Server Library:", txtNCIPServerLibrary);
   server.Add("lblUseThisProfile", "Use Server Profile:", optUseThisProfile->Row());
   auto* const buttons = new QGridLayout;
   buttons->setSpacing(8);
-  buttons->addWidget(cmdConfigureNCIPServer, 0, 0);
-  buttons->addWidget(cmdUnitLibraries, 0, 1);
-  buttons->addWidget(cmdStatusCodes, 1, 0);
-  buttons->addWidget(cmdUpdateProfile, 1, 1);
+  buttons->addWidget(cmdFindLibrary, 0, 0);
+  buttons->addWidget(cmdConfigureNCIPServer, 0, 1);
+  buttons->addWidget(cmdUnitLibraries, 1, 0);
+  buttons->addWidget(cmdStatusCodes, 1, 1);
+  buttons->addWidget(cmdUpdateProfile, 2, 0);
   server.Wide(buttons);
 
   QVBoxLayout* const column = Form::Column(part, {addresses, ncip});

@@ -172,6 +172,56 @@ TEST_F(LibraryContactTest, ReadingIsNoChangeAndClearEmptiesEverything) {
     EXPECT_FALSE(IsEnabled(button)) << button;
 }
 
+TEST_F(LibraryContactTest, WithoutALibraryInHandTheButtonsOfARecordAreOff) {
+  OpenScreen(0);
+  for (const char* button : {"cmdUpdate", "cmdUnitLibraries", "cmdConfigureNCIPServer", "cmdStatusCodes",
+                             "cmdUpdateProfile", "mnuOptionsConfigureAPI"})
+    EXPECT_FALSE(IsEnabled(button)) << button;
+  EXPECT_TRUE(IsChecked("optSendCurrentSupplierDefault"));
+  EXPECT_TRUE(Date("dtpNoticeStartDate")->IsNone());
+}
+
+TEST_F(LibraryContactTest, TabGoesThroughTheFieldsInReadingOrder) {
+  OpenScreen();
+  QApplication::setActiveWindow(Window());
+  QStringList stops;
+  Find<QWidget>("txtContact")->setFocus();
+  for (int stop = 0; stop < 30; ++stop) {
+    stops.append(Focus());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  }
+  EXPECT_EQ(stops, (QStringList{"txtContact",
+                                "txtPhone",
+                                "txtFax",
+                                "txtEmail",
+                                "txtAltPhone",
+                                "txtAltFax",
+                                "txtAltEmail",
+                                "txtNote",
+                                "txtNotice",
+                                "qt_datebox_check",
+                                "qt_datebox_check",
+                                "txtReplyAddressSMTP",
+                                "txtReplyAddressTCP",
+                                "txtReplyAddressGSM",
+                                "optSendCurrentSupplierYes",
+                                "txtNCIPServerLibrary",
+                                "optUseThisProfileYes",
+                                "cmdFindLibrary",
+                                "cmdStatusCodes",
+                                "cmdUpdateProfile",
+                                "txtConnectionID",
+                                "cmdConfigISO18626Connection",
+                                "grdISO18626AgencyIdReceive",
+                                "cmdAddISO18626AgencyIdReceive",
+                                "cmdDeleteISO18626AgencyIdReceive",
+                                "grdISO18626AgencyIdSend",
+                                "cmdAddISO18626AgencyIdSend",
+                                "cmdDeleteISO18626AgencyIdSend",
+                                "cmdRegistration",
+                                "cmdLogin"}));
+}
+
 TEST_F(LibraryContactTest, EveryFieldCountsAsAChange) {
   SetColumn(North, "NOTICE_SDATE", "'2024-02-01'");
   const std::vector<std::function<void()>> edits = {
