@@ -45,7 +45,8 @@ void AgencyIdList::BuildControls() {
   row->addWidget(cmdSave_);
   row->addWidget(cmdCancel_);
   QVBoxLayout* const column = Form::Column(this, {grid_});
-  column->addLayout(Form::ButtonRow({cmdAdd_, cmdDelete_, nullptr, fraNew_}));
+  column->addLayout(Form::ButtonRow({cmdAdd_, cmdDelete_, nullptr}));
+  column->addWidget(fraNew_, 0, Qt::AlignLeft);
   ShowNewRow(false);
 }
 
@@ -153,7 +154,8 @@ void AgencyIdList::Cancel_Click() {
 
 void AgencyIdList::AfterEdit(int row, int col, const QString& old) {
   Procedure(window()->objectName() + "." + facts_.grid + "_AfterEdit", this).OnFailure(Failed).Run([&] {
-    const QString hidden = grid_->Text(row, grid_->Cols() - 1);
+    QStringList before;
+    for (int cell = 0; cell < grid_->Cols(); ++cell) before.append(cell == col ? old : grid_->Text(row, cell));
     CellEdited(row, col);
     // The buttons of a new row test for themselves, or drop the row.
     const bool isNew = grid_->RowData(row) == New;
@@ -162,8 +164,7 @@ void AgencyIdList::AfterEdit(int row, int col, const QString& old) {
       if (rule.col != col) continue;
       const QString refusal = rule.refusal(row);
       if (refusal.isEmpty()) continue;
-      grid_->SetText(row, grid_->Cols() - 1, hidden);
-      grid_->SetText(row, col, old);
+      for (int cell = 0; cell < grid_->Cols(); ++cell) grid_->SetText(row, cell, before[cell]);
       return Refuse(refusal, row, col);
     }
     if (!isNew) Q_EMIT Changed();

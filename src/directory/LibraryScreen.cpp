@@ -95,10 +95,11 @@ void LibraryScreen::ApplyCaller() {
 void LibraryScreen::ReadAtLoad() {
   EnableRecord(false);
   mbRecordDisplayed = false;
-  if (gclsOF->LibraryId() >= 1)
-    Read(gclsOF->LibraryId());
-  else
-    LoadedEmpty();
+  {
+    const FillingFields filling;
+    ShowNoRecord();
+  }
+  if (gclsOF->LibraryId() >= 1) Read(gclsOF->LibraryId());
 }
 
 void LibraryScreen::ApplyRights() {

@@ -28,6 +28,7 @@ class LibraryScreen : public Screen {
   void Form_Activate() override;
 
  protected:
+  void changeEvent(QEvent* event) override;
   // --- What a screen tells of itself ---
   // Columns it reads besides active letter, symbol, institution, library and contact, each with a leading ", ".
   virtual QString Columns() const = 0;
@@ -42,8 +43,8 @@ class LibraryScreen : public Screen {
   virtual void ReadFurtherText(const CustomText&) {}
   // Settings that the rest of the load stands on.
   virtual void LoadSettings() {}
-  // The screen was loaded with no library in hand.
-  virtual void LoadedEmpty() {}
+  // How the screen looks when it is loaded with no library in hand; a record that is read comes over it.
+  virtual void ShowNoRecord() {}
   // Hides what the user's rights do not allow.
   virtual void ApplyRights();
   // Buttons and entries that work on the record on show.

@@ -1,4 +1,5 @@
 // Controls of a library screen: the menu that mirrors the buttons, symbol row, banner, buttons.
+#include <QApplication>
 #include <QCheckBox>
 #include <QKeyEvent>
 #include <QLineEdit>

@@ -49,8 +49,7 @@ void frmLibraryBillingInfo::PopulateComboBoxes() {
   for (DefaultCode* code : Defaults()) code->Choose(this);
 }
 
-void frmLibraryBillingInfo::LoadedEmpty() {
-  const FillingFields filling;
+void frmLibraryBillingInfo::ShowNoRecord() {
   txtQTotal->SetText(defaultQuotaTotal_);
   ShowButton(cmdSequenceSupplier, false);
 }

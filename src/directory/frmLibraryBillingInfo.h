@@ -21,7 +21,7 @@ class frmLibraryBillingInfo : public LibraryScreen {
   std::span<const TextKey> TextKeys() const override;
   void ReadFurtherText(const CustomText& texts) override;
   void LoadSettings() override;
-  void LoadedEmpty() override;
+  void ShowNoRecord() override;
   void EnableRecord(bool enabled) override;
 
  private:

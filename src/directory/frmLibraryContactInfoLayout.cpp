@@ -109,6 +109,7 @@ QWidget* frmLibraryContactInfo::ReplyPart() {
   server.Add("lblNCIPServerLibrary", "NCIP Server Library:", txtNCIPServerLibrary, cmdFindLibrary);
   server.Add("lblUseThisProfile", "Use Server Profile:", optUseThisProfile->Row());
   auto* const buttons = new QGridLayout;
+  buttons->setSpacing(8);
   buttons->addWidget(cmdConfigureNCIPServer, 0, 0);
   buttons->addWidget(cmdUnitLibraries, 0, 1);
   buttons->addWidget(cmdStatusCodes, 1, 0);

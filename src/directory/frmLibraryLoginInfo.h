@@ -19,7 +19,7 @@ class frmLibraryLoginInfo : public LibraryScreen {
   void cmdUpdate_Click() override;
   void PopulateComboBoxes() override;
   std::span<const TextKey> TextKeys() const override;
-  void LoadedEmpty() override { SetActive(true, false); }
+  void ShowNoRecord() override { SetActive(true, false); }
   void DropEdits() override;
   bool RecordIsActive() const override { return optActive->IsSet(Yes); }
 

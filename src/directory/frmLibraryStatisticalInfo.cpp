@@ -63,8 +63,7 @@ void frmLibraryStatisticalInfo::PopulateComboBoxes() {
   defaultLoanCode_.Choose(this);
 }
 
-void frmLibraryStatisticalInfo::LoadedEmpty() {
-  const FillingFields filling;
+void frmLibraryStatisticalInfo::ShowNoRecord() {
   SelectIFM(No);
   optRapidAllowLocal->Select(No);
   txtMaximumCost->SetText(defaultMaxCost_);

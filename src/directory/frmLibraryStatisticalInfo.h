@@ -21,7 +21,7 @@ class frmLibraryStatisticalInfo : public LibraryScreen {
   void PopulateComboBoxes() override;
   std::span<const TextKey> TextKeys() const override;
   void ReadFurtherText(const CustomText& texts) override;
-  void LoadedEmpty() override;
+  void ShowNoRecord() override;
 
  private:
   enum Option { Yes, No };

@@ -241,6 +241,18 @@ TEST_F(LibraryBillingTest, ALibraryWithoutASupplierHasNoSequenceButton) {
   EXPECT_FALSE(IsShown("cmdSequenceSupplier"));
 }
 
+// Half a record must not be saved over the whole one.
+TEST_F(LibraryBillingTest, ARecordThatIsReadByHalfIsSwitchedOff) {
+  OpenScreen(South);
+  Another("ALTER TABLE ID_SUPPLIER RENAME COLUMN SUPPLIER_CODE TO MOVED");
+  Type("txtLibrarySymbol", "NORTH");
+  Prompt().Expect("An error has occurred.  Please Notify Support.", MessageStyle::Stop);
+  Click("cmdSearch");
+  EXPECT_FALSE(IsEnabled("cmdUpdate"));
+  EXPECT_FALSE(IsEnabled("cmdArticle"));
+  EXPECT_TRUE(LogHolds("***** SQL error on ID_SUPPLIER (Select) *****"));
+}
+
 TEST_F(LibraryBillingTest, AnnotationsNeedALibrary) {
   OpenScreen(0);
   EXPECT_FALSE(IsEnabled("mnuOptionsAnnotation"));

@@ -186,6 +186,14 @@ TEST_P(LibraryScreenTest, AFailedReadIsToldAndLeavesTheScreen) {
   EXPECT_TRUE(LogHolds(Form() + "." + FactsOf(GetParam().self).readProcedure));
 }
 
+TEST_P(LibraryScreenTest, AClosedConnectionIsReopenedByTheNextSearch) {
+  OpenLibrary(Form(), North);
+  gclsOF->Connection().Close();
+  Type("txtLibrarySymbol", "SOUTH");
+  Click("cmdSearch");
+  EXPECT_EQ(Text("txtInstitution"), "SOUTH INSTITUTE");
+}
+
 // --- Typing a symbol ---
 
 TEST_P(LibraryScreenTest, ATypedSymbolSwitchesTheRecordOffUntilItIsSearched) {

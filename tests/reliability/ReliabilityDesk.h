@@ -18,12 +18,16 @@ class ReliabilityDesk : public SampleDesk {
   using Desk::Click;
   using Desk::Database;
   using Desk::Find;
+  using Desk::Folder;
   using Desk::LogLines;
   using Desk::Logon;
   using Desk::Open;
   using Desk::Paste;
+  using Desk::ProcessEnded;
+  using Desk::Rows;
   using Desk::SelectRow;
   using Desk::SelectTab;
+  using Desk::Setting;
   using Desk::Shell;
   using Desk::Start;
   using Desk::Statements;

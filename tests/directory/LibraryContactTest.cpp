@@ -1,0 +1,611 @@
+// The contact screen: people, notice, reply addresses, NCIP link, ISO 18626 connection.
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QTest>
+
+#include "core/Clock.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
+#include "core/Screen.h"
+#include "core/Screens.h"
+#include "directory/LibraryDesk.h"
+#include "platform/controls/DateBox.h"
+#include "platform/controls/TextBox.h"
+
+namespace {
+
+const QDateTime Noon(QDate(2024, 3, 5), QTime(12, 30, 15));
+const QString Caption = "Ostana - Contact Information";
+
+class LibraryContactTest : public LibraryDesk {
+ protected:
+  void SetUp() override {
+    LibraryDesk::SetUp();
+    Clock::Set([] { return Noon; });
+  }
+  void OpenScreen(qint32 id = North) { OpenLibrary("frmLibraryContactInfo", id); }
+  DateBox* Date(const QString& name) { return Find<DateBox>(name); }
+  // By hand: the check before the date.
+  void TickDate(const QString& name) { Date(name)->findChild<QAbstractButton*>("qt_datebox_check")->click(); }
+  // Leaves a date by Tab, as a hand does.
+  void Leave(const QString& name) {
+    auto* const check = Date(name)->findChild<QWidget*>("qt_datebox_check");
+    QApplication::setActiveWindow(check->window());
+    check->setFocus();
+    QTest::keyClick(check, Qt::Key_Backtab);
+    QCoreApplication::processEvents();
+  }
+  bool HasFocus(const QString& date) { return Date(date)->isAncestorOf(QApplication::focusWidget()); }
+  void Saves() {
+    Prompt().ExpectTitled("Library Symbol: (NORTH) has been updated.", MessageStyle::Information, Caption);
+    Click("cmdUpdate");
+  }
+  void Refused(const QString& text, const QString& box) {
+    Prompt().ExpectTitled(text, MessageStyle::Stop, Caption);
+    Click("cmdUpdate");
+    EXPECT_EQ(Focus(), box);
+    EXPECT_EQ(Find<TextBox>(box)->selectedText(), Text(box)) << "text selected";
+    EXPECT_TRUE(Writing().isEmpty());
+  }
+  void AddServer(qint32 library) {
+    Another(
+        "INSERT INTO ID_NCIP_CONNECT (LIBRARY_ID, NCIP_ILS_SYSTEM, NCIP_CONNECT_TYPE, NCIP_HOST_ADDRESS, "
+        "NCIP_HOST_PORT) VALUES (" +
+        QString::number(library) + ", 'KOHA', 'HTTP', 'h', 1)");
+  }
+  void AddConnection(const QString& id) {
+    Another(
+        "INSERT INTO ID_ISO18626_CONNECT (ISO18626_CONNECTION_ID, ILL_SYSTEM, ISO18626_CONNECT_TYPE, "
+        "ISO18626_HOST_ADDRESS, ISO18626_HOST_PORT, ISO18626_VERSION, ISO18626_AUTHN_TYPE, RT_RETRY, "
+        "RST_TRANSFER_REQUEST, TRANSFER_PATRON_INFO, TRANSFER_PATRON_EMAIL, TRANSFER_PATRON_ADDRESS, "
+        "ACTION_CANCEL, ACTION_RENEW, ACTION_NOTIFICATION, RFM_REQUEST_RESPONSE, RFM_NOTIFICATION) VALUES ('" +
+        id + "', 'RESHARE', 'HTTPS', 'h', 443, '1.2', 'BASIC', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N')");
+  }
+};
+
+// --- Reading ---
+
+TEST_F(LibraryContactTest, ReadsTheRecordInTheseStatements) {
+  SetColumn(North, "NCIP_SERVER_LIBRARY_ID", "102");
+  Begin(North);
+  Open("frmLibraryContactInfo");
+  EXPECT_EQ(
+      Statements(),
+      (QStringList{"SELECT   LIBRARY_ACTIVE, LIBRARY_SYMBOL, INSTITUTION_NAME, LIBRARY, CONTACT, CONTACT_EMAIL, "
+                   "CONTACT_EMAIL2, CONTACT_PHONE, CONTACT_PHONE2, CONTACT_FAX, CONTACT_FAX2, NOTE, NOTICE, "
+                   "NOTICE_SDATE, NOTICE_EDATE, REPLY_ADDRESS_ISO_SMTP, REPLY_ADDRESS_ISO_TCP, REPLY_ADDRESS_GSM, "
+                   "ADD_CURRENT_SUPPLIER, NCIP_SERVER_LIBRARY_ID, NCIP_USE_SERVER_PROFILE, ISO18626_CONNECTION_ID FROM "
+                   "ID_LIBRARY WHERE    LIBRARY_ID = 101",
+                   "SELECT   LIBRARY_SYMBOL FROM ID_LIBRARY WHERE    LIBRARY_ID = 102",
+                   "SELECT DISTINCT ISO18626_AGENCY_ID FROM ID_ISO18626_AGENCY_ID_RECEIVE WHERE    LIBRARY_ID = 101",
+                   "SELECT DISTINCT ILL_SYSTEM, ILL_SYSTEM_DESC FROM ID_ILL_SYSTEM",
+                   "SELECT DISTINCT A.EXTERNAL_ILL_SYSTEM, SY.ILL_SYSTEM_DESC, A.ISO18626_AGENCY_ID FROM "
+                   "ID_ISO18626_AGENCY_ID_SEND A INNER JOIN ID_ILL_SYSTEM SY ON A.EXTERNAL_ILL_SYSTEM = SY.ILL_SYSTEM "
+                   "WHERE    A.LIBRARY_ID = 101"}));
+  EXPECT_EQ(Text("txtNCIPServerLibrary"), "SOUTH");
+  EXPECT_EQ(glngFoundLibraryId, South);
+}
+
+TEST_F(LibraryContactTest, EveryColumnHasItsField) {
+  AddConnection("C1");
+  const std::pair<const char*, const char*> fields[] = {{"CONTACT", "txtContact"},
+                                                        {"CONTACT_EMAIL", "txtEmail"},
+                                                        {"CONTACT_EMAIL2", "txtAltEmail"},
+                                                        {"CONTACT_PHONE", "txtPhone"},
+                                                        {"CONTACT_PHONE2", "txtAltPhone"},
+                                                        {"CONTACT_FAX", "txtFax"},
+                                                        {"CONTACT_FAX2", "txtAltFax"},
+                                                        {"NOTE", "txtNote"},
+                                                        {"NOTICE", "txtNotice"},
+                                                        {"REPLY_ADDRESS_ISO_SMTP", "txtReplyAddressSMTP"},
+                                                        {"REPLY_ADDRESS_ISO_TCP", "txtReplyAddressTCP"},
+                                                        {"REPLY_ADDRESS_GSM", "txtReplyAddressGSM"}};
+  for (const auto& [column, box] : fields) SetColumn(North, column, "'" + QString(column) + "'");
+  SetColumn(North, "ISO18626_CONNECTION_ID", "'C1'");
+  SetColumn(North, "NOTICE_SDATE", "'2024-02-01'");
+  SetColumn(North, "NOTICE_EDATE", "'2024-02-29'");
+  OpenScreen();
+  for (const auto& [column, box] : fields) EXPECT_EQ(Text(box), column);
+  EXPECT_EQ(Text("txtConnectionID"), "C1");
+  EXPECT_EQ(Date("dtpNoticeStartDate")->Date(), QDate(2024, 2, 1));
+  EXPECT_EQ(Date("dtpNoticeEndDate")->Date(), QDate(2024, 2, 29));
+  for (const auto& [box, limit] : std::map<QString, int>{{"txtContact", 50},
+                                                         {"txtPhone", 25},
+                                                         {"txtAltPhone", 25},
+                                                         {"txtFax", 25},
+                                                         {"txtAltFax", 25},
+                                                         {"txtEmail", 80},
+                                                         {"txtAltEmail", 80},
+                                                         {"txtNote", 100},
+                                                         {"txtNotice", 100},
+                                                         {"txtReplyAddressSMTP", 80},
+                                                         {"txtReplyAddressTCP", 80},
+                                                         {"txtReplyAddressGSM", 80},
+                                                         {"txtNCIPServerLibrary", 25},
+                                                         {"txtConnectionID", 50}})
+    EXPECT_EQ(Find<TextBox>(box)->maxLength(), limit) << box.toStdString();
+}
+
+TEST_F(LibraryContactTest, TheContactIsTypedInCapitalsAndTheNamesAreReadOnly) {
+  OpenScreen();
+  Type("txtContact", "ann o'reed");
+  EXPECT_EQ(Text("txtContact"), "ANN O'REED");
+  EXPECT_TRUE(Find<TextBox>("txtInstitution")->isReadOnly());
+  EXPECT_TRUE(Find<TextBox>("txtLibraryName")->isReadOnly());
+}
+
+TEST_F(LibraryContactTest, TheThreeStatesOfTheCurrentSupplierAndTheTwoOfTheProfile) {
+  const std::pair<const char*, const char*> suppliers[] = {{"'Y'", "optSendCurrentSupplierYes"},
+                                                           {"'N'", "optSendCurrentSupplierNo"},
+                                                           {"NULL", "optSendCurrentSupplierDefault"},
+                                                           {"'X'", "optSendCurrentSupplierDefault"}};
+  for (const auto& [value, option] : suppliers) {
+    SetColumn(North, "ADD_CURRENT_SUPPLIER", value);
+    OpenScreen();
+    EXPECT_TRUE(IsChecked(option)) << value;
+    Click("cmdClose");
+  }
+  for (const auto& [value, option] : std::map<QString, QString>{
+           {"'Y'", "optUseThisProfileYes"}, {"'N'", "optUseThisProfileNo"}, {"NULL", "optUseThisProfileNo"}}) {
+    SetColumn(North, "NCIP_USE_SERVER_PROFILE", value);
+    OpenScreen();
+    EXPECT_TRUE(IsChecked(option)) << value.toStdString();
+    Click("cmdClose");
+  }
+}
+
+TEST_F(LibraryContactTest, ReadingIsNoChangeAndClearEmptiesEverything) {
+  SetColumn(North, "NOTICE_SDATE", "'2024-02-01'");
+  SetColumn(North, "CONTACT_PHONE", "'123'");
+  SetColumn(North, "NCIP_SERVER_LIBRARY_ID", "101");
+  Another("INSERT INTO ID_ISO18626_AGENCY_ID_RECEIVE (ISO18626_AGENCY_ID, LIBRARY_ID) VALUES ('A', 101)");
+  OpenScreen();
+  EXPECT_TRUE(IsEnabled("cmdUnitLibraries"));
+  Click("cmdClear");  // no question: nothing was changed
+  EXPECT_EQ(Text("txtPhone"), "");
+  EXPECT_EQ(Text("txtNCIPServerLibrary"), "");
+  EXPECT_TRUE(Date("dtpNoticeStartDate")->IsNone());
+  EXPECT_EQ(Rows("grdISO18626AgencyIdReceive"), 1);
+  for (const char* button : {"cmdUpdate", "cmdUnitLibraries", "cmdConfigureNCIPServer", "cmdStatusCodes",
+                             "cmdUpdateProfile", "mnuOptionsConfigureAPI"})
+    EXPECT_FALSE(IsEnabled(button)) << button;
+}
+
+TEST_F(LibraryContactTest, EveryFieldCountsAsAChange) {
+  SetColumn(North, "NOTICE_SDATE", "'2024-02-01'");
+  const std::vector<std::function<void()>> edits = {
+      [this] { Append("txtContact", "X"); },
+      [this] { Append("txtAltEmail", "X"); },
+      [this] { Append("txtNote", "X"); },
+      [this] { Append("txtReplyAddressGSM", "X"); },
+      [this] { Append("txtNCIPServerLibrary", "X"); },
+      [this] { Append("txtConnectionID", "X"); },
+      [this] { Click("optSendCurrentSupplierNo"); },
+      [this] { Click("optUseThisProfileNo"); },
+      [this] { TickDate("dtpNoticeStartDate"); },
+  };
+  for (const auto& edit : edits) {
+    OpenScreen();
+    edit();
+    Prompt().ExpectTitled(GuardText(Registered), MessageStyle::Question, Caption, MessageAnswer::No);
+    Click("cmdClear");
+  }
+}
+
+// --- Update ---
+
+TEST_F(LibraryContactTest, UpdateWritesTheColumnsInThisOrder) {
+  AddConnection("C1");
+  OpenScreen();
+  Type("txtContact", " ann o'reed ");
+  Type("txtPhone", "1");
+  Type("txtFax", "2");
+  Type("txtEmail", "e1");
+  Type("txtAltPhone", "3");
+  Type("txtAltFax", "4");
+  Type("txtAltEmail", "e2");
+  Type("txtNote", "n");
+  Type("txtNotice", "closed");
+  Date("dtpNoticeStartDate")->SetDate(QDate(2024, 4, 1));
+  Date("dtpNoticeEndDate")->SetDate(QDate(2024, 4, 2));
+  Type("txtReplyAddressSMTP", " ill@example.org ");
+  Type("txtReplyAddressTCP", "ill.example.org:1611");
+  Type("txtReplyAddressGSM", "gsm@example.org");
+  Click("optSendCurrentSupplierNo");
+  Type("txtNCIPServerLibrary", " SOUTH ");
+  Click("optUseThisProfileYes");
+  Type("txtConnectionID", "C1");
+  Statements();
+  Saves();
+  const QString when = gclsOF->SqlDate(Noon);
+  const QString start = gclsOF->SqlDate(QDate(2024, 4, 1)), end = gclsOF->SqlDate(QDate(2024, 4, 2));
+  EXPECT_EQ(
+      Statements(),
+      (QStringList{
+          "SELECT LIBRARY_SYMBOL, LIBRARY_ID FROM  ID_LIBRARY WHERE LIBRARY_SYMBOL = 'SOUTH'",
+          "SELECT ISO18626_CONNECTION_ID FROM ID_ISO18626_CONNECT WHERE ISO18626_CONNECTION_ID = N'C1'",
+          "UPDATE ID_LIBRARY SET      LAST_MODIFIED = " + when +
+              ", CONTACT = N'ANN O''REED', CONTACT_EMAIL = N'e1', CONTACT_PHONE2 = N'3', CONTACT_FAX2 = N'4', "
+              "CONTACT_EMAIL2 = N'e2', NOTE = N'n', NOTICE = N'closed', CONTACT_FAX = N'2', CONTACT_PHONE = N'1', "
+              "NOTICE_SDATE = " +
+              start + ", NOTICE_EDATE = " + end +
+              ", REPLY_ADDRESS_ISO_SMTP = N'ill@example.org', REPLY_ADDRESS_ISO_TCP = N'ill.example.org:1611', "
+              "REPLY_ADDRESS_GSM = N'gsm@example.org', ADD_CURRENT_SUPPLIER = N'N', NCIP_SERVER_LIBRARY_ID = 102, "
+              "NCIP_USE_SERVER_PROFILE = N'Y', ISO18626_CONNECTION_ID = N'C1' WHERE    LIBRARY_ID = 101",
+          "DELETE FROM ID_ISO18626_AGENCY_ID_RECEIVE WHERE LIBRARY_ID= 101",
+          "DELETE FROM ID_ISO18626_AGENCY_ID_SEND WHERE LIBRARY_ID= 101"}));
+  EXPECT_EQ(Column("CONTACT"), "ANN O'REED");
+  EXPECT_EQ(Column("NOTICE_EDATE").left(10), "2024-04-02");
+  Prompt().Expect("Nothing has been changed.\n", MessageStyle::Stop);
+  Click("cmdUpdate");
+}
+
+TEST_F(LibraryContactTest, EmptyFieldsAreStoredAsNull) {
+  SetColumn(North, "NOTICE_SDATE", "'2024-02-01'");
+  SetColumn(North, "NCIP_SERVER_LIBRARY_ID", "102");
+  SetColumn(North, "ADD_CURRENT_SUPPLIER", "'Y'");
+  OpenScreen();
+  Type("txtContact", " ");
+  Type("txtNCIPServerLibrary", " ");
+  Click("optSendCurrentSupplierDefault");
+  Date("dtpNoticeStartDate")->SetNone();
+  Saves();
+  EXPECT_TRUE(Writing().value(0).endsWith(
+      ", CONTACT = Null, CONTACT_EMAIL = Null, CONTACT_PHONE2 = Null, CONTACT_FAX2 = Null, CONTACT_EMAIL2 = Null, NOTE "
+      "= Null, NOTICE = Null, CONTACT_FAX = Null, CONTACT_PHONE = Null, NOTICE_SDATE = Null, NOTICE_EDATE = Null, "
+      "REPLY_ADDRESS_ISO_SMTP = Null, REPLY_ADDRESS_ISO_TCP = Null, REPLY_ADDRESS_GSM = Null, ADD_CURRENT_SUPPLIER = "
+      "NULL, NCIP_SERVER_LIBRARY_ID = NULL, NCIP_USE_SERVER_PROFILE = N'N', ISO18626_CONNECTION_ID = Null WHERE    "
+      "LIBRARY_ID = 101"));
+  EXPECT_EQ(glngFoundLibraryId, -1);
+}
+
+TEST_F(LibraryContactTest, UpdateNeedsAChangeAndARecord) {
+  OpenScreen();
+  Prompt().ExpectTitled("Nothing has been changed.\n", MessageStyle::Stop, Caption);
+  Click("cmdUpdate");
+}
+
+TEST_F(LibraryContactTest, TheServerLibraryMustBeKnownByItsExactSymbol) {
+  OpenScreen();
+  for (const char* symbol : {"NOWHERE", "south", "SOU%"}) {
+    Type("txtNCIPServerLibrary", symbol);
+    Statements();
+    Refused("Please enter a valid NCIP library symbol.", "txtNCIPServerLibrary");
+  }
+}
+
+TEST_F(LibraryContactTest, ReplyAddressesAreTestedInTheirOrder) {
+  const QString tcp =
+      "The ISO Reply TCP/IP Address must be in the form 'IP Address:Port'  where port is the port supported by the "
+      "supplier.";
+  OpenScreen();
+  Type("txtReplyAddressSMTP", "nobody");
+  Type("txtReplyAddressTCP", "ill.example.org");
+  Type("txtReplyAddressGSM", "gsm");
+  Type("txtConnectionID", "NONE");
+  Refused("Invalid ISO Reply E-Mail address", "txtReplyAddressSMTP");
+  Type("txtReplyAddressSMTP", "ill@example.org");
+  Refused(tcp, "txtReplyAddressTCP");
+  Type("txtReplyAddressTCP", "ill.example.org:1611");
+  Refused("Invalid reply domain name or address", "txtReplyAddressGSM");
+  Type("txtReplyAddressGSM", "gsm@");
+  Refused("Invalid reply E-Mail address", "txtReplyAddressGSM");
+  Type("txtReplyAddressGSM", "gsm.example.org:2");
+  Refused("The ISO 18626 Connection Id entered does not exist. Please enter a valid Connection Id.", "txtConnectionID");
+  AddConnection("NONE");
+  Saves();
+}
+
+struct Host {
+  const char* text;
+  bool passes;
+};
+
+class LibraryContactHostTest : public LibraryContactTest, public testing::WithParamInterface<Host> {};
+
+TEST_P(LibraryContactHostTest, AHostNeedsItsPort) {
+  OpenScreen();
+  Type("txtReplyAddressTCP", GetParam().text);
+  if (GetParam().passes) return Saves();
+  Prompt().ExpectStart("The ISO Reply TCP/IP Address must be", MessageStyle::Stop);
+  Click("cmdUpdate");
+  Type("txtReplyAddressTCP", "");
+  Type("txtReplyAddressGSM", GetParam().text);
+  Prompt().Expect("Invalid reply domain name or address", MessageStyle::Stop);
+  Click("cmdUpdate");
+}
+
+INSTANTIATE_TEST_SUITE_P(Hosts, LibraryContactHostTest,
+                         testing::Values(Host{"192.0.2.1:1611", true}, Host{"192.0.2.1:0", true},
+                                         Host{"192.0.2.1:65535", true}, Host{"  ill.example.org:1611  ", true},
+                                         Host{"bücher.example:80", true}, Host{"日本.example:80", true},
+                                         Host{"[2001:db8::1]:1611", true}, Host{"192.0.2.1", false},
+                                         Host{"192.0.2.1:65536", false}, Host{"192.0.2.1:", false},
+                                         Host{":1611", false}, Host{"192.0.2:1611", false},
+                                         Host{"ill.example.org:80a", false}, Host{"ill.example.org: 80", false},
+                                         Host{"2001:db8::1", false}, Host{"[2001:db8::1]", false},
+                                         Host{"2001:db8::1:1611", false}, Host{"a:1:2", false}));
+
+// --- Three transactions ---
+
+TEST_F(LibraryContactTest, AFailureInTheThirdTransactionLeavesTheFirstTwoInForce) {
+  Another("INSERT INTO ID_ISO18626_AGENCY_ID_RECEIVE (ISO18626_AGENCY_ID, LIBRARY_ID) VALUES ('IN', 101)");
+  Another(
+      "INSERT INTO ID_ISO18626_AGENCY_ID_SEND (LIBRARY_ID, EXTERNAL_ILL_SYSTEM, ISO18626_AGENCY_ID) VALUES (101, "
+      "'RESHARE', 'OUT')");
+  OpenScreen();
+  Type("txtPhone", "555");
+  SelectRow("grdISO18626AgencyIdReceive", 1);
+  Click("cmdDeleteISO18626AgencyIdReceive");
+  // Another client takes the system away that the list of ids refers to.
+  Another("DELETE FROM ID_ISO18626_AGENCY_ID_SEND");
+  Another("DELETE FROM ID_ILL_SYSTEM WHERE ILL_SYSTEM = 'RESHARE'");
+  Prompt().ExpectTitled("An error has occurred.  Please Notify Support.", MessageStyle::Stop, Caption);
+  Click("cmdUpdate");
+  EXPECT_EQ(Column("CONTACT_PHONE"), "555");
+  EXPECT_EQ(Count("ID_ISO18626_AGENCY_ID_RECEIVE"), 0);
+  EXPECT_TRUE(LogHolds("* frmLibraryContactInfo.cmdUpdate_Click"));
+  EXPECT_TRUE(LogHolds("* ***** SQL error on ID_ISO18626_AGENCY_ID_SEND (Delete) *****"));
+  EXPECT_TRUE(LogHolds("* INSERT INTO ID_ISO18626_AGENCY_ID_SEND "));
+  EXPECT_FALSE(gclsOF->Connection().InTransaction());
+  // The user may try again.
+  Prompt().Expect("An error has occurred.  Please Notify Support.", MessageStyle::Stop);
+  Click("cmdUpdate");
+}
+
+TEST_F(LibraryContactTest, ARefusedRecordIsLoggedUnderItsOwnLine) {
+  AddConnection("C1");
+  OpenScreen();
+  Type("txtConnectionID", "C1");
+  // Gone between the test and the write.
+  gclsOF->Connection().AddObserver([this](const StatementRecord& record) {
+    if (record.text.startsWith("SELECT ISO18626_CONNECTION_ID")) Another("DELETE FROM ID_ISO18626_CONNECT");
+  });
+  Prompt().Expect("An error has occurred.  Please Notify Support.", MessageStyle::Stop);
+  Click("cmdUpdate");
+  EXPECT_TRUE(LogHolds("* ***** SQL error on ID_library (Update) *****"));
+  EXPECT_TRUE(LogHolds("* UPDATE ID_LIBRARY SET "));
+}
+
+// --- Notice ---
+
+TEST_F(LibraryContactTest, AnEndDateEqualToTheStartDateIsRefused) {
+  OpenScreen();
+  Date("dtpNoticeStartDate")->SetDate(QDate(2024, 4, 1));
+  for (const QDate& end : {QDate(2024, 4, 1), QDate(2024, 3, 31)}) {
+    Date("dtpNoticeEndDate")->SetDate(end);
+    Prompt().ExpectTitled("End Date must after Start Date.", MessageStyle::Stop, Caption);
+    Leave("dtpNoticeEndDate");
+    EXPECT_TRUE(HasFocus("dtpNoticeEndDate"));
+  }
+  Date("dtpNoticeEndDate")->SetDate(QDate(2024, 4, 2));
+  Leave("dtpNoticeEndDate");
+  EXPECT_FALSE(HasFocus("dtpNoticeEndDate"));
+}
+
+TEST_F(LibraryContactTest, AnEndDateWithoutAStartDateGivesWayToToday) {
+  OpenScreen();
+  EXPECT_TRUE(Date("dtpNoticeStartDate")->IsNone());
+  TickDate("dtpNoticeEndDate");
+  EXPECT_EQ(Date("dtpNoticeEndDate")->Date(), Noon.date()) << "the present date stood behind the check";
+  Prompt().ExpectTitled("Please select a Start Date first.", MessageStyle::Stop, Caption);
+  Leave("dtpNoticeEndDate");
+  EXPECT_TRUE(Date("dtpNoticeEndDate")->IsNone());
+  EXPECT_EQ(Date("dtpNoticeStartDate")->Date(), Noon.date());
+  EXPECT_TRUE(HasFocus("dtpNoticeStartDate"));
+  Saves();
+  EXPECT_EQ(Column("NOTICE_SDATE").left(10), "2024-03-05");
+}
+
+TEST_F(LibraryContactTest, AStartDateIsNotTakenFromUnderAnEndDate) {
+  SetColumn(North, "NOTICE_SDATE", "'2024-02-01'");
+  SetColumn(North, "NOTICE_EDATE", "'2024-02-29'");
+  OpenScreen();
+  TickDate("dtpNoticeStartDate");
+  Prompt().ExpectTitled("Cannot have an End Date without a Start Date.", MessageStyle::Stop, Caption);
+  Leave("dtpNoticeStartDate");
+  EXPECT_TRUE(HasFocus("dtpNoticeStartDate"));
+  TickDate("dtpNoticeStartDate");
+  EXPECT_EQ(Date("dtpNoticeStartDate")->Date(), QDate(2024, 2, 1));
+  Leave("dtpNoticeStartDate");
+  EXPECT_FALSE(HasFocus("dtpNoticeStartDate"));
+}
+
+// --- NCIP ---
+
+TEST_F(LibraryContactTest, TheOwnSymbolEnablesTheServerButtonsAndAnyOtherDisablesThem) {
+  OpenScreen();
+  const auto expect = [this](const QString& text, bool enabled) {
+    Type("txtNCIPServerLibrary", text);
+    EXPECT_EQ(IsEnabled("cmdUnitLibraries"), enabled) << text.toStdString();
+    EXPECT_EQ(IsEnabled("cmdConfigureNCIPServer"), enabled) << text.toStdString();
+  };
+  expect(" NORTH ", true);
+  expect("NORTH2", false);
+  expect("SOUTH", false);
+  expect("north", false);
+  expect("NORTH", true);
+  expect("", false);
+  EXPECT_TRUE(IsEnabled("cmdStatusCodes"));
+  EXPECT_TRUE(IsEnabled("cmdUpdateProfile"));
+}
+
+TEST_F(LibraryContactTest, TheServerButtonsAreComputedAnewAfterEachRead) {
+  SetColumn(North, "NCIP_SERVER_LIBRARY_ID", "101");
+  SetColumn(South, "NCIP_SERVER_LIBRARY_ID", "101");
+  OpenScreen();
+  EXPECT_TRUE(IsEnabled("cmdUnitLibraries"));
+  Type("txtLibrarySymbol", "SOUTH");
+  Click("cmdSearch");
+  EXPECT_EQ(Text("txtNCIPServerLibrary"), "NORTH") << "the same text for another library";
+  EXPECT_FALSE(IsEnabled("cmdUnitLibraries"));
+  Type("txtLibrarySymbol", "NORTH");
+  Click("cmdSearch");
+  EXPECT_TRUE(IsEnabled("cmdUnitLibraries"));
+}
+
+TEST_F(LibraryContactTest, TheDialogsWorkOnTwoLibrariesOnPurpose) {
+  OpenScreen(South);
+  Type("txtNCIPServerLibrary", "SOUTH");
+  Statements();
+  const std::pair<const char*, const char*> doors[] = {{"cmdConfigureNCIPServer", "frmNCIPServerConnection"},
+                                                       {"cmdUnitLibraries", "frmNCIPUnitLibraryMapping"},
+                                                       {"cmdStatusCodes", "frmNCIPStatusCodes"},
+                                                       {"cmdUpdateProfile", "frmNCIPProfile"}};
+  for (const auto& [button, form] : doors) {
+    gbSettingsChanged = true;
+    glngNCIPLibraryId = 0;
+    WhenShown(form, [](Screen&) {
+      EXPECT_EQ(glngNCIPLibraryId, South);
+      EXPECT_EQ(glngFoundLibraryId, South);
+      EXPECT_FALSE(gbSettingsChanged);
+    });
+    Click(button);
+    EXPECT_EQ(Statements().value(0),
+              "SELECT LIBRARY_SYMBOL, LIBRARY_ID FROM  ID_LIBRARY WHERE LIBRARY_SYMBOL = 'SOUTH'");
+  }
+}
+
+TEST_F(LibraryContactTest, AContactWhoseSymbolIsAnotherLibrary) {
+  AddServer(North);
+  Another("INSERT INTO ID_NCIP_STATUS (LIBRARY_ID, NCIP_STATUS, NCIP_ALLOW_ILL) VALUES (101, 'OF NORTH', 'Y')");
+  Another("INSERT INTO ID_NCIP_STATUS (LIBRARY_ID, NCIP_STATUS, NCIP_ALLOW_ILL) VALUES (102, 'OF SOUTH', 'Y')");
+  Another("INSERT INTO ID_NCIP_LIBRARY (LIBRARY_ID, NCIP_LIBRARY, UNIT_LIBRARY_ID) VALUES (101, 'UNIT OF NORTH', 102)");
+  // South uses the server of North, whose own server is configured.
+  SetColumn(North, "NCIP_SERVER_LIBRARY_ID", "101");
+  OpenScreen(South);
+  WhenShown("frmLibraryRegistration", [this](Screen&) {
+    Type("txtLibrarySymbol", "NORTH");
+    Click("cmdSearch");
+    Click("cmdClose");
+  });
+  Click("cmdFindLibrary");
+  EXPECT_EQ(Text("txtNCIPServerLibrary"), "NORTH");
+  EXPECT_EQ(gclsOF->LibraryId(), South);
+  EXPECT_TRUE(IsEnabled("cmdConfigureNCIPServer")) << "switched on after the text was set";
+  WhenShown("frmNCIPServerConnection", [this](Screen&) { EXPECT_EQ(Text("txtServerAddress"), "h"); });
+  Click("cmdConfigureNCIPServer");
+  WhenShown("frmNCIPUnitLibraryMapping",
+            [this](Screen&) { EXPECT_EQ(Cell("grdLibraryMapping", 1, 1), "UNIT OF NORTH"); });
+  Click("cmdUnitLibraries");
+  WhenShown("frmNCIPStatusCodes", [this](Screen&) { EXPECT_EQ(Cell("grdNCIPStatusCodes", 1, 1), "OF SOUTH"); });
+  Click("cmdStatusCodes");
+  WhenShown("frmAPIServerConnection", [this](Screen&) { Click("cmdCancel"); });
+  Trigger("mnuOptionsConfigureAPI");
+}
+
+TEST_F(LibraryContactTest, AnUnknownSymbolOpensNoDialog) {
+  OpenScreen();
+  for (const char* symbol : {"", "NOWHERE", "north"}) {
+    Type("txtNCIPServerLibrary", symbol);
+    for (const char* button : {"cmdStatusCodes", "cmdUpdateProfile"}) {
+      Prompt().ExpectTitled("Please enter a valid library symbol.", MessageStyle::Stop, Caption);
+      Click(button);
+      EXPECT_EQ(glngFoundLibraryId, -1);
+    }
+  }
+}
+
+TEST_F(LibraryContactTest, FindLibraryReadsTheServerOfTheLibraryChosen) {
+  SetColumn(South, "NCIP_SERVER_LIBRARY_ID", "101");
+  OpenScreen();
+  const auto find = [this](const QString& symbol) {
+    WhenShown("frmLibraryRegistration", [this, symbol](Screen&) {
+      if (!symbol.isEmpty()) {
+        Type("txtLibrarySymbol", symbol);
+        Click("cmdSearch");
+      }
+      Click("cmdClose");
+    });
+    Statements();
+    Click("cmdFindLibrary");
+  };
+  find("SOUTH");
+  EXPECT_EQ(Text("txtNCIPServerLibrary"), "SOUTH");
+  EXPECT_FALSE(IsEnabled("cmdUnitLibraries"));
+  const QStringList statements = Statements();
+  EXPECT_TRUE(statements.contains("SELECT   NCIP_SERVER_LIBRARY_ID FROM ID_LIBRARY WHERE    LIBRARY_ID = 102"));
+  EXPECT_TRUE(statements.contains("SELECT   * FROM ID_NCIP_CONNECT WHERE    LIBRARY_ID = 101"));
+  AddServer(North);
+  find("SOUTH");
+  EXPECT_TRUE(IsEnabled("cmdUnitLibraries"));
+  find("");
+  EXPECT_EQ(Text("txtNCIPServerLibrary"), "") << "no library was chosen";
+  EXPECT_FALSE(IsEnabled("cmdUnitLibraries"));
+}
+
+TEST_F(LibraryContactTest, FindLibraryWithoutTheRightChangesNothing) {
+  SetColumn(North, "NCIP_SERVER_LIBRARY_ID", "102");
+  OpenScreen();
+  Another("DELETE FROM ID_USER_FUNCTION WHERE FUNCTION_NAME = 'Library Registration'");
+  Prompt().ExpectTitled("You do not have access to this function", MessageStyle::Stop, Caption);
+  Click("cmdFindLibrary");
+  EXPECT_EQ(Text("txtNCIPServerLibrary"), "SOUTH");
+}
+
+// --- ISO 18626 ---
+
+TEST_F(LibraryContactTest, ThePickerTakesTheIdAndGivesOneBack) {
+  AddConnection("C1");
+  AddConnection("C2");
+  SetColumn(North, "ISO18626_CONNECTION_ID", "'C1'");
+  OpenScreen();
+  gbISO18626SelectionMode = false;
+  WhenShown("frmISO18626Connect", [this](Screen&) {
+    EXPECT_TRUE(IsShown("cmdSelect"));
+    EXPECT_EQ(Text("txtConnectionID"), "C1");
+    SelectRowOf("grdISO18626Connections", "C2");
+    Click("cmdSelect");
+  });
+  Click("cmdConfigISO18626Connection");
+  EXPECT_EQ(Text("txtConnectionID"), "C2");
+  Saves();
+  EXPECT_EQ(Column("ISO18626_CONNECTION_ID"), "C2");
+}
+
+TEST_F(LibraryContactTest, AnIdThatIsDeletedWhileThePickerIsOpenComesBackEmpty) {
+  AddConnection("C1");
+  SetColumn(North, "ISO18626_CONNECTION_ID", "'C1'");
+  OpenScreen();
+  Prompt().ExpectStart("The Connection Id: 'C1' is associated to one or more", 52, MessageAnswer::Yes);
+  Prompt().Expect("ISO 18626 Connection Id: 'C1' successfully deleted", MessageStyle::Information);
+  WhenShown("frmISO18626Connect", [this](Screen&) {
+    Click("cmdDelete");
+    Click("cmdClose");
+  });
+  Click("cmdConfigISO18626Connection");
+  EXPECT_EQ(Text("txtConnectionID"), "");
+  Saves();
+}
+
+// --- Looks ---
+
+TEST_F(LibraryContactTest, ItFitsOntoASmallScreen) {
+  AddConnection("RESHARE-MAIN");
+  SetColumn(North, "CONTACT_PHONE", "'+44 20 7946 0123'");
+  SetColumn(North, "CONTACT_EMAIL", "'interlibrary.loans@library.north-college.example.org'");
+  SetColumn(North, "NOTICE", "'Closed for stocktaking'");
+  SetColumn(North, "NOTICE_SDATE", "'2024-02-01'");
+  SetColumn(North, "NOTICE_EDATE", "'2024-02-29'");
+  SetColumn(North, "NCIP_SERVER_LIBRARY_ID", "101");
+  SetColumn(North, "ISO18626_CONNECTION_ID", "'RESHARE-MAIN'");
+  for (const char* id : {"GB-NORTH", "GB-NORTH-LAW"})
+    Another(QString("INSERT INTO ID_ISO18626_AGENCY_ID_RECEIVE (ISO18626_AGENCY_ID, LIBRARY_ID) VALUES ('%1', 101)")
+                .arg(id));
+  Another(
+      "INSERT INTO ID_ISO18626_AGENCY_ID_SEND (LIBRARY_ID, EXTERNAL_ILL_SYSTEM, ISO18626_AGENCY_ID) VALUES (101, "
+      "'RESHARE', 'GB-NORTH')");
+  OpenScreen();
+  EXPECT_LE(Window()->width(), 1280);
+  EXPECT_LE(Window()->height(), 760);
+  Picture("frmLibraryContactInfo-record");
+  Click("cmdAddISO18626AgencyIdReceive");
+  Click("cmdAddISO18626AgencyIdSend");
+  QCoreApplication::processEvents();
+  EXPECT_LE(Window()->width(), 1280);
+  EXPECT_LE(Window()->height(), 760);
+  Picture("frmLibraryContactInfo-new-rows");
+}
+
+}  // namespace
