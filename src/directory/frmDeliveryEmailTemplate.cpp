@@ -37,7 +37,7 @@ void frmDeliveryEmailTemplate::BuildControls() {
   head->layout()->setContentsMargins(0, 0, 0, 0);
   Form::Rows rows(fraTemplate);
   rows.Add("lblSkipHeaderAndFooter", "Skip Header and Footer:", rdSkipHeaderAndFooter->Row());
-  rows.Add("lblSubject", "&Subject:", txtSubject);
+  rows.Add("lblSubject", "Sub&ject:", txtSubject);
   rows.Add("lblRequestInfo", "&Request Info:", txtRequestInfo);
   rows.Add("lblBody", "&Body:", txtBody);
   QVBoxLayout* const column = Form::Column(this, {head});

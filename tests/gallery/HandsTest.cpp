@@ -40,10 +40,6 @@ bool IsPartOfControl(const QWidget* control) {
   return false;
 }
 
-bool TakesTab(const QWidget* control) {
-  return control->isEnabled() && control->isVisible() && (control->focusPolicy() & Qt::TabFocus) != 0;
-}
-
 std::string NameOf(const QWidget* control) {
   return (control->objectName() + " (" + control->metaObject()->className() + ")").toStdString();
 }
@@ -124,12 +120,27 @@ bool ReadsOn(const QWidget& window, const QWidget* a, const QWidget* b) {
   return to.top() >= from.bottom() - Tolerance || (to.top() > from.top() + Tolerance && to.left() >= from.left());
 }
 
-// What Tab goes through, from the control at the top on.
+// Where the Tab key goes next, as the toolkit decides it; done by hand, since a real key stroke would let fields refuse
+// to be left.
+QWidget* NextByTab(QWidget& window, QWidget* from) {
+  const auto deepest = [](QWidget* control) {
+    while (control->focusProxy() != nullptr) control = control->focusProxy();
+    return control;
+  };
+  for (QWidget* at = from->nextInFocusChain(); at != from; at = at->nextInFocusChain()) {
+    QWidget* const target = deepest(at);
+    const bool isPart = target != at && target->isAncestorOf(at);
+    if (!isPart && at != &window && at->isVisible() && at->isEnabled() && (target->focusPolicy() & Qt::TabFocus) != 0)
+      return target;
+  }
+  return nullptr;
+}
+
+// What Tab goes through until it comes back, from the control at the top on.
 QList<QWidget*> TabChain(QWidget& window) {
   QList<QWidget*> chain;
-  for (QWidget* at = window.nextInFocusChain(); at != &window; at = at->nextInFocusChain())
-    if (TakesTab(at) && at->window() == &window && at->focusProxy() == nullptr && !IsPartOfControl(at))
-      chain.append(at);
+  for (QWidget* at = NextByTab(window, &window); at != nullptr && !chain.contains(at); at = NextByTab(window, at))
+    chain.append(at);
   const auto first = std::min_element(chain.begin(), chain.end(), [&window](const QWidget* a, const QWidget* b) {
     const QPoint left = In(window, a).topLeft(), right = In(window, b).topLeft();
     return std::pair(left.y(), left.x()) < std::pair(right.y(), right.x());

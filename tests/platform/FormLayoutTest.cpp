@@ -8,7 +8,10 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QSignalSpy>
+#include <QTabBar>
+#include <QTabWidget>
 
 #include "platform/Window.h"
 #include "platform/controls/CodeComboBox.h"
@@ -208,6 +211,40 @@ TEST(FormTest, GapInAButtonRowTakesTheRoom) {
   window.Show();
   EXPECT_LT(add->x(), 30);
   EXPECT_GT(close->geometry().right(), 570);
+}
+
+// Made in another order than they stand in; Tab goes as a person reads.
+TEST(FormTest, TabFollowsReadingThroughTabsFramesDatesAndHiddenFields) {
+  Window window;
+  auto* close = new QPushButton("Close", &window);
+  auto* tabs = new QTabWidget(&window);
+  tabs->setObjectName("tabs");
+  auto* page = new QWidget(&window);
+  auto* second = new TextBox(page, "second");
+  auto* date = new DateBox(page, "date");
+  auto* hidden = new TextBox(page, "hidden");
+  auto* first = new TextBox(page, "first");
+  Form::Rows rows(page);
+  rows.Add("", "First:", first);
+  rows.Beside("", "Hidden:", hidden);
+  rows.Add("", "Date:", date);
+  rows.Add("", "Second:", second);
+  tabs->addTab(page, "Page");
+  window.Add(tabs);
+  window.Add(close);
+  hidden->hide();
+  Form::ReadingOrder(&window);
+  window.Show();
+  first->setFocus();
+  QStringList order;
+  for (int press = 0; press < 8; ++press) {
+    QWidget* const focus = QApplication::focusWidget();
+    order.append(focus == close ? "close" : focus == tabs->tabBar() ? "tabs" : focus->objectName());
+    if (press == 0) hidden->show();
+    QTest::keyClick(focus, Qt::Key_Tab);
+  }
+  EXPECT_EQ(order, (QStringList{"first", "hidden", "qt_datebox_check", "second", "close", "tabs", "first", "hidden"}));
+  EXPECT_EQ(QApplication::focusWidget()->window(), &window);
 }
 
 }  // namespace

@@ -70,6 +70,7 @@ DateBox::DateBox(QWidget* parent, const QString& name)
   edit_->setEnabled(false);
   SetFormat(QStringLiteral("yyyy-mm-dd"));
   setFocusProxy(check_);
+  setFocusPolicy(Qt::StrongFocus);  // without one the tab order would leave it where it was made
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

@@ -60,7 +60,7 @@ class FieldLabel : public QLabel {
 
 void LendName(QWidget* field, const QString& caption) {
   if (field->accessibleName().isEmpty()) field->setAccessibleName(caption);
-  if (field->focusPolicy() != Qt::NoFocus) return;
+  if (field->focusPolicy() != Qt::NoFocus && field->focusProxy() == nullptr) return;
   for (QWidget* part : Parts(field)) {
     const auto* button = qobject_cast<QAbstractButton*>(part);
     const bool speaksForItself = button != nullptr && !button->text().isEmpty();

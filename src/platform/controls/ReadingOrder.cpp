@@ -12,18 +12,25 @@
 
 namespace {
 
+// Where Tab enters a control and what it leaves last. A control that lends its focus to a part of itself is entered at
+// the control: the toolkit would find it elsewhere in the ring and begin there again.
+struct Stop {
+  QWidget* entry;
+  QWidget* exit;
+};
+
 class Reader {
  public:
   void Read(QWidget* widget) {
     if (auto* const tabs = qobject_cast<QTabWidget*>(widget)) {
-      // Not the tab control itself, which lends its focus to the bar: the toolkit loses part of the ring over it.
-      Take(tabs->tabBar());
+      stops_.push_back({tabs, tabs->tabBar()});
       for (int page = 0; page < tabs->count(); ++page) Read(tabs->widget(page));
       return;
     }
     if (auto* const area = qobject_cast<QScrollArea*>(widget); area != nullptr && area->widget() != nullptr)
       return Read(area->widget());
-    Take(widget);
+    if (widget->focusProxy() != nullptr) return stops_.push_back({widget, widget});
+    if (!widget->isWindow() && (widget->focusPolicy() & Qt::TabFocus) != 0) stops_.push_back({widget, widget});
     const bool whole = qobject_cast<QComboBox*>(widget) != nullptr ||
                        qobject_cast<QAbstractSpinBox*>(widget) != nullptr ||
                        qobject_cast<QAbstractScrollArea*>(widget) != nullptr;
@@ -33,13 +40,9 @@ class Reader {
       Read(widget->layout());
   }
 
-  const std::vector<QWidget*>& Order() const { return order_; }
+  const std::vector<Stop>& Stops() const { return stops_; }
 
  private:
-  void Take(QWidget* widget) {
-    if (!widget->isWindow() && (widget->focusPolicy() & Qt::TabFocus) != 0) order_.push_back(widget);
-  }
-
   void Read(QLayout* layout) {
     std::vector<std::pair<std::pair<int, int>, QLayoutItem*>> items;  // row and column first
     for (int at = 0; at < layout->count(); ++at) {
@@ -55,7 +58,7 @@ class Reader {
     }
   }
 
-  std::vector<QWidget*> order_;
+  std::vector<Stop> stops_;
 };
 
 }  // namespace
@@ -65,8 +68,8 @@ namespace Form {
 void ReadingOrder(QWidget* form) {
   Reader reader;
   reader.Read(form);
-  const std::vector<QWidget*>& order = reader.Order();
-  for (std::size_t at = 1; at < order.size(); ++at) QWidget::setTabOrder(order[at - 1], order[at]);
+  const std::vector<Stop>& stops = reader.Stops();
+  for (std::size_t at = 1; at < stops.size(); ++at) QWidget::setTabOrder(stops[at - 1].exit, stops[at].entry);
 }
 
 }  // namespace Form

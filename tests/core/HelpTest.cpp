@@ -1,0 +1,100 @@
+// F1 and the guide.
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTabWidget>
+#include <QTest>
+#include <QUrl>
+
+#include "core/Help.h"
+#include "core/Screen.h"
+#include "core/Screens.h"
+#include "support/Desk.h"
+
+namespace {
+
+class HelpTest : public Desk {
+ protected:
+  void SetUp() override {
+    Desk::SetUp();
+    QDir(Folder()).mkdir("guide");
+    qputenv("OSTANA_GUIDE", Guide().toLocal8Bit());
+    Help::SetOpener([this](const QUrl& url) {
+      opened_.append(url.fileName());
+      return opens_;
+    });
+  }
+  void TearDown() override {
+    Help::SetOpener(nullptr);
+    qunsetenv("OSTANA_GUIDE");
+    Desk::TearDown();
+  }
+  QString Guide() const { return QDir(Folder()).filePath("guide"); }
+  void Page(const QString& name) {
+    QFile file(QDir(Guide()).filePath(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  }
+
+  void F1() {
+    QApplication::setActiveWindow(Window());
+    QTest::keyClick(Window(), Qt::Key_F1);
+  }
+
+  QStringList opened_;
+  bool opens_ = true;
+};
+
+TEST_F(HelpTest, F1OpensThePageOfTheDialog) {
+  Page("frmAboutApp.html");
+  Logon();
+  Open("frmAboutApp");
+  F1();
+  EXPECT_EQ(opened_, QStringList{"frmAboutApp.html"});
+}
+
+TEST_F(HelpTest, HtmlGoesBeforeMarkdownAndMarkdownBeforeNothing) {
+  Page("frmLoans.md");
+  EXPECT_TRUE(Help::PageFile("frmLoans").endsWith("/guide/frmLoans.md"));
+  Page("frmLoans.html");
+  EXPECT_TRUE(Help::PageFile("frmLoans").endsWith("/guide/frmLoans.html"));
+  EXPECT_EQ(Help::PageFile("frmOther"), QString());
+}
+
+TEST_F(HelpTest, EachTabOfTheMainScreenHasItsPage) {
+  for (const char* page : {"frmTabulon-code-tables.md", "frmTabulon-delivery-messaging.md"}) Page(page);
+  Start();
+  F1();
+  SelectTab("sstabtables", frmTabulon::DeliveryTab);
+  F1();
+  EXPECT_EQ(opened_, (QStringList{"frmTabulon-code-tables.md", "frmTabulon-delivery-messaging.md"}));
+}
+
+TEST_F(HelpTest, F1InAFieldIsTheWindowsF1) {
+  Page("frmTabulon-code-tables.md");
+  Start();
+  Press("cmb0Tables", Qt::Key_F1);
+  EXPECT_EQ(opened_.size(), 1);
+}
+
+TEST_F(HelpTest, AMissingPageIsSaidPlainly) {
+  Start();
+  Prompt().ExpectTitled("The guide has no page frmTabulon-code-tables on this machine.", 48,
+                        "Ostana - System Maintenance");
+  F1();
+  EXPECT_TRUE(opened_.isEmpty());
+}
+
+TEST_F(HelpTest, ADesktopThatOpensNothingIsSaidPlainly) {
+  Page("frmTabulon-code-tables.md");
+  opens_ = false;
+  Start();
+  Prompt().ExpectStart("No program on this machine opens the page of the guide:\n", 48);
+  F1();
+}
+
+TEST_F(HelpTest, PageNamesOfTabs) {
+  EXPECT_EQ(Help::TabPageName("frmTabulon", "Delivery/Messaging"), "frmTabulon-delivery-messaging");
+  EXPECT_EQ(Help::TabPageName("frmTabulon", "&Auto Rejects"), "frmTabulon-auto-rejects");
+}
+
+}  // namespace
