@@ -40,11 +40,12 @@ void frmNCIPStatusCodes::BuildControls() {
   resize(640, 480);
 }
 
-// The whole text, wherever it was changed; the caret stays where it is.
+// The whole text, wherever it was changed; the caret stays behind the letter it was behind, which may have become two.
 void frmNCIPStatusCodes::txtNCIPStatusCode_Change() {
   const QString upper = txtNCIPStatusCode->Text().toUpper();
   if (upper == txtNCIPStatusCode->Text()) return;
-  const int caret = txtNCIPStatusCode->cursorPosition();
+  const QString before = txtNCIPStatusCode->Text().left(txtNCIPStatusCode->cursorPosition());
+  const int caret = static_cast<int>(before.toUpper().size());
   txtNCIPStatusCode->SetText(upper);
   txtNCIPStatusCode->setCursorPosition(caret);
 }

@@ -106,6 +106,13 @@ TEST_F(DatesAndLocalesTest, CodesAreTheSameInTurkish) {
   std::setlocale(LC_ALL, kept.c_str());
 }
 
+// "ﬁ" is one letter, its capitals are two: what is typed next stands behind both.
+TEST_F(DatesAndLocalesTest, ALigatureInCapitalsKeepsTheOrderOfWhatIsTyped) {
+  OpenLibraryScreen("frmNCIPStatusCodes");
+  Type("txtNCIPStatusCode", "ﬁx");
+  EXPECT_EQ(Text("txtNCIPStatusCode"), "FIX");
+}
+
 TEST_F(DatesAndLocalesTest, AWholeEditStoresTheSameUnderEveryLocale) {
   QStringList stored;
   for (const char* const locale : {"C", "de_DE", "tr_TR", "ar_EG"}) {
