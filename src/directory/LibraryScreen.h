@@ -28,7 +28,6 @@ class LibraryScreen : public Screen {
   void Form_Activate() override;
 
  protected:
-  void changeEvent(QEvent* event) override;
   // --- What a screen tells of itself ---
   // Columns it reads besides active letter, symbol, institution, library and contact, each with a leading ", ".
   virtual QString Columns() const = 0;

@@ -38,8 +38,8 @@ void frmDeliveryEmailTemplate::BuildControls() {
   Form::Rows rows(fraTemplate);
   rows.Add("lblSkipHeaderAndFooter", "Skip Header and Footer:", rdSkipHeaderAndFooter->Row());
   rows.Add("lblSubject", "Sub&ject:", txtSubject);
-  rows.Add("lblRequestInfo", "&Request Info:", txtRequestInfo);
-  rows.Add("lblBody", "&Body:", txtBody);
+  rows.Add("lblRequestInfo", "Request &Info:", txtRequestInfo);
+  rows.Add("lblBody", "Bod&y:", txtBody);
   QVBoxLayout* const column = Form::Column(this, {head});
   column->addWidget(fraTemplate, 1);
   column->addLayout(Form::ButtonRow({cmdSetSystemDefault, nullptr, cmdOK, cmdDelete, cmdCancel}));

@@ -42,7 +42,7 @@ void frmLibraryAnnotationTemplate::BuildControls() {
   rows.Add("lblUseAnnotation", "Use Annotation:", optUseAnnotation->Row());
   rows.Add("lblAnnotationText", "&Annotation Text:", txtAnnotationText);
   rows.Add("lblTextFontSize", "Text &Font Size:", cmbTextFontSize);
-  rows.Add("lblTextOrientation", "Text O&rientation:", cmbTextOrientation);
+  rows.Add("lblTextOrientation", "Text Or&ientation:", cmbTextOrientation);
   fields->layout()->setContentsMargins(0, 0, 0, 0);
   QVBoxLayout* const column = Form::Column(this, {fields});
   column->addStretch();
