@@ -38,7 +38,7 @@ void frmDeliveryEmailTemplate::BuildControls() {
   Form::Rows rows(fraTemplate);
   rows.Add("lblSkipHeaderAndFooter", "Skip Header and Footer:", rdSkipHeaderAndFooter->Row());
   rows.Add("lblSubject", "Sub&ject:", txtSubject);
-  rows.Add("lblRequestInfo", "&Request Info:", txtRequestInfo);
+  rows.Add("lblRequestInfo", "Request &Info:", txtRequestInfo);
   rows.Add("lblBody", "&Body:", txtBody);
   QVBoxLayout* const column = Form::Column(this, {head});
   column->addWidget(fraTemplate, 1);
