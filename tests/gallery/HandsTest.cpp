@@ -66,14 +66,6 @@ TEST_F(HandsTest, EscapeClosesEveryDialogWithNothingToLose) {
 
 // --- Mnemonics ---
 
-// Captions as the system knows them; a letter that stands twice moves the focus from one to the other.
-bool IsKnownClash(const QString& place, const QString& captions) {
-  static const std::vector<std::pair<QString, QString>> known = {};
-  return std::any_of(known.begin(), known.end(), [&](const auto& clash) {
-    return place.startsWith(clash.first) && captions == clash.second;
-  });
-}
-
 TEST_F(HandsTest, MnemonicsDoNotClashOnOneScreen) {
   qsizetype mnemonics = 0;
   ThroughAll([&](const QString& place, QWidget& window) {
@@ -90,10 +82,8 @@ TEST_F(HandsTest, MnemonicsDoNotClashOnOneScreen) {
       for (int tab = 0; tab < tabs->count(); ++tab) take(tabs->tabText(tab));
     for (auto& [key, captions] : byKey) {
       mnemonics += captions.size();
-      captions.sort();
-      const QString all = captions.join(" | ");
-      EXPECT_TRUE(captions.size() == 1 || IsKnownClash(place, all))
-          << place.toStdString() << "  " << key.toStdString() << ": " << all.toStdString();
+      EXPECT_EQ(captions.size(), 1) << place.toStdString() << "  " << key.toStdString() << ": "
+                                    << captions.join(" | ").toStdString();
     }
   });
   EXPECT_GT(mnemonics, 200) << "most of the captions were not looked at";

@@ -12,25 +12,18 @@
 
 namespace {
 
-// Where Tab enters a control and what it leaves last. A control that lends its focus to a part of itself is entered at
-// the control: the toolkit would find it elsewhere in the ring and begin there again.
-struct Stop {
-  QWidget* entry;
-  QWidget* exit;
-};
-
 class Reader {
  public:
   void Read(QWidget* widget) {
     if (auto* const tabs = qobject_cast<QTabWidget*>(widget)) {
-      stops_.push_back({tabs, tabs->tabBar()});
+      Take(tabs);
+      Take(tabs->tabBar());
       for (int page = 0; page < tabs->count(); ++page) Read(tabs->widget(page));
       return;
     }
     if (auto* const area = qobject_cast<QScrollArea*>(widget); area != nullptr && area->widget() != nullptr)
       return Read(area->widget());
-    if (widget->focusProxy() != nullptr) return stops_.push_back({widget, widget});
-    if (!widget->isWindow() && (widget->focusPolicy() & Qt::TabFocus) != 0) stops_.push_back({widget, widget});
+    Take(widget);
     const bool whole = qobject_cast<QComboBox*>(widget) != nullptr ||
                        qobject_cast<QAbstractSpinBox*>(widget) != nullptr ||
                        qobject_cast<QAbstractScrollArea*>(widget) != nullptr;
@@ -40,9 +33,13 @@ class Reader {
       Read(widget->layout());
   }
 
-  const std::vector<Stop>& Stops() const { return stops_; }
+  const std::vector<QWidget*>& Order() const { return order_; }
 
  private:
+  void Take(QWidget* widget) {
+    if (!widget->isWindow() && (widget->focusPolicy() & Qt::TabFocus) != 0) order_.push_back(widget);
+  }
+
   void Read(QLayout* layout) {
     std::vector<std::pair<std::pair<int, int>, QLayoutItem*>> items;  // row and column first
     for (int at = 0; at < layout->count(); ++at) {
@@ -58,7 +55,7 @@ class Reader {
     }
   }
 
-  std::vector<Stop> stops_;
+  std::vector<QWidget*> order_;
 };
 
 }  // namespace
@@ -68,8 +65,18 @@ namespace Form {
 void ReadingOrder(QWidget* form) {
   Reader reader;
   reader.Read(form);
-  const std::vector<Stop>& stops = reader.Stops();
-  for (std::size_t at = 1; at < stops.size(); ++at) QWidget::setTabOrder(stops[at - 1].exit, stops[at].entry);
+  const std::vector<QWidget*>& order = reader.Order();
+  // A control that lends its focus to a part of itself would take along whatever stands behind that part, and the
+  // toolkit loses the rest of the ring over it: meanwhile each is a control of its own.
+  std::vector<std::pair<QWidget*, QWidget*>> lent;
+  for (QWidget* widget : order) {
+    QWidget* const part = widget->focusProxy();
+    if (part == nullptr) continue;
+    lent.emplace_back(widget, part);
+    widget->setFocusProxy(nullptr);
+  }
+  for (std::size_t at = 1; at < order.size(); ++at) QWidget::setTabOrder(order[at - 1], order[at]);
+  for (const auto& [widget, part] : lent) widget->setFocusProxy(part);
 }
 
 }  // namespace Form
