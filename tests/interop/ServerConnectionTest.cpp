@@ -489,7 +489,10 @@ TEST_F(ServerConnectionTest, TabGoesThroughTheFieldsInReadingOrder) {
                          "txtApplicationProfile", "txtServerAgency", "txtAgencySchema", "txtToAgency", "txtFromAgency",
                          "txtAgencyAuthentication", "chkLookupUser"}));
   EXPECT_EQ(TabStops("chkDeleteItem", 5),
-            (QStringList{"chkDeleteItem", "cmdOK", "cmdDelete", "cmdCancel", "cmbNCIPSystem"}));
+            (QStringList{"chkDeleteItem", "chkCircStatUpdStillPend", "chkCircStatUpdNotRenewed", "chkItemRenewed",
+                         "chkItemRenewedRenewItem"}));
+  EXPECT_EQ(TabStops("chkItemRenewedRenewItem", 5),
+            (QStringList{"chkItemRenewedRenewItem", "cmdOK", "cmdDelete", "cmdCancel", "cmbNCIPSystem"}));
   Click("cmdCancel");
   OpenForm(ApiForm);
   Click("rdUseAllLocationsNo");
