@@ -111,6 +111,7 @@ Dialect::Failure SqlServerDialect::Classify(const QSqlError& error) const {
       case 8115:
       case 8152:
         return Failure::Refused;
+      case -2:  // the time for a statement has run out
       case 1205:
       case 1222:
         return Failure::Busy;
@@ -125,11 +126,10 @@ Dialect::Failure SqlServerDialect::Classify(const QSqlError& error) const {
         break;
     }
   }
-  // Newer drivers write the SQLSTATE into the text: class 08 is the connection.
-  if (error.databaseText().contains(QLatin1String("08S01")) ||
-      error.databaseText().contains(QLatin1String("Communication link failure"))) {
-    return Failure::Lost;
-  }
+  // Newer drivers write the SQLSTATE into the text: class 08 is the connection, HYT00 the time of a statement.
+  const auto says = [&](const char* words) { return error.databaseText().contains(QLatin1String(words)); };
+  if (says("08S01") || says("Communication link failure")) return Failure::Lost;
+  if (says("HYT00") || says("Query timeout expired")) return Failure::Busy;
   return Failure::Other;
 }
 
