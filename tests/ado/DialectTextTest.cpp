@@ -1,3 +1,5 @@
+#include <QSqlDatabase>
+
 #include "ado/TestDatabase.h"
 #include "platform/ado/SqlTokens.h"
 
@@ -143,6 +145,26 @@ TEST(DialectText, DateLiterals) {
   }
   EXPECT_EQ(Dialect::For(Engine::SqlServer).DateLiteral(moment.date()), "'20240301'");
   EXPECT_EQ(Dialect::For(Engine::SqlServer).DateTimeLiteral(moment), "'2024-03-01T07:08:09'");
+}
+
+// Qt's driver puts them into the connection string as they stand.
+TEST(DialectText, UserAndPasswordOfOdbcAreEnclosedWhereTheyWouldEndTheirValue) {
+  const std::pair<const char*, const char*> words[] = {
+      {"", ""},       {"plain", "plain"}, {"a=b{c}", "a=b{c}"},         {"x;DATABASE=y", "{x;DATABASE=y}"},
+      {"{x", "{{x}"}, {" x", "{ x}"},     {"x};PWD={y", "{x}};PWD={y}"}};
+  QSqlDatabase database = QSqlDatabase::addDatabase("QODBC", "enclosed");
+  for (const auto& [given, expected] : words) {
+    ConnectionSettings settings;
+    settings.engine = Engine::SqlServer;
+    settings.name = "source";
+    settings.user = settings.password = given;
+    QString reason;
+    EXPECT_TRUE(Dialect::For(Engine::SqlServer).Prepare(database, settings, &reason));
+    EXPECT_EQ(database.userName(), expected);
+    EXPECT_EQ(database.password(), expected);
+  }
+  database = QSqlDatabase();
+  QSqlDatabase::removeDatabase("enclosed");
 }
 
 TEST(DialectText, DatabaseTypesAndDrivers) {
