@@ -39,13 +39,6 @@ void PutCaption(QObject& control, const QString& text, int column) {
 
 }  // namespace
 
-// A value of blanks is a value; around any other blanks mean nothing.
-QString CustomText::Value(const QString& key) const {
-  const QString text = gclsOF->ReadProfileString(section_, key, path_);
-  const QString trimmed = text.trimmed();
-  return trimmed.isEmpty() ? text : trimmed;
-}
-
 QString MissingCustomText(const QString& path) {
   return "Unable to find the Custom Configuration File:\n\n" + path +
          "\n\nCopy the Configuration File to the Ostana Installation Directory.\n\n"

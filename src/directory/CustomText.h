@@ -4,10 +4,9 @@
 #include <functional>
 #include <span>
 
-class QWidget;
+#include "directory/CustomTextFile.h"
 
-// What a site calls things: the custom text file, an INI file with one section for each screen of the directory. A key
-// that is missing or empty leaves the built-in text alone.
+class QWidget;
 
 // A key and the control that it renames: title of the form ("" as control), caption of a menu, entry, button, option,
 // frame or label, heading of a grid's column, or, for a key that ends in "ToolTip", the control's tip.
@@ -15,17 +14,6 @@ struct TextKey {
   const char* key;
   const char* control;
   int column = 0;  // of a grid
-};
-
-class CustomText {
- public:
-  CustomText(QString path, QString section) : path_(std::move(path)), section_(std::move(section)) {}
-  // Empty when the key is missing.
-  QString Value(const QString& key) const;
-
- private:
-  QString path_;
-  QString section_;
 };
 
 // How a screen of the directory has its texts replaced.
