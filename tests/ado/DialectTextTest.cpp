@@ -32,6 +32,7 @@ const Golden goldens[] = {
      "SELECT A FROM ID_A WHERE A IN (SELECT DISTINCT B FROM ID_B ORDER BY B LIMIT 2) AND C = 1",
      "SELECT A FROM ID_A WHERE A IN (SELECT DISTINCT B FROM ID_B ORDER BY B LIMIT 2) AND C = 1", ""},
     {"SELECT TOP FROM ID_A", "", "", "", ""},
+    {"SELECT A FROM OSTANA.OSTANA.ID_A", "SELECT A FROM ID_A", "SELECT A FROM ID_A", "SELECT A FROM ID_A", ""},
     {"DELETE\"ID_A\"", "DELETE FROM \"ID_A\"", "DELETE FROM \"ID_A\"", "DELETE FROM \"ID_A\"", ""},
     {"SELECT [a b][c d],\"e\"[f g]", "SELECT \"a b\" \"c d\",\"e\" \"f g\"", "SELECT \"a b\" \"c d\",\"e\" \"f g\"",
      "SELECT \"a b\" \"c d\",\"e\" \"f g\"", ""},
@@ -84,6 +85,9 @@ TEST(DialectText, CarriedAgainNothingChanges) {
       EXPECT_EQ(Carried(engine, once), once);
     }
   }
+  // No engine takes it; it must come to rest nevertheless.
+  const QString once = Carried(Engine::Sqlite, "SELECT TOP 1 TOP 2 A FROM ID_A");
+  EXPECT_EQ(Carried(Engine::Sqlite, once), once);
 }
 
 QStringList ValuesIn(const QString& sql) {

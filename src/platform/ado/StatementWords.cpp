@@ -85,6 +85,21 @@ size_t EndOfLevel(const Tokens& tokens, size_t index) {
   return tokens.size();
 }
 
+// TOP n of the SELECT at the index, to the end of its level as LIMIT n. False when it has none.
+bool MoveTop(Tokens& tokens, size_t select) {
+  size_t top = NextOf(tokens, select);
+  if (top < tokens.size() && (Is(tokens[top], "DISTINCT") || Is(tokens[top], "ALL"))) top = NextOf(tokens, top);
+  if (top >= tokens.size() || !Is(tokens[top], "TOP")) return false;
+  const size_t count = NextOf(tokens, top);
+  if (count >= tokens.size() || tokens[count].kind != SqlToken::Number) return false;
+  const QString number = tokens[count].text;
+  Erase(tokens, top, NextOf(tokens, count));
+  size_t end = EndOfLevel(tokens, top);
+  while (end > top && tokens[end - 1].kind == SqlToken::Blank) --end;
+  InsertWords(tokens, end, QLatin1String("LIMIT ") + number);
+  return true;
+}
+
 }  // namespace
 
 bool Is(const SqlToken& token, const char* word) {
@@ -135,29 +150,23 @@ void DropOwner(Tokens& tokens, const QString& ownerPrefix) {
   const auto same = [](const SqlToken& left, const SqlToken& right) {
     return left.kind == right.kind && left.text.compare(right.text, Qt::CaseInsensitive) == 0;
   };
-  for (size_t i = 0; i + owner.size() < tokens.size(); ++i) {
+  const auto standsAt = [&](size_t i) {
+    if (i + owner.size() >= tokens.size()) return false;
     const bool qualified = i > 0 && IsSymbol(tokens[i - 1], '.');
     const SqlToken& name = tokens[i + owner.size()];
-    if (qualified || (name.kind != SqlToken::Word && name.kind != SqlToken::QuotedName)) continue;
-    if (std::equal(owner.begin(), owner.end(), tokens.begin() + static_cast<Tokens::difference_type>(i), same)) {
-      Erase(tokens, i, i + owner.size());
-    }
+    if (qualified || (name.kind != SqlToken::Word && name.kind != SqlToken::QuotedName)) return false;
+    return std::equal(owner.begin(), owner.end(), tokens.begin() + static_cast<Tokens::difference_type>(i), same);
+  };
+  for (size_t i = 0; i < tokens.size(); ++i) {
+    while (standsAt(i)) Erase(tokens, i, i + owner.size());
   }
 }
 
 void LimitForTop(Tokens& tokens) {
   for (size_t i = 0; i < tokens.size(); ++i) {
     if (!Is(tokens[i], "SELECT")) continue;
-    size_t top = NextOf(tokens, i);
-    if (top < tokens.size() && (Is(tokens[top], "DISTINCT") || Is(tokens[top], "ALL"))) top = NextOf(tokens, top);
-    if (top >= tokens.size() || !Is(tokens[top], "TOP")) continue;
-    const size_t count = NextOf(tokens, top);
-    if (count >= tokens.size() || tokens[count].kind != SqlToken::Number) continue;
-    const SqlToken number = tokens[count];
-    Erase(tokens, top, NextOf(tokens, count));
-    size_t end = EndOfLevel(tokens, top);
-    while (end > top && tokens[end - 1].kind == SqlToken::Blank) --end;
-    InsertWords(tokens, end, QLatin1String("LIMIT ") + number.text);
+    while (MoveTop(tokens, i)) {
+    }
   }
 }
 
