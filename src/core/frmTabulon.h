@@ -14,6 +14,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class QTabWidget;
+class Procedure;
 
 // One row of the shell's table of tabs. An empty operation is a button that does nothing there. Operations answer
 // True when they went through; a refused or failed one leaves gbRecordModified set, so that the user can correct.
@@ -102,7 +103,7 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
 
   // The stages of Form_Load. False: the process is ending.
   bool LoadSettings();
-  bool Logon();
+  bool Logon(Procedure& procedure);
   bool RefuseSecondCopy();
   void NameTabs();
   void FinishLoad();
