@@ -126,7 +126,7 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   QMenu* mnuOptions_ = nullptr;
   QLabel* status_ = nullptr;
   int tab_ = 0;                // the tab on screen
-  int recordTab_ = 0;          // the tab that was set up last: it owns the record on screen
+  int recordTab_ = 0;          // owns the record: the tab on screen, or the one left with a record that was not stored
   bool mbFormLoaded = false;   // Form_Load has gone all the way through
   bool mbGuardActed = false;   // the answer was Yes: the next leaving of an unsaved record returns in silence
   bool movingBack_ = false;
