@@ -37,7 +37,7 @@ TEST_F(AboutTest, TheSplashScreenShowsTheVersionOfTheManifestForFourSeconds) {
   Manifest("Vendor-Version=7.2\nCopyright-Date=2024\n");
   Open("frmSplash");
   EXPECT_TRUE(IsShown("lblVersion"));
-  EXPECT_EQ(Text("lblVersion"), "Version 7.2");
+  EXPECT_EQ(Text("lblVersion"), "7.2");
   EXPECT_EQ(Text("lblRights"), "Copyright 2024. All rights reserved.");
   auto* const timer = Window()->findChild<QTimer*>();
   ASSERT_NE(timer, nullptr);
@@ -75,6 +75,22 @@ TEST_F(AboutTest, AnUnusableRegistryLeavesTheValuesOfTheManifest) {
   Open("frmAboutOstana");
   EXPECT_EQ(Text("lblVersionValue"), "7.2");
   EXPECT_EQ(Text("lblEditionValue"), "Consortium");
+}
+
+TEST_F(AboutTest, EditionAndVersionOfTheRegistryReplaceThoseOfTheManifest) {
+  Manifest("Vendor-Version=7.2\nPackage-Name=Consortium\n");
+  RegistryValues("[SOFTWARE\\Ostana\\7.2]\nEdition=Campus\nVersion=7.2.31\n");
+  Open("frmAboutOstana");
+  EXPECT_EQ(Text("lblEditionValue"), "Campus");
+  EXPECT_EQ(Text("lblVersionValue"), "7.2.31");
+}
+
+TEST_F(AboutTest, AnEmptyValueOfTheRegistryReplacesNothing) {
+  Manifest("Vendor-Version=7.2\nPackage-Name=Consortium\n");
+  RegistryValues("[SOFTWARE\\Ostana\\7.2]\nEdition=\n");
+  Open("frmAboutOstana");
+  EXPECT_EQ(Text("lblEditionValue"), "Consortium");
+  EXPECT_EQ(Text("lblVersionValue"), "7.2");
 }
 
 TEST_F(AboutTest, MoreInformationIsShownAndHiddenAgain) {
