@@ -438,6 +438,58 @@ TEST_F(CodeTablesTest, TheFieldsTakeNoMoreThanTheirColumns) {
   EXPECT_EQ(Text("txt0Code").size(), limit);
 }
 
+TEST_F(CodeTablesTest, AColumnWithoutASizeHasNoLimit) {
+  Setting("System", "SingleLanguage", "Y");
+  Another("CREATE TABLE ID_SHELF (SHELF VARCHAR(5) NOT NULL PRIMARY KEY, SHELF_DESC TEXT)");
+  Another("INSERT INTO ID_TABLES (TABLES, TABLES_DESC, VIEW_ONLY_FLAG) VALUES ('ID_SHELF', 'Aa shelves', 'F')");
+  Start();
+  Pick("ID_SHELF");
+  Type("txt0Code", "A1");
+  const QString text = QString("long ").repeated(8000) + "end";
+  Paste("txt0Description", text);
+  Prompt().Expect("Record Added", 64);
+  Click("cmdAdd");
+  EXPECT_EQ(Ask("SELECT SHELF_DESC FROM ID_SHELF WHERE SHELF = 'A1'"), text);
+}
+
+TEST_F(CodeTablesTest, ANumericCodeKeepsAllItsDigits) {
+  Setting("System", "SingleLanguage", "Y");
+  Another("CREATE TABLE ID_BOX (BOX BIGINT NOT NULL PRIMARY KEY, BOX_DESC VARCHAR(40))");
+  Another("INSERT INTO ID_TABLES (TABLES, TABLES_DESC, VIEW_ONLY_FLAG) VALUES ('ID_BOX', 'Aa boxes', 'F')");
+  Start();
+  Pick("ID_BOX");
+  for (const auto& [typed, stored] : {std::pair<QString, QString>{"9007199254740993", "9007199254740993"},
+                                      {"+7", "7"},
+                                      {"8.0", "8"},
+                                      {"-12", "-12"}}) {
+    Statements();
+    AddRow(typed, "Box");
+    EXPECT_EQ(Writing(), QStringList{"INSERT INTO ID_BOX (BOX, BOX_DESC) VALUES(" + stored + ", 'Box')"});
+    EXPECT_EQ(Cell("grd0TableDesc", Row("grd0TableDesc"), 1), stored);
+  }
+}
+
+TEST_F(CodeTablesTest, ADescriptionArrivesWithEveryLetterAndWithoutControlCharacters) {
+  Mode("ID_LIBRARY_CAT", "F");
+  Start();
+  Pick("ID_LIBRARY_CAT");
+  const QString hostile = QString::fromUtf8("'N''x' \\ ; -- /*\"*/ \xF0\x9F\x98\x80 e\xCC\x81 \xD7\xA9\xD7\x9C");
+  Type("txt0Code", "Q9");
+  Paste("txt0Description", hostile + QChar(u'\0') + "end");
+  Prompt().Expect("Record Added", 64);
+  Click("cmdAdd");
+  EXPECT_EQ(Stored("LIBRARY_CAT_DESC", "Q9"), hostile + "end");
+  EXPECT_EQ(Stored("LIBRARY_CAT_DESC_GER", "Q9"), hostile + "end");
+  EXPECT_EQ(Cell("grd0TableDesc", Row("grd0TableDesc"), 2), hostile + "end");
+}
+
+TEST_F(CodeTablesTest, EnteringTheTabWidensTheMarkerColumn) {
+  Start();
+  EXPECT_EQ(Find<Grid>("grd0TableDesc")->ColWidth(0), 310);
+  Pick("ID_LIBRARY_CAT");
+  EXPECT_EQ(Find<Grid>("grd0TableDesc")->ColWidth(0), 200);
+}
+
 TEST_F(CodeTablesTest, AHeadingSortsTheGridAndKeepsTheRecord) {
   Start();
   Pick("ID_LIBRARY_CAT");
