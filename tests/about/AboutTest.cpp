@@ -105,6 +105,42 @@ TEST_F(AboutTest, MoreInformationIsShownAndHiddenAgain) {
   EXPECT_EQ(Text("cmdOtherInfo"), "&More Info.");
 }
 
+// A program that says that it was started, in the place that the registry names.
+class SystemInformationTest : public AboutTest {
+ protected:
+  void Program(const QString& path) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/bin/sh\ntouch '" + Started().toUtf8() + "'\n");
+    ASSERT_TRUE(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+  }
+  QString Started() const { return Folder() + "/started"; }
+  void PressAndWait() {
+    Open("frmAboutOstana");
+    Click("cmdSysInfo");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Started()); }));
+  }
+};
+
+TEST_F(SystemInformationTest, ThePathOfTheRegistryIsStarted) {
+  Program(Folder() + "/information");
+  RegistryValues("[SOFTWARE\\Microsoft\\Shared Tools\\MSINFO]\nPATH=" + Folder() + "/information\n");
+  PressAndWait();
+}
+
+TEST_F(SystemInformationTest, WithoutAPathTheProgramBelowItsFolderIsStarted) {
+  Program(Folder() + "/tools\\MSINFO32.EXE");
+  RegistryValues("[SOFTWARE\\Microsoft\\Shared Tools Location]\nMSINFO=" + Folder() + "/tools\n");
+  PressAndWait();
+}
+
+TEST_F(SystemInformationTest, AFolderWithoutTheProgramIsNoInformation) {
+  RegistryValues("[SOFTWARE\\Microsoft\\Shared Tools Location]\nMSINFO=" + Folder() + "/tools\n");
+  Open("frmAboutOstana");
+  Prompt().Expect("System Information Is Unavailable At This Time", 48);
+  Click("cmdSysInfo");
+}
+
 TEST_F(AboutTest, WithoutASystemInformationProgramThatIsSaid) {
   Open("frmAboutOstana");
   Prompt().Expect("System Information Is Unavailable At This Time", 48);
