@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <QTabWidget>
 
@@ -253,6 +254,23 @@ TEST_F(ShellTest, ItemTypesAreOpenWhereLoanDocumentsShowThem) {
   SelectTab("sstabtables", 11);
   EXPECT_FALSE(IsEnabled("cmdServiceCode"));
   EXPECT_TRUE(IsEnabled("cmdSuppliedItemType"));
+}
+
+TEST_F(ShellTest, WithAnOwnerEveryStatementOfEveryTabNamesIt) {
+  if (TestDatabase::TestEngine() != Engine::Sqlite) GTEST_SKIP() << "the tables of the test have no owner";
+  Setting("Database", "OwnerPrefix", "OSTANA");
+  PickCategories();
+  for (int index = 1; index < frmTabulon::TabCount; ++index) SelectTab("sstabtables", index);
+  SelectTab("sstabtables", 0);
+  ChooseAt("cmb0Tables", Find<CodeComboBox>("cmb0Tables")->IndexOfCode("ID_LIBRARY_CAT"));
+  Type("txt0Description", "changed");
+  Prompt().Expect("Record Updated", 64);
+  Click("cmdUpdate");
+  static const QRegularExpression bare("(?<!OSTANA\\.)\\bID_[A-Z]");
+  const QStringList statements = Statements();
+  EXPECT_GE(statements.size(), 20);
+  for (const QString& statement : statements) EXPECT_FALSE(statement.contains(bare)) << statement.toStdString();
+  EXPECT_TRUE(LogLines().filter("Error: ").isEmpty());
 }
 
 TEST_F(ShellTest, TheHelpMenuOpensBothAboutScreens) {

@@ -322,6 +322,21 @@ TEST_F(StartUpTest, WebServiceSettingsThatAreIncompleteEndTheProgram) {
       << outcome.output.toStdString();
 }
 
+TEST_F(StartUpTest, CommonServicesThatCannotBeUsedAreToldAndLoggedWithoutThem) {
+  gLogonDialog = [](QString&, QString&) -> bool { throw std::runtime_error("out of luck"); };
+  Prompt().ExpectTitled(
+      "Failed to Load the Application Class Settings.  Terminating.....\n\nPlease check the application log file for "
+      "more details.",
+      16, "Ostana - System Maintenance");
+  Start("\"north\"");
+  gLogonDialog = {};
+  EXPECT_EQ(ExitCode(), 1);
+  const QStringList log = WideTextFile::ReadLines(LogFile());
+  ASSERT_EQ(log.size(), 2);
+  EXPECT_TRUE(log[0].endsWith("  * Failed to Load the Application Class Settings.  Terminating....."));
+  EXPECT_EQ(log[1], QString(24, ' ') + "* Error: -2147467259  out of luck Source: Tabulon");
+}
+
 // A script that looks at the pointer whenever a message is shown.
 class PointerWatch : public Script {
  public:
