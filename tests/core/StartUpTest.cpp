@@ -315,51 +315,26 @@ TEST_F(StartUpTest, ALanguageOfSevenLettersIsDropped) {
   EXPECT_EQ(gclsOF->LanguageSuffix(), "");
 }
 
-TEST_F(StartUpTest, WebServiceSettingsThatAreIncompleteEndTheProgram) {
+TEST_F(StartUpTest, WithoutTheAddressOfTheWebServiceTheProgramEnds) {
   Setting("BL Web Services", "Use", "Y");
   const Outcome outcome = Run({"", "admin", "secret"});
   EXPECT_TRUE(outcome.ended);
-  EXPECT_TRUE(outcome.output.contains(
-      "The BL Web Service settings have not been configured.  See the application log for details."))
-      << outcome.output.toStdString();
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.output,
+            "Tabulon: The BL Web Service settings have not been configured.  See the application log for details.\n");
+  ASSERT_EQ(outcome.log.size(), 4);
+  EXPECT_TRUE(outcome.log[3].endsWith("  * The Web Service 'ServerAddress' setting has not been configured."));
 }
 
-TEST_F(StartUpTest, CommonServicesThatCannotBeUsedAreToldAndLoggedWithoutThem) {
-  gLogonDialog = [](QString&, QString&) -> bool { throw std::runtime_error("out of luck"); };
-  Prompt().ExpectTitled(
-      "Failed to Load the Application Class Settings.  Terminating.....\n\nPlease check the application log file for "
-      "more details.",
-      16, "Ostana - System Maintenance");
-  Start("\"north\"");
-  gLogonDialog = {};
-  EXPECT_EQ(ExitCode(), 1);
-  const QStringList log = WideTextFile::ReadLines(LogFile());
-  ASSERT_EQ(log.size(), 2);
-  EXPECT_TRUE(log[0].endsWith("  * Failed to Load the Application Class Settings.  Terminating....."));
-  EXPECT_EQ(log[1], QString(24, ' ') + "* Error: -2147467259  out of luck Source: Tabulon");
-}
-
-// A script that looks at the pointer whenever a message is shown.
-class PointerWatch : public Script {
- public:
-  bool WasHourglass() const { return hourglass_; }
-  int ShowMessage(const MessageRequest& request) override {
-    hourglass_ = QApplication::overrideCursor() != nullptr;
-    return Script::ShowMessage(request);
-  }
-
- private:
-  bool hourglass_ = true;
-};
-
-TEST_F(StartUpTest, ThePointerIsItsOldSelfWhenTheWebServiceSettingsAreRead) {
+TEST_F(StartUpTest, WithGapsInTheWebServiceSettingsTheProgramEndsAndTheLogListsThem) {
   Setting("BL Web Services", "Use", "Y");
-  PointerWatch watch;
-  watch.Expect("The BL Web Service settings have not been configured.  See the application log for details.", 16);
-  Start();
-  EXPECT_TRUE(ProcessEnded());
-  EXPECT_FALSE(watch.WasHourglass());
-  watch.Verify();
+  Setting("BL Web Services", "ServerAddress", "api.example.org");
+  const Outcome outcome = Run({"", "admin", "secret"});
+  EXPECT_EQ(outcome.exitCode, 1);
+  EXPECT_EQ(outcome.output,
+            "Tabulon: One or more [BL Web Service] settings have not been configured.  See the application log for "
+            "details.\n");
+  EXPECT_EQ(outcome.log.filter("' setting has not been configured.").size(), 13);
 }
 
 TEST_F(StartUpTest, WithoutTheLauncherTheSplashScreenComesFirst) {
