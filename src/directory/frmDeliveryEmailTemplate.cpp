@@ -65,16 +65,20 @@ void frmDeliveryEmailTemplate::ClearBoxes() {
   rdSkipHeaderAndFooter->Select(0);
 }
 
+// The row of library and patron, in the letters of the two SELECTs; UPDATE and DELETE have their own.
+QString frmDeliveryEmailTemplate::OfTarget() const {
+  const QString patron = target_.PatronId();
+  return " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
+         (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron));
+}
+
 void frmDeliveryEmailTemplate::Load_TextBoxes() {
   Procedure("frmDeliveryEmailTemplate.Load_TextBoxes", this).Run([this] {
     fraTemplate->setTitle(QString("Message") +
                           (Family() == "SED_" ? " (Template for External URL)" : " (Template for Electronic Delivery)"));
     ClearBoxes();
     txtInstitution->SetText(target_.Institution());
-    const QString patron = target_.PatronId();
-    ForEachRow("SELECT   * FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " +
-                   Sql::Number(target_.LibraryId()) +
-                   (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron)),
+    ForEachRow("SELECT   * FROM " + Sql::Table("ID_EMAIL_MESSAGE") + OfTarget(),
                "***** SQL error on ID_EMAIL_MESSAGE  (Select) *****", [this](Recordset& rows) {
                  txtSubject->SetText(Value(rows, Family() + "MESSAGE_SUBJECT"));
                  txtRequestInfo->SetText(Value(rows, Family() + "MESSAGE_REQUEST"));
@@ -87,11 +91,8 @@ void frmDeliveryEmailTemplate::Load_TextBoxes() {
 
 // Asked anew for each target: another client may have made or deleted the row since it was read.
 bool frmDeliveryEmailTemplate::RowExists() const {
-  const QString patron = target_.PatronId();
   bool found = false;
-  FirstValue("SELECT   LIBRARY_ID FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " +
-                 Sql::Number(target_.LibraryId()) +
-                 (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron)),
+  FirstValue("SELECT   LIBRARY_ID FROM " + Sql::Table("ID_EMAIL_MESSAGE") + OfTarget(),
              "***** SQL error on ID_EMAIL_MESSAGE  (Select) *****", &found);
   return found;
 }
