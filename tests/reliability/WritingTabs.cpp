@@ -55,7 +55,8 @@ WritingScreen Methods(const char* name, const char* place, const char* table, co
                        .table = table,
                        .fields = {{descriptionBox, description}},
                        .open = Tab(Shell::DeliveryTab, grid, "sstab5Delivery", tab),
-                       .keys = {{codeBox, code, Trimmed::EndsAndUpper}}});
+                       .keys = {{codeBox, code, Trimmed::EndsAndUpper}},
+                       .ownColumns = {"ACTIVE_FLAG", "PRINT_FLAG", "WEB_FLAG"}});  // No is stored for what was open
 }
 
 // A rate table that is priced by billing rate: its key is two lists, the rest are numbers.
