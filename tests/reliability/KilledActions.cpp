@@ -126,11 +126,10 @@ void WriteSequence(ReliabilityDesk& desk, int) {
 }
 
 QString SequenceHalfDone(Connection& connection) {
-  QStringList numbers = Texts(connection, "SELECT LIBRARY_SEQ FROM ID_SUPPLIER WHERE LIBRARY_ID = " + Owner +
-                                              " AND SUPPLIER_CODE LIKE 'KILL%' ORDER BY LIBRARY_SEQ");
-  const qsizetype all = numbers.size();
-  numbers.removeDuplicates();
-  return all == Length && numbers.size() == Length ? QString() : numbers.join(' ');
+  const QStringList numbers =
+      Texts(connection, "SELECT LIBRARY_SEQ FROM ID_SUPPLIER WHERE LIBRARY_ID = " + Owner + " ORDER BY LIBRARY_SEQ");
+  const QSet<QString> distinct(numbers.begin(), numbers.end());
+  return distinct.size() == numbers.size() && numbers.size() >= Length ? QString() : numbers.join(' ');
 }
 
 // --- Records ---
