@@ -106,7 +106,7 @@ TEST_P(LostLinkTest, CutBehindEachStatement) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, LostLinkTest, testing::ValuesIn(WritingScreens()),
+INSTANTIATE_TEST_SUITE_P(Screens, LostLinkTest, testing::ValuesIn(ScreensWithText()),
                          [](const auto& screen) { return std::string(screen.param.name); });
 
 }  // namespace
