@@ -161,7 +161,15 @@ std::vector<WritingScreen> Exceptions() {
       {.name = "IsoRejects",
        .place = "tab-09-exceptions-3",
        .table = "ID_EXCEPTION_ISO",
-       .open = tab("grd8ISO", 3),
+       .open =
+           [tab](ReliabilityDesk& desk) {
+             // Enough codes to give a reason to.
+             for (int code = 10; code < 40 && desk.Count("ID_EXCEPTION_CODE", "EXCEPTION_CODE = 'Y39'") == 0; ++code)
+               desk.Another(QString("INSERT INTO ID_EXCEPTION_CODE (EXCEPTION_CODE, EXCEPTION_CODE_DESC, "
+                                    "EXCEPTION_TYPE) VALUES ('Y%1', 'Reason %1', 'R')")
+                                .arg(code));
+             tab("grd8ISO", 3)(desk);
+           },
        .write = Entry("mnuOptionsUpdate"),
        .change = Another("cmb8ISOMessage"),
        .choose = Both(FreeEntry("cmb8RejectType", "ID_EXCEPTION_ISO", "EXCEPTION_CODE"), Another("cmb8ISOMessage")),
