@@ -7,7 +7,8 @@ class QUrl;
 class QWidget;
 
 // The user's guide: one page for each screen, named as its form ("frmLoans"), and one for each tab of the main screen
-// ("frmTabulon-code-tables"). Pages are HTML where the guide was installed, Markdown where it was not built.
+// ("frmTabulon-code-tables"), or each page of such a tab ("frmTabulon-invoicing-1"). Pages are HTML where the guide was
+// installed, Markdown where it was not built.
 namespace Help {
 
 // The folder named by OSTANA_GUIDE; else share/doc/tabulon/guide beside the program's bin folder, the folder guide
