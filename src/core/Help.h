@@ -3,6 +3,7 @@
 #include <QString>
 #include <functional>
 
+class QMenu;
 class QUrl;
 class QWidget;
 
@@ -21,6 +22,8 @@ QString TabPageName(const QString& form, const QString& tabCaption);
 void OpenHelp(const QString& page, QWidget* owner);
 // F1 in this window opens the page that `page` names at that moment.
 void OpenByF1(QWidget& window, std::function<QString()> page);
+// An entry of the window's help menu that does the same, for those who do not know the key.
+void AddEntry(QMenu& menu, QWidget& window, std::function<QString()> page);
 
 // What opens a file; nullptr brings the desktop's own back.
 using Opener = std::function<bool(const QUrl&)>;

@@ -104,6 +104,7 @@ void frmTabulon::BuildMenu() {
   clear_.entry = entry("mnuOptionsClear", "Clea&r", "cmb4Tables_Click", &frmTabulon::cmdClear_Click);
 
   QMenu* const help = Form::Menu(this, "mnuHelp", "&Help");
+  Help::AddEntry(*help, *this, [this] { return GuidePage(); });
   HelpEntry(help, "mnuHelpAboutOstana", "&About Ostana", "frmAboutOstana");
   HelpEntry(help, "mnuHelpAboutTabulon", "About &Tabulon", "frmAboutApp");
 

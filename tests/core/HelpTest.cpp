@@ -75,6 +75,15 @@ TEST_F(HelpTest, ATabThatWasNotSetUpIsToldOfOnThePageOfTheMainScreen) {
   EXPECT_EQ(opened_, QStringList{"frmTabulon.html"});
 }
 
+TEST_F(HelpTest, TheHelpMenuOpensThePageToo) {
+  for (const char* page : {"frmTabulon-code-tables.html", "frmLibraryLoginInfo.html"}) Page(page);
+  Start();
+  Trigger("mnuHelpGuide");
+  Open("frmLibraryLoginInfo");
+  Trigger("mnuHelpGuide");
+  EXPECT_EQ(opened_, (QStringList{"frmTabulon-code-tables.html", "frmLibraryLoginInfo.html"}));
+}
+
 TEST_F(HelpTest, HtmlGoesBeforeMarkdownAndMarkdownBeforeNothing) {
   Page("frmLoans.md");
   EXPECT_TRUE(Help::PageFile("frmLoans").endsWith("/guide/frmLoans.md"));
