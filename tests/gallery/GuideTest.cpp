@@ -4,10 +4,12 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTest>
 #include <QUrl>
+#include <algorithm>
 
 #include "core/Help.h"
 #include "core/Screens.h"
@@ -23,6 +25,20 @@ QString Page(const QString& name) {
   QFile file(Guide().filePath(name));
   EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
   return QString::fromUtf8(file.readAll());
+}
+
+// All texts in the sources, each run of them put together as the compiler does, blanks made one.
+QString WordsOfTheProgram() {
+  static const QRegularExpression seam("\"\\s*\"");
+  QDirIterator sources(QString(TABULON_SOURCE_DIR) + "/src", {"*.cpp", "*.h"}, QDir::Files,
+                       QDirIterator::Subdirectories);
+  QString words;
+  while (sources.hasNext()) {
+    QFile file(sources.next());
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    words += QString::fromUtf8(file.readAll()).remove(seam).replace("\\n", " ").remove('&').simplified();
+  }
+  return words;
 }
 
 class GuideTest : public Walk {
@@ -73,6 +89,39 @@ TEST_F(GuideTest, F1OnEveryDialogOpensItsPage) {
     EXPECT_TRUE(Page(page).contains("(pictures/" + place + ".png)"))
         << page.toStdString() << " without " << place.toStdString();
   });
+}
+
+// What every list can do is told once, and every page of a screen with a list leads there.
+TEST_F(GuideTest, PagesOfScreensWithAListTellWhatListsCanDo) {
+  EXPECT_TRUE(Page("frmTabulon.md").contains("\n## Lists\n"));
+  QStringList pages;
+  ThroughAll([&](const QString& place, QWidget& window) {
+    const QList<Grid*> grids = window.findChildren<Grid*>();
+    if (std::none_of(grids.begin(), grids.end(), [](const Grid* grid) { return grid->isVisible(); })) return;
+    const bool isTab = window.objectName() == "frmTabulon";
+    pages.append((isTab ? "frmTabulon-" + place.section('-', 2) : window.objectName()) + ".md");
+  });
+  pages.removeDuplicates();
+  EXPECT_GT(pages.size(), 20);
+  for (const QString& page : pages) EXPECT_TRUE(Page(page).contains("](frmTabulon.md#lists)")) << page.toStdString();
+}
+
+// Between quotation marks stands what the program says; *a word like this* stands for what differs.
+TEST_F(GuideTest, WhatItQuotesIsWhatTheProgramSays) {
+  static const QRegularExpression quoted("\"([^\"]+)\""), ends("(?<=[.?!]) |\\*[^*]*\\*|\\.\\.\\.");
+  const QString words = WordsOfTheProgram();
+  int sentences = 0;
+  for (const QString& name : Guide().entryList({"*.md"})) {
+    const QString text = Page(name).replace("\n> ", " ").simplified();
+    for (auto found = quoted.globalMatch(text); found.hasNext();) {
+      for (const QString& sentence : found.next().captured(1).split(ends)) {
+        if (sentence.trimmed().size() < 3) continue;
+        ++sentences;
+        EXPECT_TRUE(words.contains(sentence.trimmed())) << name.toStdString() << ": " << sentence.toStdString();
+      }
+    }
+  }
+  EXPECT_GT(sentences, 300);
 }
 
 TEST_F(GuideTest, LinksAndPicturesLeadToFiles) {
