@@ -208,7 +208,8 @@ void Patterns(Tokens& tokens, const QString& operation, const QString& collation
     size_t end = EndOfOperand(tokens, NextOf(tokens, i));
     size_t next = NextOf(tokens, end - 1);
     if (next < tokens.size() && Is(tokens[next], "COLLATE")) {
-      end = std::min(NextOf(tokens, next) + 1, tokens.size());
+      const size_t name = NextOf(tokens, next);
+      end = name < tokens.size() && !Is(tokens[name], "ESCAPE") ? name + 1 : next + 1;
     } else if (!collation.isEmpty()) {
       end = InsertWords(tokens, end, QLatin1String("COLLATE ") + collation);
     }
