@@ -54,6 +54,11 @@ void PutText(QWidget& form, const TextKey& key, const QString& text) {
   if (auto* const widget = qobject_cast<QWidget*>(control)) widget->setToolTip(text);
 }
 
+void PutBuiltInTips(QWidget& form, std::span<const TextKey> keys) {
+  for (const TextKey& key : keys)
+    if (key.tip != nullptr) PutText(form, key, key.tip);
+}
+
 void LoadCustomText(QWidget& form, const CustomTextReader& reader, std::span<const TextKey> keys,
                     const std::function<void(const CustomText&)>& further) {
   Procedure(reader.logName, &form).OnFailure(Texts::NotifySupport).Run([&] {

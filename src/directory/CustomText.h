@@ -13,7 +13,8 @@ class QWidget;
 struct TextKey {
   const char* key;
   const char* control;
-  int column = 0;  // of a grid
+  int column = 0;             // of a grid
+  const char* tip = nullptr;  // the built-in one; captions are the layout's
 };
 
 // How a screen of the directory has its texts replaced.
@@ -32,5 +33,7 @@ QString MissingCustomText(const QString& path);
 // is a std::logic_error.
 void LoadCustomText(QWidget& form, const CustomTextReader& reader, std::span<const TextKey> keys,
                     const std::function<void(const CustomText&)>& further = {});
+// The tips that the form has without a file.
+void PutBuiltInTips(QWidget& form, std::span<const TextKey> keys);
 // One key's text on its control.
 void PutText(QWidget& form, const TextKey& key, const QString& text);

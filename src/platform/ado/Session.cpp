@@ -87,6 +87,16 @@ QSqlQuery Session::Run(const QString& statement, const QString& source) {
   throw Failed(error, source);
 }
 
+QSqlRecord Session::Shape(QSqlQuery& query) {
+  // PostgreSQL's driver asks the server for the name of each table it sees first, a round trip for each, unless it
+  // takes the rows for some that are still coming.
+  const bool forwardOnly = query.isForwardOnly();
+  query.setForwardOnly(true);
+  const QSqlRecord shape = query.record();
+  query.setForwardOnly(forwardOnly);
+  return shape;
+}
+
 void Session::CheckEnd(const QSqlQuery& query, const QString& source) {
   if (query.lastError().isValid()) throw Failed(query.lastError(), source);
 }

@@ -116,6 +116,16 @@ size_t FirstOf(const Tokens& tokens) {
   return tokens.empty() || tokens.front().kind != SqlToken::Blank ? 0 : NextOf(tokens, 0);
 }
 
+Tokens InCommonSql(const QString& statement, const QString& ownerPrefix) {
+  Tokens tokens = Tokenize(statement);
+  PlainLiterals(tokens);
+  PlainNames(tokens);
+  DropOwner(tokens, ownerPrefix);
+  LimitForTop(tokens);
+  FullVerbs(tokens);
+  return tokens;
+}
+
 void PlainLiterals(Tokens& tokens) {
   for (size_t i = 0; i < tokens.size(); ++i) {
     if (tokens[i].kind != SqlToken::NationalLiteral) continue;
