@@ -86,7 +86,8 @@ TEST(DialectText, CarriedAgainNothingChanges) {
     }
   }
   // No engine takes these; they must come to rest nevertheless.
-  for (const char* broken : {"SELECT TOP 1 TOP 2 A FROM ID_A", "SELECT A FROM ID_A WHERE B LIKE C COLLATE"}) {
+  for (const char* broken : {"SELECT TOP 1 TOP 2 A FROM ID_A", "SELECT A FROM ID_A WHERE B LIKE C COLLATE",
+                             "SELECT A FROM ID_A WHERE (B LIKE C COLLATE LIKE D)"}) {
     for (const Engine engine : engines) {
       const QString once = Carried(engine, broken);
       EXPECT_EQ(Carried(engine, once), once);
