@@ -156,6 +156,7 @@ void CheckValue(const QString& value, const ConnectionSettings& settings) {
 
 // As the settings give it: names with points behind them.
 QString Owner(const QString& text) {
+  if (text.contains(QChar(u'\0'))) return {};
   for (const SqlToken& token : Tokenize(text)) {
     const bool name = token.kind == SqlToken::Word || token.kind == SqlToken::QuotedName;
     if (!name && token.text != u".") return {};

@@ -15,9 +15,13 @@ bool IsSymbol(const SqlToken& token, char sign) {
 
 // A list of what begins a new clause or ends an operand.
 bool EndsOperand(const SqlToken& token) {
-  static constexpr std::array words{"AND",  "OR",   "ORDER", "GROUP", "HAVING", "LIMIT",  "UNION",
-                                    "THEN", "WHEN", "ELSE",  "END",   "ESCAPE", "COLLATE"};
+  static constexpr std::array words{"AND",  "OR",   "ORDER", "GROUP",  "HAVING",  "LIMIT", "UNION", "THEN",
+                                    "WHEN", "ELSE", "END",   "ESCAPE", "COLLATE", "LIKE",  "ILIKE"};
   return std::any_of(words.begin(), words.end(), [&](const char* word) { return Is(token, word); });
+}
+
+bool IsName(const SqlToken& token) {
+  return token.kind == SqlToken::QuotedName || (token.kind == SqlToken::Word && !EndsOperand(token));
 }
 
 void InsertAt(Tokens& tokens, size_t index, std::initializer_list<SqlToken> added) {
@@ -218,7 +222,8 @@ void Patterns(Tokens& tokens, const QString& operation, const QString& collation
     size_t end = EndOfOperand(tokens, NextOf(tokens, i));
     size_t next = NextOf(tokens, end - 1);
     if (next < tokens.size() && Is(tokens[next], "COLLATE")) {
-      end = std::min(NextOf(tokens, next) + 1, tokens.size());
+      const size_t name = NextOf(tokens, next);
+      end = name < tokens.size() && IsName(tokens[name]) ? name + 1 : next + 1;
     } else if (!collation.isEmpty()) {
       end = InsertWords(tokens, end, QLatin1String("COLLATE ") + collation);
     }
