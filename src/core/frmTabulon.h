@@ -99,6 +99,7 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   void BuildControls();
   void BuildMenu();
   void BuildStatusBar();
+  QString GuidePage() const;
   QAction* HelpEntry(QMenu* menu, const QString& name, const QString& caption, const QString& formName);
 
   // The stages of Form_Load. False: the process is ending.

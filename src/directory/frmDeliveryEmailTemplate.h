@@ -35,6 +35,8 @@ class frmDeliveryEmailTemplate : public Screen {
   QString InsertStatement() const;
   int Tell(const QString& text, int style);
 
+  bool mbRowRead = false;  // the boxes show a row of the table
+
   OptionGroup* const rdForExternalURL =
       new OptionGroup(this, {{"rdForExternalURLYes", "Yes"}, {"rdForExternalURLNo", "No"}});
   QGroupBox* const fraTemplate = Form::Frame(this, "fraTemplate", "");

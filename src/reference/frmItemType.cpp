@@ -146,9 +146,11 @@ void frmItemType::PopulateItemTypeGrid() {
 void frmItemType::sstabItemType_Click(int tab) {
   cmdUpdate->setEnabled(tab == ItemTypeTab);
   if (tab != AccessTab) return;
-  // The first tab may have changed what there is to choose from.
   Procedure procedure("frmItemType.sstabItemType_Click", this);
-  procedure.Run([this] { FillAccessItemTypes(); });
+  procedure.Run([this] {
+    if (mbItemTypesChanged) FillAccessItemTypes();
+    mbItemTypesChanged = false;
+  });
   PopulateItemTypeGrid();
 }
 
@@ -266,6 +268,7 @@ void frmItemType::AddItemType() {
   WriteRow(row);
   grdItemType->SetRowQuietly(row);
   mbRecordChanged = false;
+  mbItemTypesChanged = true;
   Tell(this, "Record Added");
 }
 
@@ -300,6 +303,7 @@ void frmItemType::cmdUpdate_Click() {
     transaction.Commit();
     WriteRow(row);
     mbRecordChanged = false;
+    mbItemTypesChanged = true;
     Tell(this, "Record Updated");
   });
 }
@@ -320,6 +324,7 @@ void frmItemType::DeleteItemType() {
                        "***** SQL error on ID_ITEM_TYPE (Delete) *****");
   grdItemType->RemoveRow(row);
   mbRecordChanged = false;
+  mbItemTypesChanged = true;
   Tell(this, "Record Deleted");
 }
 

@@ -286,6 +286,44 @@ TEST_F(CustomTextTest, EveryShippedKeyIsReadByItsScreen) {
   }
 }
 
+// What a form shows and tells in tips, a line for each text with the name of its control.
+QStringList TextsOf(const QWidget& form) {
+  QStringList texts{"title: " + form.windowTitle()};
+  for (const QWidget* widget : form.findChildren<QWidget*>()) {
+    const QString name = widget->objectName();
+    if (name.isEmpty() || name.startsWith("qt_")) continue;
+    const bool isCaption = qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget);
+    if (isCaption) texts << name + ": " + widget->property("text").toString();
+    if (const auto* const frame = qobject_cast<const QGroupBox*>(widget)) texts << name + ": " + frame->title();
+    if (const auto* const menu = qobject_cast<const QMenu*>(widget)) texts << name + ": " + menu->title();
+    if (!widget->toolTip().isEmpty()) texts << name + " tip: " + widget->toolTip();
+    if (const auto* const grid = qobject_cast<const Grid*>(widget))
+      for (int col = 1; col < grid->Cols(); ++col) texts << name + ": " + grid->Text(0, col);
+  }
+  for (const QAction* entry : form.findChildren<QAction*>())
+    if (!entry->objectName().isEmpty()) texts << entry->objectName() + ": " + entry->text();
+  return texts;
+}
+
+// The file is where a site begins to write its own texts: it must say what is there.
+TEST_F(CustomTextTest, TheShippedFileHoldsTheBuiltInTexts) {
+  for (const auto& [form, section] : Sections) {
+    Setting("System", "CustomConfigFile", "");
+    OpenLibrary(form);
+    const QStringList builtIn = TextsOf(*Window());
+    EXPECT_GT(builtIn.size(), 15) << form;
+    Setting("System", "CustomConfigFile", "Library.cfg");
+    QFile::remove(File());
+    ASSERT_TRUE(QFile::copy(Shipped + "LIBRARY.CFG", File()));
+    OpenLibrary(form);
+    const QStringList shipped = TextsOf(*Window());
+    for (const QString& text : builtIn)
+      EXPECT_TRUE(shipped.contains(text)) << form << " without the file has " << text.toStdString();
+    for (const QString& text : shipped)
+      EXPECT_TRUE(builtIn.contains(text)) << form << " with the file has " << text.toStdString();
+  }
+}
+
 TEST_F(CustomTextTest, TheFrenchFileTurnsTheScreensFrench) {
   ASSERT_TRUE(QFile::copy(Shipped + "LIBRARY.FRE.CFG", File()));
   for (const auto& [form, section] : Sections) {
