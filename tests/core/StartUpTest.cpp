@@ -350,6 +350,7 @@ TEST_F(StartUpTest, WithoutTheLauncherTheSplashScreenComesFirst) {
   gLogonDialog = {};
   EXPECT_TRUE(shown);
   EXPECT_EQ(gclsOF->UserId(), "admin");
+  EXPECT_TRUE(WideTextFile::ReadLines(LogFile()).value(1).contains("Application Started"));
 }
 
 }  // namespace

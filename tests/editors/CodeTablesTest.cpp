@@ -463,6 +463,20 @@ TEST_F(CodeTablesTest, CatalogCodesTakeTheirLibraryOnUpdateOnly) {
   EXPECT_EQ(Count("ID_CATALOG_CODE", "CATALOG_CODE = 'Z9' AND CATALOG_LIBRARY_ID IS NULL"), 1);
 }
 
+TEST_F(CodeTablesTest, LibrariesThatCannotBeReadAreToldInTheirOwnLine) {
+  Another("INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME) VALUES (71, 'ONE', 'One')");
+  Another("UPDATE ID_CATALOG_CODE SET CATALOG_LIBRARY_ID = 71");
+  Start();
+  Pick("ID_CATALOG_CODE");
+  ASSERT_GT(Rows("grd0TableDesc"), 1);
+  EXPECT_EQ(Cell("grd0TableDesc", 1, 5), "ONE");
+  Another("ALTER TABLE ID_LIBRARY RENAME TO ID_LIBRARY_AWAY");
+  Prompt().Expect("***** SQL error on ID_LIBRARY  (Select) *****", 16);
+  Shell().LoadDataInGrid();
+  Another("ALTER TABLE ID_LIBRARY_AWAY RENAME TO ID_LIBRARY");
+  EXPECT_EQ(Cell("grd0TableDesc", 1, 5), "");
+}
+
 TEST_F(CodeTablesTest, ATableThatDoesNotExistFailsAloneAndSaysSo) {
   Another("INSERT INTO ID_TABLES (TABLES, TABLES_DESC, VIEW_ONLY_FLAG) VALUES ('ID_GONE', 'Aa gone', 'F')");
   Start();
