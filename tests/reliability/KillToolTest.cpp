@@ -170,7 +170,9 @@ class KillCreateTest : public KillToolTest {
     } else {
       EXPECT_FALSE(refused) << again.err.toStdString();
     }
-    if (!refused) {
+    if (refused) {
+      EXPECT_EQ(again.err.contains("It is not whole"), !whole) << again.err.toStdString();
+    } else {
       EXPECT_EQ(Run({"check"}).exitCode, 0);
     }
   }
