@@ -65,6 +65,13 @@ void frmDeliveryEmailTemplate::ClearBoxes() {
   rdSkipHeaderAndFooter->Select(0);
 }
 
+// The row of library and patron, in the letters of the two SELECTs; UPDATE and DELETE have their own.
+QString frmDeliveryEmailTemplate::OfTarget() const {
+  const QString patron = target_.PatronId();
+  return " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
+         (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron));
+}
+
 void frmDeliveryEmailTemplate::Load_TextBoxes() {
   Procedure("frmDeliveryEmailTemplate.Load_TextBoxes", this).Run([this] {
     fraTemplate->setTitle(QString("Message") +
@@ -72,10 +79,7 @@ void frmDeliveryEmailTemplate::Load_TextBoxes() {
     ClearBoxes();
     mbRowRead = false;
     txtInstitution->SetText(target_.Institution());
-    const QString patron = target_.PatronId();
-    ForEachRow("SELECT   * FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " +
-                   Sql::Number(target_.LibraryId()) +
-                   (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron)),
+    ForEachRow("SELECT   * FROM " + Sql::Table("ID_EMAIL_MESSAGE") + OfTarget(),
                "***** SQL error on ID_EMAIL_MESSAGE  (Select) *****", [this](Recordset& rows) {
                  mbRowRead = true;
                  txtSubject->SetText(Value(rows, Family() + "MESSAGE_SUBJECT"));
@@ -89,11 +93,8 @@ void frmDeliveryEmailTemplate::Load_TextBoxes() {
 
 // Asked before a row is added: two rows without a patron break no key, so another client's would stand beside it.
 bool frmDeliveryEmailTemplate::RowExists() const {
-  const QString patron = target_.PatronId();
   bool found = false;
-  FirstValue("SELECT   LIBRARY_ID FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " +
-                 Sql::Number(target_.LibraryId()) +
-                 (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron)),
+  FirstValue("SELECT   LIBRARY_ID FROM " + Sql::Table("ID_EMAIL_MESSAGE") + OfTarget(),
              "***** SQL error on ID_EMAIL_MESSAGE  (Select) *****", &found);
   return found;
 }

@@ -29,6 +29,7 @@ class frmDeliveryEmailTemplate : public Screen {
   void cmdDelete_Click();
   // "SED_" for the external URL, "EMAIL_" for electronic delivery.
   QString Family() const;
+  QString OfTarget() const;
   bool RowExists() const;
   QString UpdateStatement() const;
   QString InsertStatement() const;

@@ -9,6 +9,7 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
+#include "core/frmLogon.h"
 #include "support/Walk.h"
 
 namespace {
@@ -63,11 +64,11 @@ class GalleryTest : public Walk {
     Walk::TearDown();
   }
 
-  void Both(const QString& name) {
+  void Both(const QString& name, QWidget* window = nullptr) {
     QApplication::setPalette(light_);
-    Picture(name);
+    Picture(name, window);
     QApplication::setPalette(DarkPalette());
-    Picture(name + "-dark");
+    Picture(name + "-dark", window);
     QApplication::setPalette(light_);
   }
 
@@ -114,6 +115,15 @@ TEST_F(GalleryTest, EveryDialog) {
     Both(place);
     if (std::exchange(compared, screen.objectName()) != compared) CompareSheet(screen, compared);
   });
+}
+
+// The one window that opens before there is a database.
+TEST_F(GalleryTest, TheLogon) {
+  frmLogon logon;
+  logon.findChild<TextBox*>("txtUser")->SetText("admin");
+  logon.show();
+  Both("frmLogon", &logon);
+  CompareSheet(logon, "frmLogon");
 }
 
 }  // namespace

@@ -19,6 +19,7 @@ class ReliabilityDesk : public SampleDesk {
   using Desk::Choose;
   using Desk::ChooseAt;
   using Desk::Click;
+  using Desk::Count;
   using Desk::Database;
   using Desk::Find;
   using Desk::Folder;

@@ -56,9 +56,12 @@ std::vector<WritingScreen> Reference() {
                              [open = currencies.open](ReliabilityDesk& desk, int) {
                                open(desk);
                                constexpr int Base = 4;
-                               auto* const grid = desk.Find<Grid>("grdCurrencyCode");
+                               const auto* const grid = desk.Find<Grid>("grdCurrencyCode");
+                               // The mark on screen is ahead of the stored one when an update has failed.
+                               const QString stored =
+                                   desk.Ask("SELECT CURRENCY_CODE FROM ID_CURRENCY_CODE WHERE CURRENCY_BASE = 'Y'");
                                int row = 1;
-                               while (!grid->Text(row, Base).trimmed().isEmpty()) ++row;
+                               while (!grid->Text(row, Base).trimmed().isEmpty() || grid->Text(row, 1) == stored) ++row;
                                desk.ClickCell("grdCurrencyCode", row, Base);
                              },
                              Button("cmdUpdate")}};

@@ -194,6 +194,13 @@ std::vector<WritingScreen> FiveScreens() {
                                                    {"txtZipPostalCode", "PRIME_POST_ZIPCODE", Trimmed::No},
                                                    {"txtDeliveryService", "DELIVERY_SERVICE", Trimmed::No},
                                                    {"txtDocview", "DOCVIEW_ADDRESS", Trimmed::No}}});
+  registration.open = [open = registration.open](ReliabilityDesk& desk) {
+    open(desk);
+    // By mail a street would be required.
+    for (const char* list : {"cmbDeliveryMethodCopy", "cmbDeliveryMethodLoan", "cboMsgMethod"})
+      if (desk.Find<CodeComboBox>(list)->Code() != "E") desk.ChooseCode(list, "E");
+  };
+  registration.ownColumns += QStringList{"DELIV_METHOD_COPY", "DELIV_METHOD_LOAN", "MSG_METHOD"};
   registration.keys = {{"txtLibrarySymbol", "LIBRARY_SYMBOL"}};
   registration.add = Button("cmdAdd");
   registration.remove = Button("cmdDelete");

@@ -63,7 +63,7 @@ std::vector<WritingAction> WritingScreen::Actions() const {
                          screen.EnterNew(desk, round);
                          const auto marks = Shown(desk, screen.marks);
                          screen.add(desk);
-                         if (!screen.grid) return;
+                         if (!screen.grid || desk.Said().Refusal()) return;
                          screen.open(desk);
                          SelectMarked(desk, screen.grid, marks);
                        },

@@ -61,7 +61,7 @@ QString Mark(int round) {
 // --- Opening ---
 
 void FirstRow(ReliabilityDesk& desk, const char* grid) {
-  if (desk.Find<Grid>(grid)->Row() < 1) desk.SelectRow(grid, 1);
+  if (desk.Find<Grid>(grid)->Row() < 1 && desk.Rows(grid) > 1) desk.SelectRow(grid, 1);
 }
 
 Step Tab(int tab, const char* grid, const char* inner, int innerTab) {

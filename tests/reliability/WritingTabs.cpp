@@ -55,7 +55,8 @@ WritingScreen Methods(const char* name, const char* place, const char* table, co
                        .table = table,
                        .fields = {{descriptionBox, description}},
                        .open = Tab(Shell::DeliveryTab, grid, "sstab5Delivery", tab),
-                       .keys = {{codeBox, code, Trimmed::EndsAndUpper}}});
+                       .keys = {{codeBox, code, Trimmed::EndsAndUpper}},
+                       .ownColumns = {"ACTIVE_FLAG", "PRINT_FLAG", "WEB_FLAG"}});  // No is stored for what was open
 }
 
 // A rate table that is priced by billing rate: its key is two lists, the rest are numbers.
@@ -160,7 +161,15 @@ std::vector<WritingScreen> Exceptions() {
       {.name = "IsoRejects",
        .place = "tab-09-exceptions-3",
        .table = "ID_EXCEPTION_ISO",
-       .open = tab("grd8ISO", 3),
+       .open =
+           [tab](ReliabilityDesk& desk) {
+             // Enough codes to give a reason to.
+             for (int code = 10; code < 40 && desk.Count("ID_EXCEPTION_CODE", "EXCEPTION_CODE = 'Y39'") == 0; ++code)
+               desk.Another(QString("INSERT INTO ID_EXCEPTION_CODE (EXCEPTION_CODE, EXCEPTION_CODE_DESC, "
+                                    "EXCEPTION_TYPE) VALUES ('Y%1', 'Reason %1', 'R')")
+                                .arg(code));
+             tab("grd8ISO", 3)(desk);
+           },
        .write = Entry("mnuOptionsUpdate"),
        .change = Another("cmb8ISOMessage"),
        .choose = Both(FreeEntry("cmb8RejectType", "ID_EXCEPTION_ISO", "EXCEPTION_CODE"), Another("cmb8ISOMessage")),

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <optional>
 #include <stdexcept>
 #include <vector>
 
@@ -106,6 +107,7 @@ struct Link {
   Clock::time_point due;
   bool asked = false;  // a request that has no answer yet
   bool ended = false;
+  std::optional<DelayingProxy::Break> breaks = {};
 };
 
 }  // namespace
@@ -187,7 +189,10 @@ struct DelayingProxy::Carrier {
       link.ended = true;
       return;
     }
-    if (!link.asked) link.due = Clock::now() + std::chrono::milliseconds(proxy.delay_);
+    if (!link.asked) {
+      link.due = Clock::now() + std::chrono::milliseconds(proxy.delay_);
+      if (proxy.untilBreak_ > 0 && --proxy.untilBreak_ == 0) link.breaks = proxy.break_.load();
+    }
     link.asked = true;
     link.held.append(buffer, count);
   }
@@ -198,12 +203,13 @@ struct DelayingProxy::Carrier {
       link.asked = false;
       ++proxy.roundTrips_;
     }
-    link.ended |= count <= 0 || !SendAll(link.client, buffer, count);
+    link.ended |= count <= 0 || link.breaks || !SendAll(link.client, buffer, count);
   }
 
   static void SendOn(Link& link) {
     if (link.ended || link.held.isEmpty() || link.due > Clock::now()) return;
-    link.ended = !SendAll(link.server, link.held.constData(), link.held.size());
+    const bool torn = link.breaks == Break::InRequest;
+    link.ended = !SendAll(link.server, link.held.constData(), torn ? link.held.size() / 2 : link.held.size()) || torn;
     link.held.clear();
   }
 
@@ -237,6 +243,11 @@ DelayingProxy::~DelayingProxy() {
 void DelayingProxy::CutAll() {
   cuts_ = true;
   ::eventfd_write(carrier_->bell, 1);
+}
+
+void DelayingProxy::BreakAt(int request, Break where) {
+  break_ = where;
+  untilBreak_ = request;
 }
 
 ConnectionSettings DelayingProxy::Settings() const {

@@ -24,6 +24,11 @@ class DelayingProxy {
   void SetDelay(std::chrono::milliseconds delay) { delay_ = delay.count(); }
   // Ends all sessions, as a line that breaks.
   void CutAll();
+  // In the middle of a request: half of it arrives and the server never runs it; or the server has run it and the
+  // answer is lost.
+  enum class Break { InRequest, BeforeAnswer };
+  // The session that sends the request of that number, counted from 1 and from now, breaks there. Once.
+  void BreakAt(int request, Break where);
   int RoundTrips() const { return roundTrips_; }
   int Sessions() const { return sessions_; }
 
@@ -35,6 +40,8 @@ class DelayingProxy {
   std::atomic<qint64> delay_;  // milliseconds
   std::atomic<int> roundTrips_{0}, sessions_{0};
   std::atomic<bool> cuts_{false}, ends_{false};
+  std::atomic<int> untilBreak_{0};  // requests; 0 when none is to break
+  std::atomic<Break> break_{Break::InRequest};
   std::unique_ptr<Carrier> carrier_;
   std::thread thread_;
 };

@@ -362,11 +362,11 @@ QString Desk::Focus() const {
   return focus ? focus->objectName() : QString();
 }
 
-void Desk::Picture(const QString& name) const {
+void Desk::Picture(const QString& name, QWidget* window) const {
   const QDir gallery(QString(TABULON_BINARY_DIR) + "/gallery");
   gallery.mkpath(".");
   QApplication::processEvents();
-  EXPECT_TRUE(Window()->grab().save(gallery.filePath(name + ".png")));
+  EXPECT_TRUE((window ? window : Window())->grab().save(gallery.filePath(name + ".png")));
 }
 
 // --- Watching ---
