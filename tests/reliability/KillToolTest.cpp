@@ -11,6 +11,7 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 #include <QTest>
+#include <algorithm>
 
 #include "platform/ado/Recordset.h"
 #include "reliability/DatabaseContents.h"
@@ -24,6 +25,17 @@ int Kills() {
   const int kills = qEnvironmentVariableIntValue("TABULON_KILLS", &given);
   return given ? kills : 5;
 }
+
+// Moments within a run of the tool, whose duration is not the same each time.
+class Moments {
+ public:
+  explicit Moments(int duration) : duration_(duration) {}
+  int Next() const { return QRandomGenerator::global()->bounded(0, duration_); }
+  void WasTooLate() { duration_ = std::max(1, duration_ * 9 / 10); }
+
+ private:
+  int duration_;
+};
 
 class KillToolTest : public testing::Test {
  protected:
@@ -123,16 +135,17 @@ class KillApplyTest : public KillToolTest {
 };
 
 TEST_F(KillApplyTest, TheFileIsAppliedAsAWholeOrNotAtAll) {
-  const int duration = Milliseconds({"apply", "before.txt", "--delete"});
+  Moments moments(Milliseconds({"apply", "before.txt", "--delete"}));
   ASSERT_TRUE(Differences(before_, ContentsOf(Client())).isEmpty());
   bool isAfter = false;
   int killed = 0, applied = 0;
-  for (int kill = 0; kill < Kills(); ++kill) {
-    const int milliseconds = QRandomGenerator::global()->bounded(0, duration);
-    SCOPED_TRACE("kill " + std::to_string(kill) + " after " + std::to_string(milliseconds) + " ms");
+  while (killed < Kills()) {
+    const int milliseconds = moments.Next();
+    SCOPED_TRACE("kill " + std::to_string(killed) + " after " + std::to_string(milliseconds) + " ms");
     Client().Close();
     const Ended ended = Run({"apply", isAfter ? "before.txt" : "after.txt", "--delete"}, milliseconds);
     killed += ended.killed;
+    if (!ended.killed) moments.WasTooLate();
     AwaitEndOfItsSessions(database_.Settings());
     const DatabaseContents now = ContentsOf(Client());
     const bool wasAfter = isAfter;
@@ -170,7 +183,9 @@ class KillCreateTest : public KillToolTest {
     } else {
       EXPECT_FALSE(refused) << again.err.toStdString();
     }
-    if (!refused) {
+    if (refused) {
+      EXPECT_EQ(again.err.contains("It is not whole"), !whole) << again.err.toStdString();
+    } else {
       EXPECT_EQ(Run({"check"}).exitCode, 0);
     }
   }
@@ -180,20 +195,21 @@ class KillCreateTest : public KillToolTest {
 
 TEST_F(KillCreateTest, ADatabaseIsWholeOrIsMadeAgainOrIsKnownToLackTables) {
   Fresh();
-  const int duration = Milliseconds({"create"});
+  Moments moments(Milliseconds({"create"}));
   TestDatabase::Remove(fresh_);
   int killed = 0, inPart = 0, madeAgain = 0;
-  for (int kill = 0; kill < Kills(); ++kill) {
-    const int milliseconds = QRandomGenerator::global()->bounded(0, duration);
-    SCOPED_TRACE("kill " + std::to_string(kill) + " after " + std::to_string(milliseconds) + " ms");
+  while (killed < Kills()) {
+    const int milliseconds = moments.Next();
+    SCOPED_TRACE("kill " + std::to_string(killed) + " after " + std::to_string(milliseconds) + " ms");
     Fresh();
     const Ended ended = Run({"create"}, milliseconds);
     killed += ended.killed;
+    if (!ended.killed) moments.WasTooLate();
     AwaitEndOfItsSessions(fresh_);
     bool whole = false, refused = false;
     MustBeWholeOrKnownForWhatItIs(whole, refused);
     if (!ended.killed) {
-      EXPECT_TRUE(whole);
+      ASSERT_TRUE(whole) << ended.err.toStdString();
     }
     inPart += refused && !whole;
     madeAgain += !refused;

@@ -35,3 +35,13 @@ const Sent* FindSent(const QString& screen, const QString& action) {
     if (screen == QLatin1String(sent.screen) && action == QLatin1String(sent.action)) return &sent;
   return nullptr;
 }
+
+QString DocumentLine(const Sent& sent) {
+  const int trips = sent.count + 2 * sent.transactions + sent.catalogue;
+  return QString("| %1 | %2 | %3 | %4 | %5 s | %6 |")
+      .arg(sent.screen, sent.action)
+      .arg(sent.count)
+      .arg(trips)
+      .arg(trips * 0.05, 0, 'f', 2)
+      .arg(sent.statements);
+}

@@ -22,5 +22,8 @@ const std::vector<Sent>& SentStatements();
 // Null where the table has no such row.
 const Sent* FindSent(const QString& screen, const QString& action);
 
+// A row of the table in docs/engines.md.
+QString DocumentLine(const Sent& sent);
+
 // "SELECT LIBRARY_ID FROM ID_LIBRARY ..." is "read LIBRARY"; equal ones in a row are counted.
 QString InShort(const QStringList& statements);
