@@ -86,6 +86,18 @@ TEST_F(DocumentsTest, EveryCommandAndOptionIsInAdministration) {
   for (const char* common : {"--site", "--help", "--version"}) EXPECT_TRUE(text.contains(common)) << common;
 }
 
+TEST_F(DocumentsTest, EveryArgumentOfTheProgramIsTold) {
+  const QString usage = Source("src/main.cpp").section("Usage: Tabulon", 1).section("return true", 0, 0);
+  const QStringList arguments = AllMatches(usage, "^ *\"  ([a-z-]+) ");
+  EXPECT_GE(arguments.size(), 6);
+  const QString manual = Manual("Tabulon.1"), text = Source("docs/administration.md");
+  for (const QString& argument : arguments) {
+    EXPECT_TRUE(manual.contains(QRegularExpression("^\\.[BI] " + argument + '$', QRegularExpression::MultilineOption)))
+        << argument.toStdString();
+    EXPECT_TRUE(text.contains(argument)) << argument.toStdString();
+  }
+}
+
 TEST_F(DocumentsTest, EveryKeyOfTheSettingsIsToldAndStandsInTheSample) {
   const QString text = Source("docs/administration.md").section("\n## The settings file", 1).section("\n## ", 0, 0);
   const QString sample = QString(TABULON_SOURCE_DIR) + "/database/site/Ostana.ini";
