@@ -30,15 +30,6 @@ void MakeBanner(QLabel* label, const QColor& colour) {
   label->hide();
 }
 
-// A field that the Tab key stops at; the parts that the toolkit's own fields are made of are none.
-bool IsTabStop(const QWidget* field, const QWidget* content) {
-  if (!(field->focusPolicy() & Qt::TabFocus) || field->focusProxy()) return false;
-  for (const QWidget* above = field->parentWidget(); above != content; above = above->parentWidget())
-    if (above->inherits("QComboBox") || above->inherits("QAbstractSpinBox") || above->inherits("QAbstractScrollArea"))
-      return false;
-  return true;
-}
-
 }  // namespace
 
 LibraryScreen::LibraryScreen(LibrarySibling self, QWidget* parent)
@@ -146,7 +137,6 @@ QWidget* LibraryScreen::SymbolRow() {
 QWidget* LibraryScreen::Banner() {
   auto* const banner = new QWidget(this);
   Form::Rows rows(banner);
-  rows.Layout()->setContentsMargins(0, 0, 0, 0);
   rows.Add(lblLibrarySymbol, SymbolRow());
   rows.Add(lblInstitution, txtInstitution);
   rows.Add(lblLibraryName, txtLibraryName);
@@ -177,17 +167,6 @@ void LibraryScreen::Compose(QWidget* content, std::initializer_list<QWidget*> co
   auto* const bar = new QMenuBar(this);
   for (QMenu* menu : {mnuFile, mnuDisplay, mnuOptions, mnuRequest, mnuHelp}) bar->addMenu(menu);
   column->setMenuBar(bar);
-
-  std::vector<QWidget*> order = {txtLibrarySymbol, cmbLibrarySymbol, cmdSearch, cmdAdvanced,
-                                 txtInstitution,   txtLibraryName,   txtContact};
-  for (QWidget* field : content->findChildren<QWidget*>())
-    if (IsTabStop(field, content)) order.push_back(field);
-  for (const LibrarySibling sibling : AllLibrarySiblings)
-    if (QPushButton* const button = SiblingButton(sibling)) order.push_back(button);
-  order.insert(order.end(), doors.begin(), doors.end());
-  order.insert(order.end(), {cmdArticle, cmdBook});
-  std::copy_if(commands.begin(), commands.end(), std::back_inserter(order), [](QWidget* button) { return button; });
-  for (size_t next = 1; next < order.size(); ++next) setTabOrder(order[next - 1], order[next]);
 }
 
 // --- Events ---

@@ -7,8 +7,7 @@
 #include "core/SqlText.h"
 
 namespace {
-const QString Failed =
-    "A problem occurred while updating this record.  If the problem persists contact support.";
+const QString Failed = "A problem occurred while updating this record.  If the problem persists contact support.";
 }
 
 frmDeliveryEmailTemplate::frmDeliveryEmailTemplate(QWidget* parent)
@@ -34,7 +33,6 @@ void frmDeliveryEmailTemplate::BuildControls() {
   whose.Add("lblInstitution", "Institution:", txtInstitution);
   whose.Add("lblPatronName", "Patron:", txtPatronName);
   whose.Add("lblForExternalURL", "For External URL:", rdForExternalURL->Row());
-  head->layout()->setContentsMargins(0, 0, 0, 0);
   Form::Rows rows(fraTemplate);
   rows.Add("lblSkipHeaderAndFooter", "Skip Header and Footer:", rdSkipHeaderAndFooter->Row());
   rows.Add("lblSubject", "Sub&ject:", txtSubject);
@@ -56,7 +54,9 @@ void frmDeliveryEmailTemplate::Form_Load() {
   txtSubject->setFocus();
 }
 
-QString frmDeliveryEmailTemplate::Family() const { return rdForExternalURL->IsSet(0) ? "SED_" : "EMAIL_"; }
+QString frmDeliveryEmailTemplate::Family() const {
+  return rdForExternalURL->IsSet(0) ? "SED_" : "EMAIL_";
+}
 
 void frmDeliveryEmailTemplate::ClearBoxes() {
   txtSubject->SetText({});
@@ -67,13 +67,13 @@ void frmDeliveryEmailTemplate::ClearBoxes() {
 
 void frmDeliveryEmailTemplate::Load_TextBoxes() {
   Procedure("frmDeliveryEmailTemplate.Load_TextBoxes", this).Run([this] {
-    fraTemplate->setTitle(QString("Message") +
-                          (Family() == "SED_" ? " (Template for External URL)" : " (Template for Electronic Delivery)"));
+    fraTemplate->setTitle(QString("Message") + (Family() == "SED_" ? " (Template for External URL)"
+                                                                   : " (Template for Electronic Delivery)"));
     ClearBoxes();
     txtInstitution->SetText(target_.Institution());
     const QString patron = target_.PatronId();
-    ForEachRow("SELECT   * FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " +
-                   Sql::Number(target_.LibraryId()) +
+    ForEachRow("SELECT   * FROM " + Sql::Table("ID_EMAIL_MESSAGE") +
+                   " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
                    (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron)),
                "***** SQL error on ID_EMAIL_MESSAGE  (Select) *****", [this](Recordset& rows) {
                  txtSubject->SetText(Value(rows, Family() + "MESSAGE_SUBJECT"));
@@ -89,8 +89,8 @@ void frmDeliveryEmailTemplate::Load_TextBoxes() {
 bool frmDeliveryEmailTemplate::RowExists() const {
   const QString patron = target_.PatronId();
   bool found = false;
-  FirstValue("SELECT   LIBRARY_ID FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " +
-                 Sql::Number(target_.LibraryId()) +
+  FirstValue("SELECT   LIBRARY_ID FROM " + Sql::Table("ID_EMAIL_MESSAGE") +
+                 " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
                  (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron)),
              "***** SQL error on ID_EMAIL_MESSAGE  (Select) *****", &found);
   return found;
@@ -98,12 +98,12 @@ bool frmDeliveryEmailTemplate::RowExists() const {
 
 QString frmDeliveryEmailTemplate::UpdateStatement() const {
   const QString patron = target_.PatronId();
-  return "UPDATE " + Sql::Table("ID_EMAIL_MESSAGE") + " SET " + Family() + "SKIP_HEADER_FOOTER = " +
-         (rdSkipHeaderAndFooter->IsSet(1) ? "N'N'" : "N'Y'") + ", " + Family() +
+  return "UPDATE " + Sql::Table("ID_EMAIL_MESSAGE") + " SET " + Family() +
+         "SKIP_HEADER_FOOTER = " + (rdSkipHeaderAndFooter->IsSet(1) ? "N'N'" : "N'Y'") + ", " + Family() +
          "MESSAGE_SUBJECT = " + Sql::NationalOr(txtSubject->Text(), "Null") + ", " + Family() +
          "MESSAGE_REQUEST = " + Sql::NationalOr(txtRequestInfo->Text(), "Null") + ", " + Family() +
-         "MESSAGE_BODY = " + Sql::NationalOr(txtBody->Text(), "Null") + " WHERE    LIBRARY_ID = " +
-         Sql::Number(target_.LibraryId()) + " " +
+         "MESSAGE_BODY = " + Sql::NationalOr(txtBody->Text(), "Null") +
+         " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) + " " +
          (patron.isEmpty() ? QString("AND      PATRON_ID IS NULL") : "AND      PATRON_ID = " + Sql::National(patron));
 }
 
@@ -141,9 +141,9 @@ void frmDeliveryEmailTemplate::cmdOK_Click() {
         statement = exists ? UpdateStatement() : InsertStatement();
         if (gclsOF->Tracing())
           gclsOF->WriteLog((exists ? "Update Statement: " : "Insert Statement: ") + statement, {}, "L");
-        const qint64 written = ExecuteInTransaction(
-            statement, exists ? "***** SQL Error on ID_EMAIL_MESSAGE (Update) *****"
-                              : "***** SQL Error on ID_EMAIL_MESSAGE (Insert) *****");
+        const qint64 written =
+            ExecuteInTransaction(statement, exists ? "***** SQL Error on ID_EMAIL_MESSAGE (Update) *****"
+                                                   : "***** SQL Error on ID_EMAIL_MESSAGE (Insert) *****");
         if (written == 0) {
           gclsOF->WriteLog("SQL statement: " + statement, {}, "L");
           Tell("Cannot add/update this record.", MessageStyle::Stop);

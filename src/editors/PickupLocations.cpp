@@ -65,7 +65,6 @@ void PickupLocations::BuildControls() {
   rows.Add("lbl5dILSCode", "ILS Code:", txt5dILSCode);
   rows.Add("lbl5dDeliverySystemCode", "Delivery Code:", txt5dDeliverySystemCode);
   rows.Add("lbl5dSelectLibrarySymbol", "Show Pickup Locations from:", cmb5dSelectLibrarySymbol);
-  fields->layout()->setContentsMargins(0, 0, 0, 0);
   cmb5dSelectLibrarySymbol->AddNone("All Libraries!");
   cmb5dSelectLibrarySymbol->SetIndex(0);
   grd5dTable->setAccessibleName("Pickup locations");

@@ -17,7 +17,6 @@ void Printers::BuildControls() {
   Form::Rows rows(boxes);
   rows.Add("lbl3Printer", "Printer name", txt3Printer);
   rows.Add("lbl3Device", "Device:", txt3Device, cmd3Select);
-  boxes->layout()->setContentsMargins(0, 0, 0, 0);
   grd3Printer->setAccessibleName("Printers");
   Form::Column(this, {boxes})->addWidget(grd3Printer, 1);
 }

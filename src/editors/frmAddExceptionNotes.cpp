@@ -46,7 +46,6 @@ void frmAddExceptionNotes::BuildControls() {
   Form::Rows rows(fields);
   rows.Add("lblExceptionCode", "Exception Code:", txtExceptionCode);
   rows.Add("lblExceptionNote", "Exception N&ote:", txtExceptionNote);
-  fields->layout()->setContentsMargins(0, 0, 0, 0);
   auto* const order = new QVBoxLayout;
   order->addStretch();
   order->addWidget(cmdUp);
@@ -60,8 +59,6 @@ void frmAddExceptionNotes::BuildControls() {
   column->addWidget(
       Form::Label(this, "lblDefaultNote", "The first Exception Note in the list will be used as the default."));
   column->addLayout(Form::ButtonRow({cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdCancel, cmdClose}));
-  Form::TabOrder({txtExceptionNote, grdExceptionNote, cmdUp, cmdDown, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdCancel,
-                  cmdClose});
   resize(720, 520);
 }
 

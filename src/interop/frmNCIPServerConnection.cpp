@@ -56,7 +56,7 @@ void frmNCIPServerConnection::BuildControls() {
   fields->addStretch();
   columns->addLayout(fields);
   columns->addWidget(MessageFrames(), 0, Qt::AlignTop);
-  Compose(content, chkDeleteItem);
+  Compose(content);
   resize(980, 520);
 }
 

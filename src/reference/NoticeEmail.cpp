@@ -51,7 +51,6 @@ void NoticeEmail::BuildControls() {
   connect(cmdOK, &QPushButton::clicked, this, &NoticeEmail::cmdOK_Click);
   connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(); });
   buttons->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}), 1);
-  head->layout()->setContentsMargins(0, 0, 0, 0);
   forms_.push_back(rows.Layout());
   AlignLabels();
   Form::Column(this, {head, groups_})->addLayout(buttons);
@@ -83,7 +82,6 @@ QWidget* NoticeEmail::BuildGroup(NoticeColumn::Group group) {
     rows.Add("lbl" + column.control.mid(3), column.caption, box, beside);
     ConnectBox(field);
   }
-  page->layout()->setContentsMargins(0, 0, 0, 0);
   forms_.push_back(rows.Layout());
   const bool grows = std::any_of(fields_.begin(), fields_.end(),
                                  [group](const Field& field) { return field.column.group == group && field.memo; });

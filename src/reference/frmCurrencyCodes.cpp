@@ -63,8 +63,6 @@ void frmCurrencyCodes::BuildControls() {
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdCurrencyCode, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder({txtCurrencyCode, txtDescription, txtCountry, txtExchangeRate, cmbSymbol, grdCurrencyCode, cmdAdd,
-                  cmdUpdate, cmdDelete, cmdClose});
   resize(640, 520);
 }
 

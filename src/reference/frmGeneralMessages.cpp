@@ -46,8 +46,6 @@ void frmGeneralMessages::BuildControls() {
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdGeneralMessage, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder({cmbShowMessages, txtLibrarySymbol, cmdFindLibrary, txtCode, txtDescription, txtSubject, txtMessage,
-                  grdGeneralMessage, cmdAdd, cmdUpdate, cmdDelete, cmdClose});
   resize(900, 640);
 }
 

@@ -53,7 +53,6 @@ void frmISONamespace::BuildControls() {
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdNameSpace, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder({txtNameSpace, txtDescription, txtFieldName, grdNameSpace, cmdAdd, cmdUpdate, cmdDelete, cmdClose});
   resize(600, 440);
 }
 

@@ -60,9 +60,6 @@ void frmItemType::BuildControls() {
   QVBoxLayout* const column = Form::Column(this);
   column->addWidget(sstabItemType, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder({sstabItemType, txtItemType, txtCharge, optFixedCharge->Button(No), optFixedCharge->Button(Yes),
-                  txtDescription, grdItemType, cmbAccessGroup, cmbAccessItemType, grdAccessItemType, cmdAdd, cmdUpdate,
-                  cmdDelete, cmdClose});
   resize(600, 520);
 }
 

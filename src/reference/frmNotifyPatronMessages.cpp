@@ -71,26 +71,6 @@ void frmNotifyPatronMessages::BuildControls() {
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdPatronMessage, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdClose}));
-  Form::TabOrder({cmbShowMessages,
-                  txtLibrarySymbol,
-                  cmdFindLibrary,
-                  txtCode,
-                  txtDescription,
-                  txtSubject,
-                  txtMessage,
-                  rdResponseRequired->Button(Yes),
-                  rdResponseRequired->Button(No),
-                  rdDocumentRequired->Button(Yes),
-                  rdDocumentRequired->Button(No),
-                  cmbHoldQueue,
-                  cmbRespondedQueue,
-                  cmbExceptionCode,
-                  grdPatronMessage,
-                  cmdAdd,
-                  cmdUpdate,
-                  cmdDelete,
-                  cmdClear,
-                  cmdClose});
   resize(1100, 740);
 }
 

@@ -89,9 +89,6 @@ void frmServiceCode::BuildControls() {
   QVBoxLayout* const column = Form::Column(this);
   column->addWidget(sstabServiceCode, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdClose}));
-  Form::TabOrder({sstabServiceCode, txtServiceCode, cmbCountryRegion, cmbDeliveryMethod, cmbServiceLevel,
-                  cmbSystemSource, cmbItemType, grdServiceCode, cmbRegion, txtCountryCode, grdCountryCode, cmdAdd,
-                  cmdUpdate, cmdDelete, cmdClear, cmdClose});
   resize(720, 600);
 }
 

@@ -10,6 +10,7 @@
 #include "platform/controls/GridFinder.h"
 #include "platform/controls/GridHeading.h"
 #include "platform/controls/GridModel.h"
+#include "platform/controls/GridStyle.h"
 
 namespace {
 constexpr int DefaultTwips = 960;
@@ -44,6 +45,8 @@ Grid::Grid(QWidget* parent, const QString& name, int columns)
     edit_ = Edit{row, col, old};
   });
   SetCols(columns);
+  setStyle(GridStyle::Instance());
+  heading_->setStyle(GridStyle::Instance());
 }
 
 void Grid::SetUpHeaders() {
@@ -60,9 +63,12 @@ void Grid::SetUpHeaders() {
   connect(heading, &QHeaderView::sectionClicked, this, &Grid::HeadingClicked);
   connect(heading, &QHeaderView::sectionResized, this, [this](int col, int, int width) {
     if (stretching_ || width == 0) return;
+    if (heading_->IsPressed()) {
+      KeepWidths();
+      columns_[At(col)].byHand = columns_[At(col)].drawn = true;
+    }
     columns_[At(col)].pixels = width;
-    columns_[At(col)].byHand = heading_->IsPressed();
-    StretchLast();
+    ShareRoom();
   });
   connect(heading_, &GridHeading::Released, this, &Grid::RememberWidths);
 }
@@ -186,6 +192,7 @@ void Grid::EndLoad() {
   loading_ = false;
   const QScopedValueRollback quiet(quiet_, true);
   model_->Announce();
+  MeasureTexts();
   ShowCurrent(false);
 }
 

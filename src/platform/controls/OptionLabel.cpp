@@ -1,4 +1,4 @@
-#include "interop/OptionLabel.h"
+#include "platform/controls/OptionLabel.h"
 
 #include <QMouseEvent>
 #include <QRadioButton>
