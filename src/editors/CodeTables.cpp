@@ -34,6 +34,7 @@ void CodeTables::BuildControls() {
   rows.Add(lbl0bDisplay, fra0bDisplay);
 
   grd0TableDesc->setAccessibleName("Rows of the code table");
+  Form::Require({txt0Code});
   Form::Column(this, {choices})->addWidget(grd0TableDesc, 1);
 }
 

@@ -26,6 +26,7 @@ void Departments::BuildControls() {
   rows.Add("lbl2Address", "Address:", txt2Address);
   rows.Beside("lblNCIPDepartment", "NCIP Department:", txtNCIPDepartment);
   grd2Department->setAccessibleName("Departments");
+  Form::Require({txt2LibrarySymbol, txt2Department, txt2Description});
   Form::Column(this, {boxes})->addWidget(grd2Department, 1);
 }
 

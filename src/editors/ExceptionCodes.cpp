@@ -33,6 +33,7 @@ void ExceptionCodes::BuildControls() {
   rows.Add("lblExceptionType", "Exception &Type:", cboExceptionType);
   rows.Add(lbl8ServiceCharge, txt8ServiceCharge);
   grd8Table->setAccessibleName("Exception codes");
+  Form::Require({txt8Code, txt8Description, cboExceptionType});
   Form::Column(this, {fields, grd8Table})->setStretch(1, 1);
 }
 

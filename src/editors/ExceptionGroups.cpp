@@ -37,6 +37,7 @@ void ExceptionGroups::BuildControls() {
   rows.Add("lbl8AccessGroup", "Access Group:", cmb8AccessGroup);
   rows.Add("lbl8dException", "Exception:", cmb8dException);
   grd8dTable->setAccessibleName("Exceptions of the access group");
+  Form::Require({cmb8AccessGroup, cmb8dException});
   Form::Column(this, {fields, grd8dTable})->setStretch(1, 1);
 }
 

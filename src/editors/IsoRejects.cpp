@@ -42,6 +42,7 @@ void IsoRejects::BuildControls() {
   rows.Add("lbl8RejectType", "Reject Type :", cmb8RejectType, txt8RejectTypeCode);
   rows.Add("lbl8ISOMessage", "ISO Message:", cmb8ISOMessage);
   grd8ISO->setAccessibleName("ISO reject codes");
+  Form::Require({cmb8RejectType, cmb8ISOMessage});
   Form::Column(this, {fields, grd8ISO})->setStretch(1, 1);
 }
 

@@ -47,6 +47,7 @@ void LoanStatuses::BuildControls() {
   rows.Add("lbl6UserDisplay", "User Display:", opt6UserDisplay->Row());
   rows.Add(lbl6bLoanCharge, txt6bLoanCharge);
   rows.Add(lbl6bFixedCharge, frm6bFixedCharge);
+  Form::Require({txt6bCode});
   Form::Column(this, {inputs})->addWidget(grd6bTable, 1);
 
   const char* const headings[] = {"", "Code", "Description", "Loan Charge", "Fixed", "Loan Complete", "User Display"};

@@ -48,6 +48,7 @@ void MethodPage::BuildControls() {
     rows.Add("", flag.caption, pairs_.back()->Row(flag.frame));
   }
   grid_->setAccessibleName(method_.accessibleName);
+  Form::Require({code_, description_});
   Form::Column(this, {fields})->addWidget(grid_, 1);
 }
 

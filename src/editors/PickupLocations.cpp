@@ -68,6 +68,7 @@ void PickupLocations::BuildControls() {
   cmb5dSelectLibrarySymbol->AddNone("All Libraries!");
   cmb5dSelectLibrarySymbol->SetIndex(0);
   grd5dTable->setAccessibleName("Pickup locations");
+  Form::Require({txt5dCode, txt5dDescription, txt5dLibrarySymbol});
   Form::Column(this, {fields})->addWidget(grd5dTable, 1);
 }
 

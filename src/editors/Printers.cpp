@@ -18,6 +18,7 @@ void Printers::BuildControls() {
   rows.Add("lbl3Printer", "Printer name", txt3Printer);
   rows.Add("lbl3Device", "Device:", txt3Device, cmd3Select);
   grd3Printer->setAccessibleName("Printers");
+  Form::Require({txt3Printer});
   Form::Column(this, {boxes})->addWidget(grd3Printer, 1);
 }
 

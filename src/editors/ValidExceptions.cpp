@@ -56,6 +56,7 @@ void ValidExceptions::BuildControls() {
   rows.Beside("lbl8DeliverySource", "Delivery Source:", cmb8DeliverySource);
   rows.Add(lblExceptionNote, txtExceptionNote, cmdMoreNotes);
   grd8Document->setAccessibleName("Valid exceptions");
+  Form::Require({cmb8DocumentSupply, cmb8ProcessType});
   Form::Column(this, {fields, grd8Document})->setStretch(1, 1);
 }
 

@@ -54,6 +54,7 @@ void frmAddExceptionNotes::BuildControls() {
   auto* const list = new QHBoxLayout;
   list->addWidget(grdExceptionNote, 1);
   list->addLayout(order);
+  Form::Require({txtExceptionNote});
   QVBoxLayout* const column = Form::Column(this, {fields});
   column->addLayout(list, 1);
   column->addWidget(

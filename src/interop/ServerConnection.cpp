@@ -33,6 +33,7 @@ ServerConnection::ServerConnection(const Facts& facts, qint32 libraryId, QWidget
 }
 
 void ServerConnection::Compose(QWidget* content) {
+  Form::Require({cmbSystem, cmbConnect, txtServerAddress, txtPort});
   QVBoxLayout* const column = Form::Column(this, {content});
   column->addStretch();
   column->addLayout(Form::ButtonRow({cmdOK, cmdDelete, cmdCancel}));

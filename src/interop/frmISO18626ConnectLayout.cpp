@@ -44,6 +44,7 @@ QWidget* frmISO18626Connect::Fields() {
   rows.Add("lblHostAddress", "Host Address:", txtHostAddress);
   rows.Add("lblUrl", "Host Url:", txtUrl);
   rows.Add("lblPort", "Port:", txtPort);
+  Form::Require({txtConnectionID, cmbILLSystem, cmbVersion, cmbAuthType, cmbConnectionType, txtHostAddress, txtPort});
   return fields;
 }
 

@@ -26,6 +26,7 @@ void frmNCIPStatusCodes::BuildControls() {
   Form::Rows rows(fields);
   rows.Add("lblNCIPStatusCode", "NCIP Status Code:", txtNCIPStatusCode);
   rows.Add("lblAllowILL", "Allow ILL:", rdAllowILL->RowWith({lblAllowILLYes, lblAllowILLNo}));
+  Form::Require({txtNCIPStatusCode});
   Compose(fields);
   resize(640, 480);
 }

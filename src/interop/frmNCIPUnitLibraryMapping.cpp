@@ -31,6 +31,7 @@ void frmNCIPUnitLibraryMapping::BuildControls() {
   Form::Rows rows(fields);
   rows.Add("lblNCIPLibrary", "NCIP Library:", txtNCIPLibrary);
   rows.Add("lblOstanaLibrary", "Ostana Library:", txtOstanaLibrary, cmdFindLibrary);
+  Form::Require({txtNCIPLibrary, txtOstanaLibrary});
   Compose(fields);
   resize(680, 480);
 }

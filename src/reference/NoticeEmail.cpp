@@ -66,7 +66,7 @@ void NoticeEmail::AlignLabels() {
 }
 
 QWidget* NoticeEmail::BuildGroup(NoticeColumn::Group group) {
-  auto* const page = new QWidget;
+  auto* const page = new QWidget(this);
   Form::Rows rows(page);
   for (Field& field : fields_) {
     const NoticeColumn& column = field.column;

@@ -43,6 +43,7 @@ void frmGeneralMessages::BuildControls() {
   rows.Add("lblDescription", "D&escription:", txtDescription);
   rows.Add("lblSubject", "&Subject:", txtSubject);
   rows.Add("lblMessage", "&Message:", txtMessage);
+  Form::Require({txtCode, txtDescription, txtMessage});
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdGeneralMessage, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));

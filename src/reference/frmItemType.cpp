@@ -57,6 +57,7 @@ void frmItemType::BuildControls() {
   Form::Column(accessPage, {accessEntry})->addWidget(grdAccessItemType, 1);
   sstabItemType->addTab(accessPage, "Item Types by User Group");
 
+  Form::Require({txtItemType, txtDescription, cmbAccessGroup, cmbAccessItemType});
   QVBoxLayout* const column = Form::Column(this);
   column->addWidget(sstabItemType, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));

@@ -68,6 +68,7 @@ void frmNotifyPatronMessages::BuildControls() {
   rows.Add(lblHoldQueue, cmbHoldQueue);
   rows.Add(lblRespondedQueue, cmbRespondedQueue);
   rows.Add(lblExceptionCode, cmbExceptionCode);
+  Form::Require({txtCode, txtDescription, txtSubject, txtMessage});
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdPatronMessage, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdClose}));

@@ -86,6 +86,7 @@ void frmServiceCode::BuildControls() {
   Form::Column(countryPage, {countryEntry})->addWidget(grdCountryCode, 1);
   sstabServiceCode->addTab(countryPage, "Country Region");
 
+  Form::Require({txtServiceCode, cmbRegion, txtCountryCode});
   QVBoxLayout* const column = Form::Column(this);
   column->addWidget(sstabServiceCode, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdClose}));

@@ -18,6 +18,9 @@ void Walk::SetUp() {
         "DebitAccountMethod_SoapAction", "RepliesService", "AddReplyMethod_SoapAction"})
     Setting("BL Web Services", key, "https://ws.example.org/");
   Setting("BL Web Services", "Use", "Y");
+  Setting("Tables", "NumberOfRejectTables", "2");
+  Setting("Tables", "AutoRejectField1", "CALL_NUMBER");
+  Setting("Tables", "AutoRejectField2", "LIBRARY_SYMBOL");
 }
 
 void Walk::UseWording(const QString& file) {
@@ -30,7 +33,7 @@ namespace {
 // What a page or a dialog can show without a word being typed: the first of its tables, the first row of its list.
 void Fill(QWidget& page) {
   for (const char* name :
-       {"cmb0Tables", "cmb4Tables", "cmb7RateTable", "cmb8AccessGroup", "cmbUserGroup", "cmbRegion"}) {
+       {"cmb0Tables", "cmb4Tables", "cmb7RateTable", "cmb8AccessGroup", "cmbAccessGroup", "cmbRegion"}) {
     auto* const list = page.findChild<CodeComboBox*>(name);
     if (list == nullptr || !list->isVisible() || list->currentIndex() > 0 || list->count() < 2) continue;
     const int services = list->IndexOfCode("ID_SERVICE_TYPE");

@@ -11,6 +11,7 @@
 #include <QStyle>
 #include <QStyleOptionFrame>
 
+#include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 
@@ -212,6 +213,22 @@ void Rows::Wide(QLayout* layout) {
 
 void Rows::Stretch() {
   layout_->setRowStretch(++row_, 1);
+}
+
+void Require(std::initializer_list<QWidget*> fields) {
+  const QString hint = QStringLiteral("Required");
+  for (QWidget* field : fields) {
+    if (auto* const list = qobject_cast<CodeComboBox*>(field))
+      list->SetHint(hint);
+    else
+      field->setAccessibleDescription(hint);
+    for (QLabel* label : field->window()->findChildren<QLabel*>()) {
+      if (label->buddy() != field) continue;
+      QFont bold = label->font();
+      bold.setBold(true);
+      label->setFont(bold);
+    }
+  }
 }
 
 QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> buttons) {

@@ -52,6 +52,8 @@ QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> buttons);
 QWidget* Together(QWidget* parent, const QString& name, std::initializer_list<QWidget*> controls);
 // Widgets stacked with the window's margins.
 QVBoxLayout* Column(QWidget* parent, std::initializer_list<QWidget*> widgets = {});
+// Fields that a record cannot be without: their labels are bold, and assistive technology says so.
+void Require(std::initializer_list<QWidget*> fields);
 // Width of a field for that many characters, in pixels of its font.
 int FieldWidth(const QWidget* field, int characters);
 // Tab order of all that stands in the form's layouts, as it is read: rows from the top, from the left, frame by frame.

@@ -153,7 +153,10 @@ QStringView Grid::View(int row, int col) const {
 }
 
 void Grid::SetText(int row, int col, const QString& text) {
-  if (row != 0) return model_->SetCell(row, col, text);
+  if (row != 0) {
+    model_->SetCell(row, col, text);
+    return MeasureTexts(row, row);
+  }
   model_->SetHeading(col, text);
   FitHeading(col);
 }
@@ -163,6 +166,7 @@ int Grid::AddRow(const QStringList& cellsFromColumn1, int at) {
   const int row = at >= 1 && at < Rows() ? at : Rows();
   const QScopedValueRollback quiet(quiet_, true);
   model_->Insert(row, Views(cellsFromColumn1));
+  MeasureTexts(row, row);
   if (row_ >= row) ++row_;
   ShowCurrent(false);
   return row;
@@ -192,7 +196,8 @@ void Grid::EndLoad() {
   loading_ = false;
   const QScopedValueRollback quiet(quiet_, true);
   model_->Announce();
-  MeasureTexts();
+  for (Column& column : columns_) column.texts = 0;
+  MeasureTexts(1, Rows() - 1);
   ShowCurrent(false);
 }
 

@@ -158,7 +158,7 @@ class Grid : public QTableView {
   void ShowSorted();
   void FitHeading(int col);
   void FitAllHeadings();
-  void MeasureTexts();
+  void MeasureTexts(int first, int last);
   void KeepWidths();
   void ShareRoom();
   QString WidthKey(int col) const;

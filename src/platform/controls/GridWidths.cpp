@@ -59,20 +59,22 @@ bool Grid::ColHidden(int col) const {
   return isColumnHidden(col);
 }
 
-// Of the first rows of a load: enough to know what a column holds, at no cost that could be felt.
-void Grid::MeasureTexts() {
+// Of the first rows only: enough to know what a column holds, at no cost that could be felt.
+void Grid::MeasureTexts(int first, int last) {
+  if (loading_ || first > RowsLookedAt) return;
   const QFontMetrics metrics = fontMetrics();
   const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
-  const int last = std::min(Rows() - 1, RowsLookedAt);
+  bool wider = false;
   for (int col = 1; col < Cols(); ++col) {
-    int widest = 0;
-    for (int row = 1; row <= last; ++row) {
+    int& widest = columns_[At(col)].texts;
+    const int before = widest;
+    for (int row = first; row <= std::min(last, RowsLookedAt); ++row) {
       const QString text = View(row, col).left(LettersLookedAt).toString();
       if (!text.isEmpty()) widest = std::max(widest, metrics.horizontalAdvance(text) + margins);
     }
-    columns_[At(col)].texts = widest;
+    wider = wider || widest != before;
   }
-  ShareRoom();
+  if (wider) ShareRoom();
 }
 
 // While a person draws one column the others stay as they are on screen.
