@@ -53,26 +53,13 @@ LibraryScreen::LibraryScreen(LibrarySibling self, QWidget* parent)
   ConnectControls();
 }
 
-// A box that shows only looks like the window behind it.
 void LibraryScreen::MakeReadOnly(TextBox* box) {
   box->setReadOnly(true);
-  QPalette palette;
-  palette.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
-  box->setPalette(palette);
   box->setFocusPolicy(Qt::ClickFocus);
-}
-
-// The user changed between light and dark while the screen is open.
-void LibraryScreen::changeEvent(QEvent* event) {
-  Screen::changeEvent(event);
-  if (event->type() != QEvent::ApplicationPaletteChange) return;
-  for (TextBox* box : findChildren<TextBox*>())
-    if (box->isReadOnly() && box->testAttribute(Qt::WA_SetPalette)) MakeReadOnly(box);
 }
 
 void LibraryScreen::MakeEditable(TextBox* box) {
   box->setReadOnly(false);
-  box->setPalette({});
   box->setFocusPolicy(Qt::StrongFocus);
 }
 

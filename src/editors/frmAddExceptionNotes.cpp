@@ -1,7 +1,6 @@
 #include "editors/frmAddExceptionNotes.h"
 
-#include <QStyle>
-
+#include "core/Icons.h"
 #include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
@@ -30,8 +29,8 @@ void frmAddExceptionNotes::BuildControls() {
   txtExceptionCode->setFocusPolicy(Qt::ClickFocus);
   txtExceptionCode->setFixedWidth(Form::FieldWidth(txtExceptionCode, 5));
   txtExceptionNote->SetLines(4);
-  cmdUp->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
-  cmdDown->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
+  cmdUp->setIcon(OwnIcon("up"));
+  cmdDown->setIcon(OwnIcon("down"));
   for (QPushButton* button : {cmdUp, cmdDown}) {
     button->setAccessibleName(button->toolTip());
     button->setMinimumWidth(0);

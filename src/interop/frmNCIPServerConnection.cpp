@@ -51,6 +51,7 @@ void frmNCIPServerConnection::BuildControls() {
   columns->setContentsMargins(0, 0, 0, 0);
   columns->setSpacing(16);
   auto* const fields = new QVBoxLayout;
+  fields->setSpacing(8);
   fields->addWidget(ServerFields());
   fields->addWidget(AgencyFields());
   fields->addStretch();

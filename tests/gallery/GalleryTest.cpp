@@ -9,9 +9,11 @@
 #include <QLabel>
 #include <QPalette>
 #include <QScreen>
+#include <QTest>
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
+#include "core/frmLogon.h"
 #include "support/Walk.h"
 
 namespace {
@@ -127,6 +129,27 @@ TEST_F(GalleryTest, EveryDialog) {
     Both(place);
     if (std::exchange(compared, screen.objectName()) != compared) CompareSheet(screen, compared);
   });
+}
+
+// What a walk through screens as they open does not meet.
+TEST_F(GalleryTest, WhatShowsOnlyInUse) {
+  Start();
+  NameTheDatabase();
+  SelectTab("sstabtables", frmTabulon::DepartmentsTab);
+  Find<Grid>("grd2Department")->OpenFinder(Grid::Seek::Filter);
+  QTest::keyClicks(Find<TextBox>("qt_grid_find"), "build");
+  Both("grid-filter");
+
+  Open("frmLibrarySearch");
+  Type("txtInstitution", "u");
+  Click("cmdSearch");
+  EXPECT_GT(Rows("grdViewSearchResults"), 1);
+  Both("frmLibrarySearch-results");
+
+  frmLogon logon;
+  logon.setModal(true);
+  logon.show();
+  Both("frmLogon");
 }
 
 }  // namespace

@@ -67,6 +67,8 @@ void LendName(QWidget* field, const QString& caption) {
     const auto* button = qobject_cast<QAbstractButton*>(part);
     const bool speaksForItself = button != nullptr && !button->text().isEmpty();
     if (!speaksForItself && part->accessibleName().isEmpty()) part->setAccessibleName(caption);
+    // "Yes" alone says nothing to somebody who does not see the row.
+    if (qobject_cast<QRadioButton*>(part) != nullptr) part->setAccessibleDescription(caption);
   }
 }
 
@@ -186,6 +188,8 @@ void Rows::Place(QLabel* label, QWidget* field, QWidget* behind, int column) {
   const QString caption = PlainCaption(label->text());
   label->setBuddy(field);
   LendName(field, caption);
+  if (auto* const button = qobject_cast<QAbstractButton*>(behind); button != nullptr && button->toolTip().isEmpty())
+    button->setAccessibleDescription(caption);
   const bool tall = IsTall(field);
   // The first line of a tall field and its label stand on one line.
   if (tall)
@@ -223,7 +227,8 @@ void Require(std::initializer_list<QWidget*> fields) {
     else
       field->setAccessibleDescription(hint);
     for (QLabel* label : field->window()->findChildren<QLabel*>()) {
-      if (label->buddy() != field) continue;
+      const QWidget* const buddy = label->buddy();
+      if (buddy == nullptr || (buddy != field && !buddy->isAncestorOf(field))) continue;
       QFont bold = label->font();
       bold.setBold(true);
       label->setFont(bold);

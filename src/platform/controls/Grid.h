@@ -161,6 +161,7 @@ class Grid : public QTableView {
   void MeasureTexts(int first, int last);
   void KeepWidths();
   void ShareRoom();
+  int Needs(int col) const;
   QString WidthKey(int col) const;
   void RecallWidth(int col);
   void RememberWidths();

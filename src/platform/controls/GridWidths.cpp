@@ -84,22 +84,28 @@ void Grid::KeepWidths() {
     if (col != visible.back()) columns_[At(col)].pixels = columnWidth(col);
 }
 
+int Grid::Needs(int col) const {
+  const Column& column = columns_[At(col)];
+  if (column.drawn) return column.pixels;
+  return std::min(column.pixels, std::max(column.texts, horizontalHeader()->sectionSizeHint(col)));
+}
+
 void Grid::ShareRoom() {
   if (stretching_) return;
   const QScopedValueRollback stretching(stretching_, true);
-  int last = -1, room = viewport()->width();
-  for (int col = 0; col < Cols(); ++col) {
-    if (isColumnHidden(col)) continue;
-    room -= columns_[At(col)].pixels;
-    last = col;
-  }
+  const std::vector<int> visible = VisibleCols();
+  const int last = visible.empty() ? 0 : visible.back();
+  // The last column needs no more than it holds; it takes what is left in any case.
+  int room = viewport()->width();
+  for (int col = 0; col < Cols(); ++col)
+    if (!isColumnHidden(col)) room -= col == last ? Needs(col) : columns_[At(col)].pixels;
   for (int col = 0; col < Cols(); ++col) {
     if (isColumnHidden(col)) continue;
     const Column& column = columns_[At(col)];
     const int lacks = col == 0 || column.drawn ? 0 : std::min(column.texts, WidestByItself) - column.pixels;
     const int share = std::max(0, col == last ? room : std::min(lacks, room));
     room -= share;
-    setColumnWidth(col, column.pixels + share);
+    setColumnWidth(col, (col == last ? Needs(col) : column.pixels) + share);
   }
 }
 
