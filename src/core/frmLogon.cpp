@@ -4,6 +4,7 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
+#include "core/Help.h"
 #include "core/Logon.h"
 #include "platform/controls/FormLayout.h"
 
@@ -33,6 +34,7 @@ frmLogon::frmLogon(QWidget* parent) : QDialog(parent) {
   txtUser->SetText(AccountSettings().value(LastUser).toString());
   (txtUser->Trimmed().isEmpty() ? txtUser : txtPassword)->setFocus();
   EnableOK();
+  Help::OpenByF1(*this, [this] { return objectName(); });
 }
 
 void frmLogon::BuildControls() {

@@ -27,11 +27,20 @@ frmTabulon::frmTabulon(QString commandLine, QWidget* parent)
   BuildStatusBar();
   resize(1180, 720);
   WindowMemory::Restore(*this);
-  Help::OpenByF1(*this, [this] { return Help::TabPageName("frmTabulon", sstabtables_->tabText(Tab())); });
+  Help::OpenByF1(*this, [this] { return GuidePage(); });
   connect(sstabtables_, &QTabWidget::currentChanged, this, &frmTabulon::TabChanged);
 }
 
 frmTabulon::~frmTabulon() = default;
+
+// A tab that holds tabs has a page for each of them. A tab that was never set up is told of on the window's own page.
+QString frmTabulon::GuidePage() const {
+  const TabPage* const page = Page(Tab());
+  if (page == nullptr) return objectName();
+  const QString name = Help::TabPageName(objectName(), sstabtables_->tabText(Tab()));
+  const auto* const inner = page->findChild<QTabWidget*>();
+  return inner == nullptr ? name : name + '-' + QString::number(inner->currentIndex());
+}
 
 void frmTabulon::BuildControls() {
   auto* const central = new QWidget;
@@ -84,6 +93,7 @@ void frmTabulon::BuildMenu() {
   clear_.entry = entry("mnuOptionsClear", "Clea&r", "cmb4Tables_Click", &frmTabulon::cmdClear_Click);
 
   QMenu* const help = Form::Menu(this, "mnuHelp", "&Help");
+  Help::AddEntry(*help, *this, [this] { return GuidePage(); });
   HelpEntry(help, "mnuHelpAboutOstana", "&About Ostana", "frmAboutOstana");
   HelpEntry(help, "mnuHelpAboutTabulon", "About &Tabulon", "frmAboutApp");
 

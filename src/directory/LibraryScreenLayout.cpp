@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QVBoxLayout>
 
+#include "core/Help.h"
 #include "core/Procedure.h"
 #include "core/Screens.h"
 #include "directory/LibraryScreen.h"
@@ -90,6 +91,7 @@ void LibraryScreen::BuildMenu() {
     connect(Form::MenuEntry(mnuHelp, name, caption), &QAction::triggered, this,
             [this, name, formName] { Run(name + "_Click", [&] { ::ShowModal(formName, this); }); });
   };
+  Help::AddEntry(*mnuHelp, *this, [this] { return objectName(); });
   about("mnuHelpAboutOstana", "&About Ostana", "frmAboutOstana");
   about("mnuHelpAboutApplication", "About &Tabulon", "frmAboutApp");
 }

@@ -83,10 +83,12 @@ void frmLibraryAnnotationTemplate::LoadTemplate() {
       })
       .Run([&] {
         ShowDefaults();
+        mbRowRead = false;
         txtInstitution->SetText(target_.Institution());
         txtPatronName->SetText(target_.PatronName());
         query = SelectStatement();
         ForEachRow(query, "***** SQL error on ID_ANNOTATION (Select) *****", [this](Recordset& rows) {
+          mbRowRead = true;
           optUseAnnotation->Select(Value(rows, "USE_ANNOTATION") == "N" ? 1 : 0);
           txtAnnotationText->SetText(Value(rows, "ANNOTATION"));
           // A value that is not in its list falls back to the default.
@@ -137,14 +139,15 @@ void frmLibraryAnnotationTemplate::cmdOK_Click() {
         return SeriousFailure;
       })
       .Run([&] {
-        // Asked anew for each target.
-        bool exists = false;
-        FirstValue(SelectStatement(), "***** SQL error on ID_ANNOTATION (Select) *****", &exists);
+        // Asked before a row is added: two rows without a patron break no key, and another client's may stand there.
+        bool exists = mbRowRead;
+        if (!exists) FirstValue(SelectStatement(), "***** SQL error on ID_ANNOTATION (Select) *****", &exists);
         opening = exists ? "Update SQL: " : "Insert Statement: ";
         statement = exists ? UpdateStatement() : InsertStatement();
         const qint64 written =
             ExecuteInTransaction(statement, exists ? "***** SQL Error on ID_ANNOTATION (Update) *****"
                                                    : "***** SQL Error on ID_ANNOTATION (Insert) *****");
+        mbRowRead = written != 0;
         if (written == 0) {
           LogFailure(opening, statement, "no row was written");
           Tell("Cannot add record to database.", MessageStyle::Stop);
@@ -160,6 +163,7 @@ void frmLibraryAnnotationTemplate::cmdDelete_Click() {
     ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_ANNOTATION") +
                              " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause(),
                          "***** SQL error on ID_ID_ANNOTATION (Delete) *****");
+    mbRowRead = false;
     Tell("Record deleted.", MessageStyle::Information);
     ShowDefaults();
   });

@@ -35,7 +35,7 @@ constexpr TextKey Keys[] = {
     {"ID_LIBRARY.DELIV_FAX", "lblDeliveryFax"},
     {"ID_LIBRARY.DELIV_EMAIL", "lblDeliveryEmail"},
     {"LIBRARY_pbMessageFormat", "cmdMessageFormat"},
-    {"LIBRARY_pbMessageFormatToolTip", "cmdMessageFormat"},
+    {"LIBRARY_pbMessageFormatToolTip", "cmdMessageFormat", 0, "The e-mail that goes with an electronic delivery"},
     {"ID_LIBRARY.MSG_METHOD", "lblMsgMethod"},
     {"ID_LIBRARY.MSG_FAX", "lblMsgFax"},
     {"ID_LIBRARY.MSG_EMAIL", "lblMsgEmail"},

@@ -92,6 +92,7 @@ void CodeTables::CodeTables_Tab() {
   txt0Code->SetText({});
   txt0Description->SetText({});
   grd0TableDesc->Clear();
+  grd0TableDesc->SetColWidth(Marker, 310);
 }
 
 void CodeTables::cmb0Tables_Click() {
@@ -141,9 +142,8 @@ void CodeTables::ReadTable() {
   special_.catalogLibrary = gstrCodeColumn == "CATALOG_CODE";
   special_.language = gstrCodeColumn == "LANGUAGE_CODE";
   special_.exception = gstrCodeColumn == "EXCEPTION_CODE";
-  const auto limit = [](const Field& field) { return field.DefinedSize() > 0 ? field.DefinedSize() : 32767; };
-  txt0Code->setMaxLength(limit(code));
-  txt0Description->setMaxLength(limit(description));
+  txt0Code->SetMaxLength(code.DefinedSize());
+  txt0Description->SetMaxLength(description.DefinedSize());
   grd0TableDesc->SetHeading(Code, "Code");
   grd0TableDesc->SetHeading(Description, special_.ackStatement ? "Statement" : "Description");
 }
@@ -287,11 +287,9 @@ bool CodeTables::CodeIsValid(QString& code) {
   txt0Description->TrimInPlace();
   if (!CodeIsNumeric()) return true;
   if (!Numbers::IsNumeric(code)) return Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt0Code);
-  const double value = Numbers::Val(code);
-  if (value != static_cast<double>(static_cast<qint64>(value)))
-    return Refuse("Please enter a valid Code.", MessageStyle::Warning, txt0Code);
-  // The number goes bare into the statement, so it is written out: "+7" and "7E0" are 7.
-  code = QString::number(static_cast<qint64>(value));
+  if (Numbers::HasFraction(code)) return Refuse("Please enter a valid Code.", MessageStyle::Warning, txt0Code);
+  // The number goes bare into the statement and is looked for in the grid: "+7" and "7.0" are 7.
+  code = Numbers::Whole(code);
   return true;
 }
 

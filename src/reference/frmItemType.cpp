@@ -144,9 +144,11 @@ void frmItemType::PopulateItemTypeGrid() {
 void frmItemType::sstabItemType_Click(int tab) {
   cmdUpdate->setEnabled(tab == ItemTypeTab);
   if (tab != AccessTab) return;
-  // The first tab may have changed what there is to choose from.
   Procedure procedure("frmItemType.sstabItemType_Click", this);
-  procedure.Run([this] { FillAccessItemTypes(); });
+  procedure.Run([this] {
+    if (mbItemTypesChanged) FillAccessItemTypes();
+    mbItemTypesChanged = false;
+  });
   PopulateItemTypeGrid();
 }
 
@@ -264,6 +266,7 @@ void frmItemType::AddItemType() {
   WriteRow(row);
   grdItemType->SetRowQuietly(row);
   mbRecordChanged = false;
+  mbItemTypesChanged = true;
   Tell(this, "Record Added");
 }
 
@@ -298,6 +301,7 @@ void frmItemType::cmdUpdate_Click() {
     transaction.Commit();
     WriteRow(row);
     mbRecordChanged = false;
+    mbItemTypesChanged = true;
     Tell(this, "Record Updated");
   });
 }
@@ -318,6 +322,7 @@ void frmItemType::DeleteItemType() {
                        "***** SQL error on ID_ITEM_TYPE (Delete) *****");
   grdItemType->RemoveRow(row);
   mbRecordChanged = false;
+  mbItemTypesChanged = true;
   Tell(this, "Record Deleted");
 }
 

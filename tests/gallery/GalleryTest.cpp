@@ -75,12 +75,12 @@ class GalleryTest : public Walk {
     Walk::TearDown();
   }
 
-  void Both(const QString& name) {
+  void Both(const QString& name, QWidget* window = nullptr) {
     const QString path = folder_ + name;
     QApplication::setPalette(light_);
-    Picture(path);
+    Picture(path, window);
     QApplication::setPalette(DarkPalette());
-    Picture(path + "-dark");
+    Picture(path + "-dark", window);
     QApplication::setPalette(light_);
   }
 
@@ -145,11 +145,15 @@ TEST_F(GalleryTest, WhatShowsOnlyInUse) {
   Click("cmdSearch");
   EXPECT_GT(Rows("grdViewSearchResults"), 1);
   Both("frmLibrarySearch-results");
+}
 
+// The one window that opens before there is a database.
+TEST_F(GalleryTest, TheLogon) {
   frmLogon logon;
-  logon.setModal(true);
+  logon.findChild<TextBox*>("txtUser")->SetText("admin");
   logon.show();
-  Both("frmLogon");
+  Both("frmLogon", &logon);
+  CompareSheet(logon, "frmLogon");
 }
 
 }  // namespace

@@ -16,6 +16,16 @@ class Answers : public PromptService {
     int icon;
   };
 
+  // As long as it lives the user says No.
+  class Refusing {
+   public:
+    explicit Refusing(Answers& answers) : answers_(answers) { answers_.refusing_ = true; }
+    ~Refusing() { answers_.refusing_ = false; }
+
+   private:
+    Answers& answers_;
+  };
+
   const QList<Said>& All() const { return said_; }
   void Forget() { said_.clear(); }
   // A message that tells of success.
@@ -31,8 +41,8 @@ class Answers : public PromptService {
   int ShowMessage(const MessageRequest& request) override {
     said_.append({request.text, request.style & MessageStyle::IconMask});
     const int buttons = request.style & MessageStyle::ButtonMask;
-    return buttons == MessageStyle::YesNo || buttons == MessageStyle::YesNoCancel ? MessageAnswer::Yes
-                                                                                  : MessageAnswer::Ok;
+    if (buttons != MessageStyle::YesNo && buttons != MessageStyle::YesNoCancel) return MessageAnswer::Ok;
+    return refusing_ ? MessageAnswer::No : MessageAnswer::Yes;
   }
   std::optional<QString> OpenFile(const FileRequest&) override { return {}; }
   std::optional<QString> SaveFile(const FileRequest&) override { return {}; }
@@ -49,4 +59,5 @@ class Answers : public PromptService {
 
   PromptService* before_;
   QList<Said> said_;
+  bool refusing_ = false;
 };

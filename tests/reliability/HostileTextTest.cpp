@@ -25,12 +25,11 @@ class HostileTextTest : public ReliabilityDesk, public testing::WithParamInterfa
     bool given = false;
     const int total = qEnvironmentVariableIntValue("TABULON_HOSTILE_TEXTS", &given);
     const int all = given ? total : TestDatabase::TestEngine() == Engine::Sqlite ? 12000 : 3000;
-    return static_cast<int>(std::ceil(double(all) / double(WritingScreens().size())));
+    return static_cast<int>(std::ceil(double(all) / double(ScreensWithText().size())));
   }
 
   // By keys where a person could type it, else pasted.
   void Enter(const char* box, const HostileText& hostile, bool byKeys) {
-    // A one-line box takes no key that shows nothing.
     // A one-line box takes no key that shows nothing.
     const bool typable =
         !hostile.HasLoneSurrogate() && std::all_of(hostile.text.begin(), hostile.text.end(),
@@ -44,13 +43,19 @@ class HostileTextTest : public ReliabilityDesk, public testing::WithParamInterfa
 
   // A box without filters takes what was entered, control characters left out, up to its limit.
   static void MustHoldWhatWasEntered(const QString& shown, const HostileText& hostile, bool byKeys) {
+    // Some boxes write in capitals. A letter at a time: next to half of a pair Qt leaves a letter as it is.
     const auto essence = [](const QString& text) {
       QString kept;
-      for (const QChar ch : text)
-        if (ch > u' ' && !(ch >= u'\x7f' && ch <= u'\xa0') && ch != QChar::LineSeparator &&
-            ch != QChar::ParagraphSeparator)
-          kept += ch;
-      return kept.toUpper();  // some boxes write in capitals
+      for (qsizetype at = 0; at < text.size(); ++at) {
+        const QChar ch = text[at];
+        if (ch <= u' ' || (ch >= u'\x7f' && ch <= u'\xa0') || ch == QChar::LineSeparator ||
+            ch == QChar::ParagraphSeparator)
+          continue;
+        const bool pair = ch.isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        kept += text.mid(at, pair ? 2 : 1).toUpper();
+        if (pair) ++at;
+      }
+      return kept;
     };
     RC_LOG() << "shown: " << Visible(shown).toStdString() << std::endl;
     const QString entered = essence(hostile.text), held = essence(shown);
@@ -106,6 +111,7 @@ class HostileTextTest : public ReliabilityDesk, public testing::WithParamInterfa
     bool halves = false;
     for (size_t i = 0; i < screen.fields.size(); ++i) {
       Enter(screen.fields[i].box, hostile[int(i)], byKeys);
+      if (screen.fields[i].twin) Enter(screen.fields[i].twin, hostile[int(i)], byKeys);
       texts.push_back({&screen.fields[i], Text(screen.fields[i].box)});
       MustHoldWhatWasEntered(texts.back().shown, hostile[int(i)], byKeys);
       halves = halves || HostileText{texts.back().shown}.HasLoneSurrogate();
@@ -156,7 +162,7 @@ TEST_P(HostileTextTest, ComesBackAsTyped) {
   RecordProperty("stored", stored);
 }
 
-INSTANTIATE_TEST_SUITE_P(Screens, HostileTextTest, testing::ValuesIn(WritingScreens()),
+INSTANTIATE_TEST_SUITE_P(Screens, HostileTextTest, testing::ValuesIn(ScreensWithText()),
                          [](const auto& screen) { return std::string(screen.param.name); });
 
 }  // namespace

@@ -1,81 +1,69 @@
-// A second process of this program is killed while it writes lists over and over: no list is half stored, the program
-// starts again on what it left, and its log can be read.
+// A second process of this program is killed while it writes: nothing is half done, the program starts again on what
+// the killed one left, and its logs can be read.
 //
-//   TABULON_KILLS  how often; 8 when not set
+//   TABULON_KILLS  how often, through the actions in turn; once each when not set
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <QRandomGenerator>
+#include <QStringDecoder>
 #include <QTest>
 #include <csignal>
 #include <cstdio>
 
 #include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "platform/ado/Recordset.h"
-#include "platform/controls/Grid.h"
-#include "reliability/WritingScreens.h"
+#include "reliability/KilledActions.h"
 
 namespace {
 
-constexpr int NotesInList = 12;
-const QString OfPair = " WHERE EXCEPTION_CODE = 'BIB' AND PROCESS_TYPE = 'SEA'";
-
 const QString StatementLogName = "statements.log";
+constexpr const char* ActionVariable = "TABULON_KILL_ACTION";
+constexpr const char* BehindVariable = "TABULON_KILL_BEHIND";
 
 // --- The process that is killed ---
 
-class KillDriver : public ReliabilityDesk {
- protected:
-  // A list of notes, all of one generation: one DELETE, twelve INSERTs, one UPDATE, one transaction.
-  void WriteList(int generation) {
-    gstrNotesExceptionCode = "BIB";
-    gstrNotesProcessType = "SEA";
-    OpenDialog("frmAddExceptionNotes");
-    while (Rows("grdExceptionNote") > 1) {
-      SelectRow("grdExceptionNote", 1);
-      Click("cmdDelete");
-    }
-    for (int note = 1; note <= NotesInList; ++note) {
-      Paste("txtExceptionNote", QString("%1 of generation %2").arg(note).arg(generation));
-      Click("cmdAdd");
-    }
-    Click("cmdClose");
-  }
-};
+class KillDriver : public ReliabilityDesk {};
 
 TEST_F(KillDriver, WritesUntilKilled) {
-  bool driven = false;
-  const int behind = qEnvironmentVariableIntValue("TABULON_KILL_BEHIND", &driven);
-  if (!driven) GTEST_SKIP() << "runs as a process of its own, started by KillTest";
+  const QByteArray name = qgetenv(ActionVariable);
+  if (name.isEmpty()) GTEST_SKIP() << "runs as a process of its own, started by KillTest";
+  const auto& actions = KilledActions();
+  const auto action = std::find_if(actions.begin(), actions.end(), [&](const auto& each) { return name == each.name; });
+  ASSERT_NE(action, actions.end());
   Setting("System", "StatementLog", StatementLogName);
-  WriteList(0);
-  std::printf("READY\t%s\t%s\n", qPrintable(Folder()), qPrintable(Database().Settings().name));
+  action->round(*this, 0);
+  ASSERT_FALSE(Said().Refusal()) << Said().Transcript().toStdString();
+  std::printf("READY\t%s\n", qPrintable(Folder()));
   std::fflush(stdout);
   int statements = 0;
+  const int behind = qEnvironmentVariableIntValue(BehindVariable);
   AfterEachStatement([&](const StatementRecord&) {
     if (++statements == behind) std::raise(SIGKILL);
   });
-  for (int generation = 1;; ++generation) WriteList(generation);
+  for (int round = 1;; ++round) {
+    action->round(*this, round);
+    ASSERT_FALSE(Said().Refusal()) << Said().Transcript().toStdString();
+  }
 }
 
 // --- The one that kills ---
 
 class KillTest : public ReliabilityDesk, public testing::WithParamInterface<int> {
  protected:
-  void TearDown() override {
-    ReliabilityDesk::TearDown();
-    if (left_.name.isEmpty()) return;
-    TestDatabase::Remove(left_);
-    QDir(folder_).removeRecursively();
-    if (left_.engine == Engine::Sqlite) QFileInfo(left_.name).dir().removeRecursively();
-  }
+  const KilledAction& Subject() const { return KilledActions()[size_t(GetParam()) % KilledActions().size()]; }
 
   // Behind a statement where `behind` is set, at a moment of the clock otherwise.
   void StartAndKill(int behind, int milliseconds) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("TABULON_KILL_BEHIND", QString::number(behind));
+    environment.insert(ActionVariable, Subject().name);
+    environment.insert(BehindVariable, QString::number(behind));
+    ASSERT_TRUE(QDir(Folder()).mkpath("left"));
+    environment.insert("TMPDIR", Folder() + "/left");  // all that the process leaves goes with this case
+    Database().LendTo(environment);
     process.setProcessEnvironment(environment);
     process.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=KillDriver.*"});
     QByteArray output;
@@ -84,86 +72,110 @@ class KillTest : public ReliabilityDesk, public testing::WithParamInterface<int>
           << output.toStdString() << process.readAllStandardError().toStdString();
       output += process.readAllStandardOutput();
     }
-    const QStringList parts = QString::fromUtf8(output.mid(output.indexOf("READY\t"))).section('\n', 0, 0).split('\t');
-    folder_ = parts.value(1);
-    left_ = Database().Settings();
-    left_.name = parts.value(2);
+    left_ = QString::fromUtf8(output.mid(output.indexOf("READY\t"))).section('\n', 0, 0).section('\t', 1);
     if (behind == 0) {
       QTest::qWait(milliseconds);
       process.kill();
     }
     ASSERT_TRUE(process.waitForFinished(60000));
-    EXPECT_EQ(process.exitStatus(), QProcess::CrashExit);
+    ASSERT_EQ(process.exitStatus(), QProcess::CrashExit) << process.readAllStandardOutput().toStdString();
   }
 
-  void MustHoldOneWholeList() {
-    Connection connection(left_);
-    connection.Open();
-    QStringList notes;
-    Recordset rows;
-    rows.Open(connection, "SELECT EXCEPTION_NOTE FROM ID_EXCEPTION_NOTE" + OfPair + " ORDER BY EXCEPTION_NOTE_SEQ");
-    for (; !rows.EOF_(); rows.MoveNext()) notes += rows.Fields(0).Value();
-    rows.Close();
-    ASSERT_EQ(notes.size(), NotesInList);
-    const QString generation = notes.front().section(' ', 1);
-    for (int note = 1; note <= NotesInList; ++note)
-      EXPECT_EQ(notes[note - 1], QString::number(note) + ' ' + generation);
-    rows.Open(connection, "SELECT EXCEPTION_NOTE FROM ID_EXCEPTION_PROCESS" + OfPair);
-    EXPECT_EQ(rows.Fields(0).Value(), notes.front());
-    rows.Close();
-    if (left_.engine != Engine::Sqlite) return;
-    rows.Open(connection, "SELECT integrity_check FROM pragma_integrity_check");
-    EXPECT_EQ(rows.Fields(0).Value(), "ok");
+  // A server may still be at work on the last thing the process sent.
+  void AwaitEndOfItsSession() {
+    QString others;
+    switch (TestDatabase::TestEngine()) {
+      case Engine::PostgreSql:
+        others = "SELECT COUNT(*) FROM pg_stat_activity WHERE datname = current_database() AND pid <> pg_backend_pid()";
+        break;
+      case Engine::MariaDb:
+        others = "SELECT COUNT(*) FROM INFORMATION_SCHEMA.PROCESSLIST WHERE DB = DATABASE() AND ID <> CONNECTION_ID()";
+        break;
+      case Engine::Sqlite:
+      case Engine::SqlServer:
+        return;
+    }
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Ask(others) == u"0"; }, 30000));
   }
 
+  void NothingMustBeHalfDone() {
+    EXPECT_EQ(Subject().halfDone(Database().OtherClient()), "");
+    if (TestDatabase::TestEngine() != Engine::Sqlite) return;
+    EXPECT_EQ(Ask("SELECT integrity_check FROM pragma_integrity_check"), "ok");
+  }
+
+  // In the folder of the process that is gone.
   void MustStartAgain() {
-    qputenv("OSTANA_HOME", folder_.toUtf8());
-    qputenv("OSTANA_REGISTRY", folder_.toUtf8());
+    qputenv("OSTANA_HOME", left_.toUtf8());
+    qputenv("OSTANA_REGISTRY", left_.toUtf8());
+    QDir::setCurrent(left_);
     Start();
     EXPECT_FALSE(ProcessEnded());
     EXPECT_TRUE(Shell().isVisible());
     EXPECT_FALSE(Said().Refusal()) << Said().Transcript().toStdString();
   }
 
-  // Each statement a line of its own, from the first to that of the program that was started again.
-  void LogMustBeReadable() {
-    QFile file(QDir(folder_).filePath(StatementLogName));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray bytes = file.readAll();
-    EXPECT_TRUE(bytes.endsWith('\n'));
-    const QStringList lines = QString::fromUtf8(bytes).split('\n', Qt::SkipEmptyParts);
-    EXPECT_GT(lines.size(), NotesInList);
-    int whole = 0;
-    for (const QString& line : lines) {
-      EXPECT_FALSE(line.contains(QChar::ReplacementCharacter) || line.contains(QChar::Null)) << line.toStdString();
-      whole += line.count('\t') >= 3;
-    }
-    EXPECT_GE(whole, lines.size() - 1);  // the line that was being written may be cut
+  QByteArray Left(const QString& name) const {
+    QFile file(QDir(left_).filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+    return file.readAll();
   }
 
-  QString folder_;           // of the process that is gone
-  ConnectionSettings left_;  // its database
+  // Each statement a line of its own, from the first to that of the program that was started again.
+  void StatementLogMustBeReadable() {
+    const QByteArray bytes = Left(StatementLogName);
+    EXPECT_TRUE(bytes.endsWith('\n'));
+    const QStringList lines = QString::fromUtf8(bytes).split('\n', Qt::SkipEmptyParts);
+    EXPECT_GT(lines.size(), 1);
+    for (const QString& line : lines) {
+      EXPECT_FALSE(line.contains(QChar::ReplacementCharacter) || line.contains(QChar::Null)) << line.toStdString();
+      EXPECT_EQ(line.count('\t'), 3) << line.toStdString();
+    }
+  }
+
+  // Whole characters and whole lines; none of them is a failure.
+  void LogMustBeReadable() {
+    const QByteArray bytes = Left("Logs/Tabulon.log");
+    EXPECT_TRUE(bytes.startsWith("\xFF\xFE"));
+    EXPECT_TRUE(bytes.endsWith(QByteArray("\r\0\n\0", 4)));
+    EXPECT_EQ(bytes.size() % 2, 0);
+    QStringDecoder decoder(QStringDecoder::Utf16LE);
+    const QString text = decoder.decode(bytes);
+    EXPECT_FALSE(decoder.hasError());
+    for (const QString& line : text.split("\r\n", Qt::SkipEmptyParts)) {
+      EXPECT_FALSE(line.contains('\n') || line.contains(QChar::Null)) << line.toStdString();
+      EXPECT_FALSE(line.contains("* Error: ")) << line.toStdString();
+    }
+  }
+
+  QString left_;  // the folder of the process that is gone
 };
 
 TEST_P(KillTest, NothingIsHalfDone) {
   auto* const random = QRandomGenerator::global();
-  const bool behindStatement = GetParam() % 2 == 1;
+  const bool behindStatement = (size_t(GetParam()) / KilledActions().size() + size_t(GetParam())) % 2 == 1;
   const int behind = behindStatement ? random->bounded(1, 60) : 0;
   const int milliseconds = behindStatement ? 0 : random->bounded(0, 400);
-  SCOPED_TRACE("behind statement " + std::to_string(behind) + ", after " + std::to_string(milliseconds) + " ms");
+  SCOPED_TRACE(std::string(Subject().name) + ", behind statement " + std::to_string(behind) + ", after " +
+               std::to_string(milliseconds) + " ms");
+  Subject().prepare(Database().OtherClient());
   StartAndKill(behind, milliseconds);
   if (HasFatalFailure()) return;
-  MustHoldOneWholeList();
+  AwaitEndOfItsSession();
+  NothingMustBeHalfDone();
   MustStartAgain();
+  StatementLogMustBeReadable();
   LogMustBeReadable();
 }
 
 int Kills() {
   bool given = false;
   const int kills = qEnvironmentVariableIntValue("TABULON_KILLS", &given);
-  return given ? kills : 8;
+  return given ? kills : int(KilledActions().size());
 }
 
-INSTANTIATE_TEST_SUITE_P(Times, KillTest, testing::Range(0, Kills()));
+INSTANTIATE_TEST_SUITE_P(Times, KillTest, testing::Range(0, Kills()), [](const auto& turn) {
+  return std::string(KilledActions()[size_t(turn.param) % KilledActions().size()].name) + std::to_string(turn.param);
+});
 
 }  // namespace

@@ -1,13 +1,19 @@
 #include "reliability/ReliabilityDesk.h"
 
 #include <QFile>
+#include <QTest>
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/Screen.h"
+#include "platform/controls/Grid.h"
 
 void ReliabilityDesk::SetUp() {
   SampleDesk::SetUp();
+  // The lists of automatic rejections that the site has.
+  Setting("Tables", "NumberOfRejectTables", "2");
+  Setting("Tables", "AutoRejectField1", "CALL_NUMBER");
+  Setting("Tables", "AutoRejectField2", "LIBRARY_SYMBOL");
   answers_ = std::make_unique<Answers>();
 }
 
@@ -31,16 +37,29 @@ void ReliabilityDesk::OpenDialog(const QString& formName) {
   if (!front || front->objectName() != formName || !front->isVisible()) Open(formName);
 }
 
-void ReliabilityDesk::OpenLibraryScreen(const QString& formName) {
+void ReliabilityDesk::OpenLibraryScreen(const QString& formName, qint32 library) {
   if (!loggedOn_) Logon();
   loggedOn_ = true;
-  gclsOF->SetLibraryId(Auenfels);
+  gclsOF->SetLibraryId(library);
   gclsOF->SetCallingFunction("Library Registration");
   OpenDialog(formName);
 }
 
+void ReliabilityDesk::LeaveUnsaved() {
+  const Answers::Refusing refusing(*answers_);
+  Window()->close();
+}
+
+void ReliabilityDesk::ClickCell(const QString& name, int row, int col) {
+  auto* const grid = Find<Grid>(name);
+  const QModelIndex cell = grid->model()->index(row - 1, col);
+  grid->scrollTo(cell);
+  QTest::mouseClick(grid->viewport(), Qt::LeftButton, Qt::NoModifier, grid->visualRect(cell).center());
+}
+
 void ReliabilityDesk::ChooseCode(const QString& combo, const QString& code) {
-  const int index = Find<CodeComboBox>(combo)->IndexOfCode(code);
+  const auto* const list = Find<CodeComboBox>(combo);
+  const int index = list->IndexOfCode(code) >= 0 ? list->IndexOfCode(code) : list->IndexOfText(code);
   ASSERT_GE(index, 0) << combo.toStdString() << " has no entry with the code " << code.toStdString();
   ChooseAt(combo, index);
 }

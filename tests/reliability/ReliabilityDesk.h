@@ -10,12 +10,16 @@
 // can be cut. What drives the screens is public, so that the table of writing screens can use it.
 class ReliabilityDesk : public SampleDesk {
  public:
+  static constexpr qint32 Auenfels = 10000000;  // a library of the sample site with rows in every table
+
   using Desk::Another;
   using Desk::Append;
   using Desk::Ask;
+  using Desk::Cell;
   using Desk::Choose;
   using Desk::ChooseAt;
   using Desk::Click;
+  using Desk::Count;
   using Desk::Database;
   using Desk::Find;
   using Desk::Folder;
@@ -24,14 +28,17 @@ class ReliabilityDesk : public SampleDesk {
   using Desk::Open;
   using Desk::Paste;
   using Desk::ProcessEnded;
+  using Desk::Row;
   using Desk::Rows;
   using Desk::SelectRow;
+  using Desk::SelectRowOf;
   using Desk::SelectTab;
   using Desk::Setting;
   using Desk::Shell;
   using Desk::Start;
   using Desk::Statements;
   using Desk::Text;
+  using Desk::Trigger;
   using Desk::Type;
   using Desk::Window;
 
@@ -41,8 +48,12 @@ class ReliabilityDesk : public SampleDesk {
   // A dialog, logged on before; an open one stays as it is.
   void OpenDialog(const QString& formName);
   // A library in hand, as another application of the system gives it.
-  void OpenLibraryScreen(const QString& formName);
-  // Chooses the entry with that code.
+  void OpenLibraryScreen(const QString& formName, qint32 library = Auenfels);
+  // Closes the dialog in front; the user does not want to keep what was entered.
+  void LeaveUnsaved();
+  // A click on one cell.
+  void ClickCell(const QString& grid, int row, int col);
+  // Chooses the entry with that code, or with that text where the entries have none.
   void ChooseCode(const QString& combo, const QString& code);
 
   // --- The link ---
@@ -52,8 +63,6 @@ class ReliabilityDesk : public SampleDesk {
   void RestoreLink();
   // Runs after every statement of the program; none when empty.
   void AfterEachStatement(std::function<void(const StatementRecord&)> watch);
-
-  static constexpr qint32 Auenfels = 10000000;  // a library of the sample site with rows in every table
 
  protected:
   void SetUp() override;

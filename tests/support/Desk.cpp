@@ -362,11 +362,11 @@ QString Desk::Focus() const {
   return focus ? focus->objectName() : QString();
 }
 
-void Desk::Picture(const QString& name) const {
+void Desk::Picture(const QString& name, QWidget* window) const {
   const QFileInfo picture(QString(TABULON_BINARY_DIR) + "/gallery/" + name + ".png");
   picture.dir().mkpath(".");
   QApplication::processEvents();
-  EXPECT_TRUE(Window()->grab().save(picture.filePath()));
+  EXPECT_TRUE((window ? window : Window())->grab().save(picture.filePath()));
 }
 
 // --- Watching ---

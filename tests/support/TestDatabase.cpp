@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <QFile>
+#include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <map>
 #include <stdexcept>
@@ -16,6 +17,8 @@
 #include "tools/Users.h"
 
 namespace {
+
+constexpr const char* LentDatabase = "TABULON_TEST_DATABASE";
 
 QString NextName() {
   static int count = 0;
@@ -223,16 +226,28 @@ ServerDatabases& Servers() {
 
 }  // namespace
 
-TestDatabase::TestDatabase(bool sample)
-    : settings_(TestEngine() == Engine::Sqlite ? Files().Take(sample) : Servers().Take(sample)) {}
+TestDatabase::TestDatabase(bool sample) {
+  const QString lent = qEnvironmentVariable(LentDatabase);
+  lent_ = !lent.isEmpty();
+  if (lent_) {
+    settings_ = ServerSettings(lent);
+  } else {
+    settings_ = TestEngine() == Engine::Sqlite ? Files().Take(sample) : Servers().Take(sample);
+  }
+}
 
 TestDatabase::~TestDatabase() {
   other_.reset();
+  if (lent_) return;
   if (settings_.engine == Engine::Sqlite) {
     Remove(settings_);
   } else {
     Servers().Return(settings_);
   }
+}
+
+void TestDatabase::LendTo(QProcessEnvironment& environment) const {
+  environment.insert(LentDatabase, settings_.name);
 }
 
 QString TestDatabase::IniSection() const {

@@ -182,7 +182,7 @@ void Recordset::Open(Connection& connection) {
     opened->connection = &connection;
     opened->tables = StatementWords::TablesOfSelect(Source);
     QSqlQuery query = session.session.Run(StatementWords::WithTop(Source, MaxRecords), OpenSource);
-    opened->TakeShape(query.record());
+    opened->TakeShape(Session::Shape(query));
     opened->ReadRows(query);
     session.session.CheckEnd(query, OpenSource);
     return -1;

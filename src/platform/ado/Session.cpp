@@ -15,8 +15,8 @@ QString NextHandle() {
 
 }  // namespace
 
-Session::Session(ConnectionSettings settings)
-    : settings_(std::move(settings)), dialect_(Dialect::For(settings_.engine)), handle_(NextHandle()) {}
+Session::Session(ConnectionSettings settings, const Dialect& dialect)
+    : settings_(std::move(settings)), dialect_(dialect), handle_(NextHandle()) {}
 
 Session::~Session() {
   Close();
@@ -85,6 +85,16 @@ QSqlQuery Session::Run(const QString& statement, const QString& source) {
   const QSqlError error = query.lastError();
   query = QSqlQuery();
   throw Failed(error, source);
+}
+
+QSqlRecord Session::Shape(QSqlQuery& query) {
+  // PostgreSQL's driver asks the server for the name of each table it sees first, a round trip for each, unless it
+  // takes the rows for some that are still coming.
+  const bool forwardOnly = query.isForwardOnly();
+  query.setForwardOnly(true);
+  const QSqlRecord shape = query.record();
+  query.setForwardOnly(forwardOnly);
+  return shape;
 }
 
 void Session::CheckEnd(const QSqlQuery& query, const QString& source) {

@@ -2,6 +2,7 @@
 
 #include <QSqlDatabase>
 #include <QSqlQuery>
+#include <QSqlRecord>
 
 #include "platform/ado/ConnectionSettings.h"
 #include "platform/ado/Dialect.h"
@@ -10,7 +11,7 @@
 // session itself. A session that an error shows dead is closed at once.
 class Session {
  public:
-  explicit Session(ConnectionSettings settings);
+  Session(ConnectionSettings settings, const Dialect& dialect);
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
@@ -27,6 +28,8 @@ class Session {
 
   // One statement of the shared words. The query stands before its first row.
   QSqlQuery Run(const QString& statement, const QString& source);
+  // Names and types of its columns, without a word to the server.
+  static QSqlRecord Shape(QSqlQuery& query);
   // To be called after the last row: a reading that broke off is an AdoError.
   void CheckEnd(const QSqlQuery& query, const QString& source);
   // Closes when the error says that the server is gone.
