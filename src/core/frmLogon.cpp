@@ -51,7 +51,6 @@ void frmLogon::BuildControls() {
   for (TextBox* field : {txtUser, txtPassword}) field->setFixedWidth(Form::FieldWidth(field, 30));
   auto* const column = Form::Column(this, {fields});
   column->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}));
-  Form::TabOrder({txtUser, txtPassword, cmdOK, cmdCancel});
 
   connect(txtUser, &TextBox::Change, this, &frmLogon::EnableOK);
   connect(cmdOK, &QPushButton::clicked, this, &frmLogon::accept);

@@ -34,7 +34,6 @@ void frmDeliveryEmailTemplate::BuildControls() {
   whose.Add("lblInstitution", "Institution:", txtInstitution);
   whose.Add("lblPatronName", "Patron:", txtPatronName);
   whose.Add("lblForExternalURL", "For External URL:", rdForExternalURL->Row());
-  head->layout()->setContentsMargins(0, 0, 0, 0);
   Form::Rows rows(fraTemplate);
   rows.Add("lblSkipHeaderAndFooter", "Skip Header and Footer:", rdSkipHeaderAndFooter->Row());
   rows.Add("lblSubject", "Sub&ject:", txtSubject);

@@ -42,11 +42,10 @@ void frmGeneralMessages::BuildControls() {
   rows.Add("lblDescription", "D&escription:", txtDescription);
   rows.Add("lblSubject", "&Subject:", txtSubject);
   rows.Add("lblMessage", "&Message:", txtMessage);
+  Form::Require({txtCode, txtDescription, txtMessage});
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdGeneralMessage, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder({cmbShowMessages, txtLibrarySymbol, cmdFindLibrary, txtCode, txtDescription, txtSubject, txtMessage,
-                  grdGeneralMessage, cmdAdd, cmdUpdate, cmdDelete, cmdClose});
   resize(900, 640);
 }
 

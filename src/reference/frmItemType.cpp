@@ -57,12 +57,10 @@ void frmItemType::BuildControls() {
   Form::Column(accessPage, {accessEntry})->addWidget(grdAccessItemType, 1);
   sstabItemType->addTab(accessPage, "Item Types by User Group");
 
+  Form::Require({txtItemType, txtDescription, cmbAccessGroup, cmbAccessItemType});
   QVBoxLayout* const column = Form::Column(this);
   column->addWidget(sstabItemType, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder({sstabItemType, txtItemType, txtCharge, optFixedCharge->Button(No), optFixedCharge->Button(Yes),
-                  txtDescription, grdItemType, cmbAccessGroup, cmbAccessItemType, grdAccessItemType, cmdAdd, cmdUpdate,
-                  cmdDelete, cmdClose});
   resize(600, 520);
 }
 

@@ -67,29 +67,10 @@ void frmNotifyPatronMessages::BuildControls() {
   rows.Add(lblHoldQueue, cmbHoldQueue);
   rows.Add(lblRespondedQueue, cmbRespondedQueue);
   rows.Add(lblExceptionCode, cmbExceptionCode);
+  Form::Require({txtCode, txtDescription, txtSubject, txtMessage});
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdPatronMessage, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdClose}));
-  Form::TabOrder({cmbShowMessages,
-                  txtLibrarySymbol,
-                  cmdFindLibrary,
-                  txtCode,
-                  txtDescription,
-                  txtSubject,
-                  txtMessage,
-                  rdResponseRequired->Button(Yes),
-                  rdResponseRequired->Button(No),
-                  rdDocumentRequired->Button(Yes),
-                  rdDocumentRequired->Button(No),
-                  cmbHoldQueue,
-                  cmbRespondedQueue,
-                  cmbExceptionCode,
-                  grdPatronMessage,
-                  cmdAdd,
-                  cmdUpdate,
-                  cmdDelete,
-                  cmdClear,
-                  cmdClose});
   resize(1100, 740);
 }
 

@@ -363,10 +363,10 @@ QString Desk::Focus() const {
 }
 
 void Desk::Picture(const QString& name, QWidget* window) const {
-  const QDir gallery(QString(TABULON_BINARY_DIR) + "/gallery");
-  gallery.mkpath(".");
+  const QFileInfo picture(QString(TABULON_BINARY_DIR) + "/gallery/" + name + ".png");
+  picture.dir().mkpath(".");
   QApplication::processEvents();
-  EXPECT_TRUE((window ? window : Window())->grab().save(gallery.filePath(name + ".png")));
+  EXPECT_TRUE((window ? window : Window())->grab().save(picture.filePath()));
 }
 
 // --- Watching ---
