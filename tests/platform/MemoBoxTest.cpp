@@ -56,6 +56,37 @@ TEST_F(MemoBoxTest, LimitNeverHalvesASurrogatePair) {
   EXPECT_EQ(memo->Text(), "ab");
 }
 
+// A plain text edit gives a blank for it.
+TEST_F(MemoBoxTest, TheNoBreakSpaceStaysWhatItIs) {
+  const QString text = QString("Preis:%110%1€\nzweite%1Zeile").arg(QChar(QChar::Nbsp));
+  Make()->SetText(text);
+  EXPECT_EQ(memo->Text(), text);
+  EXPECT_EQ(memo->Trimmed(), text);
+  EXPECT_EQ(memo->TrimInPlace(), text);
+  memo->clear();
+  Paste(text);
+  EXPECT_EQ(memo->Text(), text);
+  QTest::keySequence(memo, QKeySequence::SelectAll);
+  QTest::keySequence(memo, QKeySequence::Copy);
+  EXPECT_EQ(QApplication::clipboard()->text(), text);
+}
+
+TEST_F(MemoBoxTest, FillingWithTheTextOnShowIsNoChange) {
+  const QString text = QString("a%1b").arg(QChar(QChar::Nbsp));
+  Make()->SetText(text);
+  const QSignalSpy change(memo, &MemoBox::Change);
+  memo->SetText(text);
+  EXPECT_EQ(change.count(), 0);
+  memo->SetText("a b");
+  EXPECT_EQ(change.count(), 1);
+  EXPECT_EQ(memo->Text(), "a b");
+}
+
+TEST_F(MemoBoxTest, ALineSeparatorStaysAndAParagraphSeparatorIsALineEnd) {
+  Make()->SetText(QString("a%1b%2c").arg(QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)));
+  EXPECT_EQ(memo->Text(), QString("a%1b\nc").arg(QChar(QChar::LineSeparator)));
+}
+
 TEST_F(MemoBoxTest, TypingReplacesASelectionInAFullBox) {
   Make(3)->SetText("abc");
   memo->selectAll();

@@ -59,7 +59,7 @@ std::vector<WritingScreen> Reference() {
                                const auto* const grid = desk.Find<Grid>("grdCurrencyCode");
                                // The mark on screen is ahead of the stored one when an update has failed.
                                const QString stored =
-                                   desk.Ask("SELECT CURRENCY_CODE FROM ID_CURRENCY_CODE WHERE CURRENCY_BASE = 'Y'");
+                                   desk.Ask("SELECT CURRENCY_CODE FROM ID_CURRENCY_CODE WHERE CURRENCY_BASE = '*'");
                                int row = 1;
                                while (!grid->Text(row, Base).trimmed().isEmpty() || grid->Text(row, 1) == stored) ++row;
                                desk.ClickCell("grdCurrencyCode", row, Base);
@@ -134,7 +134,12 @@ std::vector<WritingScreen> Reference() {
              auto* const region = desk.Find<CodeComboBox>("cmbRegion");
              if (region->IsEmptyOrNone()) desk.ChooseAt("cmbRegion", region->Count() - 1);
            },
-       .choose = [](ReliabilityDesk& desk, int round) { desk.Type("txtCountryCode", QString::number(20 + round)); },
+       .choose =
+           [](ReliabilityDesk& desk, int) {
+             int code = 10;
+             while (desk.Count("ID_COUNTRY_CODE", QString("COUNTRY_CODE = '%1'").arg(code)) > 0) ++code;
+             desk.Type("txtCountryCode", QString::number(code));
+           },
        .add = Button("cmdAdd"),
        .grid = "grdCountryCode",
        .marks = {{1, "txtCountryCode"}},

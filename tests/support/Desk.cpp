@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QHeaderView>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSettings>
 #include <QTabBar>
@@ -317,7 +316,7 @@ void Desk::Trigger(const QString& name) {
 QString Desk::Text(const QString& name) const {
   auto* const control = Find<QWidget>(name);
   if (auto* const line = qobject_cast<QLineEdit*>(control)) return line->text();
-  if (auto* const memo = qobject_cast<QPlainTextEdit*>(control)) return memo->toPlainText();
+  if (auto* const memo = qobject_cast<MemoBox*>(control)) return memo->Text();
   if (auto* const combo = qobject_cast<CodeComboBox*>(control)) return combo->Text();
   if (auto* const label = qobject_cast<QLabel*>(control)) return label->text();
   if (auto* const button = qobject_cast<QAbstractButton*>(control)) return button->text();

@@ -10,6 +10,16 @@
 
 #include "platform/controls/TextInput.h"
 
+namespace {
+
+// What a document has between its paragraphs. Not QTextDocument's own conversion, which makes a blank of the no-break
+// space.
+QString WithLineEnds(QString raw) {
+  return raw.replace(QChar::ParagraphSeparator, u'\n');
+}
+
+}  // namespace
+
 MemoBox::MemoBox(QWidget* parent, const QString& name, int maxLength)
     : QPlainTextEdit(parent), maxLength_(maxLength > 0 ? maxLength : 0) {
   setObjectName(name);
@@ -20,10 +30,14 @@ MemoBox::MemoBox(QWidget* parent, const QString& name, int maxLength)
   });
 }
 
+QString MemoBox::Text() const {
+  return WithLineEnds(document()->toRawText());
+}
+
 void MemoBox::SetText(const QString& text) {
   QString plain = text;
   plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-  if (plain == toPlainText()) return;
+  if (plain == Text()) return;
   const QScopedValueRollback filling(filling_, true);
   setPlainText(plain);
 }
@@ -86,6 +100,12 @@ void MemoBox::insertFromMimeData(const QMimeData* source) {
   if (fitting.isEmpty()) return;
   textCursor().insertText(fitting);
   ensureCursorVisible();
+}
+
+QMimeData* MemoBox::createMimeDataFromSelection() const {
+  auto* const data = new QMimeData;
+  data->setText(WithLineEnds(textCursor().selectedText()));
+  return data;
 }
 
 void MemoBox::focusInEvent(QFocusEvent* event) {

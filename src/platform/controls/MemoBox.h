@@ -2,7 +2,8 @@
 
 #include <QPlainTextEdit>
 
-// A text box of several lines. Line ends are "\n" on both sides; Tab moves the focus.
+// A text box of several lines. Line ends are "\n" on both sides; all else is kept as it was entered, the no-break space
+// included. Tab moves the focus.
 class MemoBox : public QPlainTextEdit {
   Q_OBJECT
 
@@ -10,10 +11,10 @@ class MemoBox : public QPlainTextEdit {
   // maxLength in UTF-16 units, line ends counted as one; 0 means no limit. What is typed or pasted beyond is dropped.
   MemoBox(QWidget* parent, const QString& name, int maxLength = 0);
 
-  QString Text() const { return toPlainText(); }
+  QString Text() const;
   // Filling by code: emits Change, not Edited. CR LF becomes "\n".
   void SetText(const QString& text);
-  QString Trimmed() const { return toPlainText().trimmed(); }
+  QString Trimmed() const { return Text().trimmed(); }
   QString TrimInPlace();
   void SetMaxLength(int limit) { maxLength_ = limit > 0 ? limit : 0; }
   int MaxLength() const { return maxLength_; }
@@ -35,6 +36,7 @@ class MemoBox : public QPlainTextEdit {
   void focusInEvent(QFocusEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void insertFromMimeData(const QMimeData* source) override;
+  QMimeData* createMimeDataFromSelection() const override;
 
  private:
   bool Refused();
