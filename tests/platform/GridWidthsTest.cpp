@@ -75,7 +75,7 @@ TEST_F(GridWidthsTest, ColumnsWhoseTextsAreCutGetOfTheRoomThatIsLeft) {
   EXPECT_EQ(form.grid->columnWidth(2), wide - 80);
   // The next load counts anew, and a window without room gives none.
   Form other("frmOther");
-  other.window.resize(350, 300);
+  other.window.resize(200, 300);
   QApplication::processEvents();
   other.grid->AddRow({"A", long_, "x"});
   EXPECT_EQ(other.grid->columnWidth(2), usual);

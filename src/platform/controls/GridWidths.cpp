@@ -91,22 +91,28 @@ int Grid::Needs(int col) const {
 }
 
 void Grid::ShareRoom() {
-  if (stretching_) return;
+  if (stretching_ || columns_.empty()) return;
   const QScopedValueRollback stretching(stretching_, true);
   const std::vector<int> visible = VisibleCols();
   const int last = visible.empty() ? 0 : visible.back();
-  // The last column needs no more than it holds; it takes what is left in any case.
-  int room = viewport()->width();
+  int rest = viewport()->width();
   for (int col = 0; col < Cols(); ++col)
-    if (!isColumnHidden(col)) room -= col == last ? Needs(col) : columns_[At(col)].pixels;
+    if (!isColumnHidden(col) && col != last) rest -= columns_[At(col)].pixels;
+  // The last column can spare what it does not fill.
+  int room = rest - Needs(last);
+  bool shared = false;
   for (int col = 0; col < Cols(); ++col) {
-    if (isColumnHidden(col)) continue;
+    if (isColumnHidden(col) || col == last) continue;
     const Column& column = columns_[At(col)];
     const int lacks = col == 0 || column.drawn ? 0 : std::min(column.texts, WidestByItself) - column.pixels;
-    const int share = std::max(0, col == last ? room : std::min(lacks, room));
+    const int share = std::clamp(lacks, 0, std::max(0, room));
+    shared = shared || share > 0;
     room -= share;
-    setColumnWidth(col, (col == last ? Needs(col) : column.pixels) + share);
+    rest -= share;
+    setColumnWidth(col, column.pixels + share);
   }
+  const int own = shared ? Needs(last) : columns_[At(last)].pixels;
+  if (!isColumnHidden(last)) setColumnWidth(last, std::max(own, rest));
 }
 
 // Empty where nothing can be kept: the marker, a column without a heading, a grid that stands in no window yet.
