@@ -112,9 +112,5 @@ void Screen::keyPressEvent(QKeyEvent* event) {
   QDialog::keyPressEvent(event);
 }
 
-Hourglass::Hourglass() {
-  QApplication::setOverrideCursor(Qt::WaitCursor);
-}
-Hourglass::~Hourglass() {
-  QApplication::restoreOverrideCursor();
-}
+Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+Hourglass::~Hourglass() { QApplication::restoreOverrideCursor(); }

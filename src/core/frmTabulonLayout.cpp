@@ -61,7 +61,8 @@ void frmTabulon::BuildControls() {
   cmdClose_ = Form::Button(central, "cmdClose", "&Close");
   auto* const column = new QVBoxLayout(central);
   column->addWidget(sstabtables_, 1);
-  column->addLayout(Form::ButtonRow({nullptr, add_.button, update_.button, delete_.button, clear_.button, cmdClose_}));
+  column->addLayout(
+      Form::ButtonRow({nullptr, add_.button, update_.button, delete_.button, clear_.button, cmdClose_}));
 
   connect(add_.button, &QPushButton::clicked, this, &frmTabulon::cmdAdd_Click);
   connect(update_.button, &QPushButton::clicked, this, &frmTabulon::cmdUpdate_Click);
@@ -71,10 +72,10 @@ void frmTabulon::BuildControls() {
 }
 
 void frmTabulon::BuildMenu() {
-  QMenu* const file = Form::Menu(this, "mnuFile", "&File");
+  QMenu* const file = Form::Menu(this, "mnuFile", "Fi&le");
   connect(Form::MenuEntry(file, "mnuFileExit", "E&xit"), &QAction::triggered, this, &frmTabulon::cmdClose_Click);
 
-  mnuOptions_ = Form::Menu(this, "mnuOptions", "&Options");
+  mnuOptions_ = Form::Menu(this, "mnuOptions", "Opt&ions");
   // The entries call the operations themselves: a button that is off for the present page presses nothing.
   const auto entry = [this](const char* name, const char* caption, const char* logName, void (frmTabulon::*press)()) {
     QAction* const action = Form::MenuEntry(mnuOptions_, name, caption);
@@ -85,10 +86,10 @@ void frmTabulon::BuildMenu() {
     return action;
   };
   add_.entry = entry("mnuOptionsAdd", "&Add", "frmTabulon.mnuOptionsAdd_Click", &frmTabulon::cmdAdd_Click);
-  update_.entry =
-      entry("mnuOptionsUpdate", "&Update", "frmTabulon.mnuOptionsUpdate_Click", &frmTabulon::cmdUpdate_Click);
-  delete_.entry =
-      entry("mnuOptionsDelete", "&Delete", "frmTabulon.mnuOptionsDelete_Click", &frmTabulon::cmdDelete_Click);
+  update_.entry = entry("mnuOptionsUpdate", "&Update", "frmTabulon.mnuOptionsUpdate_Click",
+                        &frmTabulon::cmdUpdate_Click);
+  delete_.entry = entry("mnuOptionsDelete", "&Delete", "frmTabulon.mnuOptionsDelete_Click",
+                        &frmTabulon::cmdDelete_Click);
   // The log name of Clear is that of another procedure; the log readers know it so.
   clear_.entry = entry("mnuOptionsClear", "Clea&r", "cmb4Tables_Click", &frmTabulon::cmdClear_Click);
 
@@ -130,7 +131,9 @@ void frmTabulon::ShowStatus() {
   if (gclsOF->CanAdd()) rights.append("Add");
   if (gclsOF->CanUpdate()) rights.append("Update");
   if (gclsOF->CanDelete()) rights.append("Delete");
-  const auto database = Procedure::Try([] { gclsOF->Connection(); }) ? QString() : gclsOF->Connection().Settings().name;
+  const auto database = Procedure::Try([] { gclsOF->Connection(); })
+                            ? QString()
+                            : gclsOF->Connection().Settings().name;
   const QString language = gclsOF->LanguageSuffix().isEmpty() ? QString("default") : gclsOF->LanguageSuffix().mid(1);
   status_->setText(QString("User: %1     Database: %2     Language: %3     Rights: %4")
                        .arg(gclsOF->UserId(), database, language, rights.isEmpty() ? "none" : rights.join(", ")));

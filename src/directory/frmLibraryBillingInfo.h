@@ -70,7 +70,7 @@ class frmLibraryBillingInfo : public LibraryScreen {
   TextBox* const txtQFilled = new TextBox(this, "txtQFilled", 9);
   DateBox* const txtQuotaResetDate = new DateBox(this, "txtQuotaResetDate");
 
-  QPushButton* const cmdSequenceSupplier = Form::Button(this, "cmdSequenceSupplier", "Se&quence Suppliers");
+  QPushButton* const cmdSequenceSupplier = Form::Button(this, "cmdSequenceSupplier", "Sequence Su&ppliers");
   QAction* mnuOptionsAnnotation = nullptr;
   QAction* mnuOptionsResetLoadBalancing = nullptr;
 

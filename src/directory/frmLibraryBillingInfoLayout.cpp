@@ -89,7 +89,7 @@ void frmLibraryBillingInfo::BuildControls() {
   columns->addWidget(AddressPart(), 1, Qt::AlignTop);
   columns->addWidget(AccountPart(), 1, Qt::AlignTop);
 
-  AddEntry(mnuOptions, "mnuOptionsSuppliers", "Se&quence Suppliers", cmdSequenceSupplier);
+  AddEntry(mnuOptions, "mnuOptionsSuppliers", "Sequence Su&ppliers", cmdSequenceSupplier);
   mnuOptionsAnnotation = Form::MenuEntry(mnuOptions, "mnuOptionsAnnotation", "A&nnotation Template");
   mnuOptionsResetLoadBalancing = Form::MenuEntry(mnuOptions, "mnuOptionsResetLoadBalancing", "Reset &Load Balancing");
   connect(cmdSequenceSupplier, &QPushButton::clicked, this,

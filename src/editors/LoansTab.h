@@ -14,5 +14,5 @@ class LoansTab : public TabPage {
   void Loans_Tab();
 
  private:
-  QPushButton* const cmdLoans = Form::Button(this, "cmdLoans", "&Loans", "Loan policies and loan statuses");
+  QPushButton* const cmdLoans = Form::Button(this, "cmdLoans", "Loa&ns", "Loan policies and loan statuses");
 };

@@ -19,10 +19,10 @@ class Miscellaneous : public TabPage {
 
   QPushButton* const cmdPatronMessages = Form::Button(this, "cmdPatronMessages", "&Patron Messages");
   QPushButton* const cmdGeneralMessages = Form::Button(this, "cmdGeneralMessages", "&General Messages");
-  QPushButton* const cmdISO18626Connection = Form::Button(this, "cmdISO18626Connection", "&ISO 18626 Connection");
+  QPushButton* const cmdISO18626Connection = Form::Button(this, "cmdISO18626Connection", "IS&O 18626 Connection");
   QPushButton* const cmdServiceCode = Form::Button(this, "cmdServiceCode", "&Service Code");
   QPushButton* const cmdSuppliedItemType = Form::Button(this, "cmdSuppliedItemType", "Supplied Item &Type");
-  QPushButton* const cmd11LevelsOfService = Form::Button(this, "cmd11LevelsOfService", "ISO &Levels of Service");
+  QPushButton* const cmd11LevelsOfService = Form::Button(this, "cmd11LevelsOfService", "ISO Le&vels of Service");
   QPushButton* const cmd11Namespace = Form::Button(this, "cmd11Namespace", "ISO &Namespace");
   QPushButton* const cmd11CurrencyCode = Form::Button(this, "cmd11CurrencyCode", "Currenc&y Code");
 };
