@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -85,6 +86,8 @@ TEST_P(MnemonicsTest, DoNotClashOnOneScreen) {
     for (const QGroupBox* frame : Seen<QGroupBox>(window)) take(frame->title());
     for (const QTabBar* tabs : Seen<QTabBar>(window))
       for (int tab = 0; tab < tabs->count(); ++tab) take(tabs->tabText(tab));
+    for (const QMenuBar* bar : Seen<QMenuBar>(window))
+      for (const QAction* menu : bar->actions()) take(menu->text());
     for (auto& [key, captions] : byKey) {
       mnemonics += captions.size();
       EXPECT_EQ(captions.size(), 1) << place.toStdString() << "  " << key.toStdString() << ": "
