@@ -44,7 +44,7 @@ void frmSplash::Form_Load() {
   Procedure procedure("frmSplash.Form_Load");
   procedure.Step([this] {
     const QString version = Manifest::Value("Vendor-Version");
-    lblVersion->setText("Version " + version);
+    lblVersion->setText(version);
     lblVersion->setVisible(!version.isEmpty());
   });
   procedure.Step([this] { lblRights->setText(Manifest::RightsLine()); });

@@ -56,10 +56,14 @@ QString QuotedCommandLine(int argc, char** argv) {
 void ForgetPassword(int argc, char** argv) {
   constexpr int PasswordOpens = 5;  // the quote before the third argument
   int quotes = 0;
+  bool whole = false;  // a password without quotes around it: what stands behind a quote inside is no other argument
   for (const Cell& cell : Joined(argc, argv)) {
     if (cell.letter == '"') {
       ++quotes;
-    } else if (quotes == PasswordOpens && cell.place) {
+      if (!cell.place && quotes == PasswordOpens) whole = true;
+    } else if (!cell.place) {
+      whole = false;
+    } else if (whole || quotes == PasswordOpens) {
       *cell.place = '*';
     }
   }

@@ -1,5 +1,6 @@
 #include "core/FindLibrary.h"
 
+#include <QScopedValueRollback>
 #include <QWidget>
 
 #include "core/Messages.h"
@@ -23,6 +24,8 @@ class SessionKept {
   ~SessionKept() {
     gclsOF->SetLibraryId(library_);
     gclsOF->SetCallingFunction(calling_);
+    // On the way out of a failure its message is still to be told.
+    const QScopedValueRollback inForce(gstrErrorMessage);
     Procedure("FindLibrary").Step(
         [this] { gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), function_); });
   }

@@ -4,10 +4,12 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
+#include <QMenu>
 #include <QShortcut>
 #include <QUrl>
 
 #include "core/Messages.h"
+#include "platform/controls/FormLayout.h"
 
 namespace {
 
@@ -65,6 +67,14 @@ void OpenHelp(const QString& page, QWidget* owner) {
 void OpenByF1(QWidget& window, std::function<QString()> page) {
   auto* const key = new QShortcut(Qt::Key_F1, &window);
   QObject::connect(key, &QShortcut::activated, &window, [&window, page] { OpenHelp(page(), &window); });
+}
+
+void AddEntry(QMenu& menu, QWidget& window, std::function<QString()> page) {
+  // The key is only told: it is the window's shortcut already.
+  QAction* const entry = Form::MenuEntry(&menu, "mnuHelpGuide", "&Guide\tF1");
+  entry->setIcon(QIcon(":/icons/help.svg"));
+  QObject::connect(entry, &QAction::triggered, &window, [&window, page] { OpenHelp(page(), &window); });
+  menu.addSeparator();
 }
 
 void SetOpener(Opener opener) {

@@ -3,11 +3,13 @@
 #include <QString>
 #include <functional>
 
+class QMenu;
 class QUrl;
 class QWidget;
 
 // The user's guide: one page for each screen, named as its form ("frmLoans"), and one for each tab of the main screen
-// ("frmTabulon-code-tables"). Pages are HTML where the guide was installed, Markdown where it was not built.
+// ("frmTabulon-code-tables"), or each page of such a tab ("frmTabulon-invoicing-1"). Pages are HTML where the guide was
+// installed, Markdown where it was not built.
 namespace Help {
 
 // The folder named by OSTANA_GUIDE; else share/doc/tabulon/guide beside the program's bin folder, the folder guide
@@ -20,6 +22,8 @@ QString TabPageName(const QString& form, const QString& tabCaption);
 void OpenHelp(const QString& page, QWidget* owner);
 // F1 in this window opens the page that `page` names at that moment.
 void OpenByF1(QWidget& window, std::function<QString()> page);
+// An entry of the window's help menu that does the same, for those who do not know the key.
+void AddEntry(QMenu& menu, QWidget& window, std::function<QString()> page);
 
 // What opens a file; nullptr brings the desktop's own back.
 using Opener = std::function<bool(const QUrl&)>;

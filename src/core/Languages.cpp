@@ -10,15 +10,16 @@ void LoadLanguageCodes(const QString& suffix) {
   const QString description = "LANGUAGE_CODE_DESC" + (suffix.isEmpty() ? gclsOF->LanguageSuffix() : suffix);
   procedure.Step([&] {
     QStringList codes, descriptions;
-    gstrDefaultLanguageCode.clear();
+    QString defaultCode;
     ForEachRow("SELECT   LANGUAGE_CODE, LANGUAGE_CODE_DEFAULT, " + description + " FROM " +
                    Sql::Table("ID_LANGUAGE_CODE") + " ORDER BY " + description,
                "***** SQL error on ID_LANGUAGE_CODE (Select) *****", [&](Recordset& rows) {
                  codes.append(Value(rows, 0));
-                 if (Value(rows, 1) == "Y") gstrDefaultLanguageCode = Value(rows, 0);
+                 if (Value(rows, 1) == "Y") defaultCode = Value(rows, 0);
                  descriptions.append(Value(rows, 2));
                });
     gcolLanguageCode = codes;
     gcolLanguageDesc = descriptions;
+    gstrDefaultLanguageCode = defaultCode;
   });
 }

@@ -79,6 +79,19 @@ double Val(const QString& text) {
   return number.match(WithPointOnly(text)).captured(1).toDouble();
 }
 
+bool HasFraction(const QString& text) {
+  static const QRegularExpression fraction("\\..*[1-9]");
+  return WithPointOnly(text).contains(fraction);
+}
+
+QString Whole(const QString& text) {
+  static const QRegularExpression whole("^([+-]?)0*(\\d*)");
+  const QRegularExpressionMatch match = whole.match(WithPointOnly(text.trimmed()));
+  const QString digits = match.captured(2);
+  if (digits.isEmpty()) return QStringLiteral("0");
+  return match.captured(1) == "-" ? '-' + digits : digits;
+}
+
 bool Same(const QString& text, const QString& other) {
   const bool blank = text.trimmed().isEmpty();
   return blank == other.trimmed().isEmpty() && (blank || Val(text) == Val(other));

@@ -4,7 +4,9 @@
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 
-Procedure::Procedure(QString logName, QWidget* form) : logName_(std::move(logName)), form_(form) {}
+Procedure::Procedure(QString logName, QWidget* form) : logName_(std::move(logName)), form_(form) {
+  gstrErrorMessage.clear();
+}
 
 Procedure& Procedure::OnFailure(const QString& closingText) {
   closingText_ = [closingText](const AdoError&) { return closingText; };

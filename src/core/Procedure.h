@@ -12,7 +12,7 @@
 // gstrErrorMessage as detail, "S" "Error: " number " - " description. Nothing crosses into the event loop.
 class Procedure {
  public:
-  // `form` gives caption and owner of the message; without it nothing is shown.
+  // Clears gstrErrorMessage. `form` gives caption and owner of the message; without it nothing is shown.
   explicit Procedure(QString logName, QWidget* form = nullptr);
 
   // What is shown instead of gstrErrorMessage: this procedure's closing text.

@@ -5,6 +5,10 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QStyle>
+#include <QVBoxLayout>
 
 #include "core/Help.h"
 #include "core/WindowMemory.h"
@@ -18,9 +22,33 @@ Screen::Screen(const QString& formName, const QString& caption, QWidget* parent)
   Help::OpenByF1(*this, [formName] { return formName; });
 }
 
+// A screen that large letters or long captions have made larger than the display scrolls.
+void Screen::FitDisplay() {
+  const QSize room = screen()->availableSize() - QSize(0, WindowMemory::TitleBar);
+  if (layout() == nullptr || layout()->totalMinimumSize().boundedTo(room) == layout()->totalMinimumSize()) return;
+  QWidget* const focus = focusWidget();
+  QWidget* const bar = layout()->menuBar();
+  layout()->setMenuBar(nullptr);
+  auto* const area = new QScrollArea(this);
+  auto* const content = new QWidget;
+  content->setLayout(layout());
+  area->setWidget(content);
+  area->setWidgetResizable(true);
+  area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::NoFocus);
+  auto* const whole = new QVBoxLayout(this);
+  whole->setContentsMargins(0, 0, 0, 0);
+  whole->addWidget(area);
+  whole->setMenuBar(bar);
+  const int line = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  resize((content->minimumSizeHint() + QSize(line, line)).boundedTo(room));
+  if (focus != nullptr) focus->setFocus(Qt::OtherFocusReason);
+}
+
 void Screen::Begin() {
   Form_Load();
   loaded_ = true;
+  FitDisplay();
   Form::ReadingOrder(this);
   WindowMemory::Restore(*this);
 }
@@ -84,5 +112,9 @@ void Screen::keyPressEvent(QKeyEvent* event) {
   QDialog::keyPressEvent(event);
 }
 
-Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-Hourglass::~Hourglass() { QApplication::restoreOverrideCursor(); }
+Hourglass::Hourglass() {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+Hourglass::~Hourglass() {
+  QApplication::restoreOverrideCursor();
+}

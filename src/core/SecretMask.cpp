@@ -13,11 +13,13 @@ const QString Mask = QStringLiteral("'***'");
 // Every column whose name holds one of these words is secret, so that one added later is masked too.
 bool IsSecretColumn(const QString& word) {
   const QString name = word.section('.', -1).remove('[').remove(']').remove('"').toUpper();
-  return name.contains("PASSWORD") || name == "CREDIT_CARD_NUM" || name == "CREDIT_CARD_CODE";
+  static const QStringList others{"CREDIT_CARD_NUM", "CREDIT_CARD_CODE", "NCIP_FROM_AGENCY_AUTH"};
+  return name.contains("PASSWORD") || others.contains(name);
 }
 
 bool NamesSecretColumn(const QString& text) {
-  static const QRegularExpression names("password|credit_card_(num|code)", QRegularExpression::CaseInsensitiveOption);
+  static const QRegularExpression names("password|credit_card_(num|code)|ncip_from_agency_auth",
+                                        QRegularExpression::CaseInsensitiveOption);
   return text.contains(names);
 }
 

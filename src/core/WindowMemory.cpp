@@ -6,7 +6,6 @@
 
 namespace {
 
-constexpr int TitleBar = 32;  // pixels that a window manager takes, about
 constexpr auto OpenedWith = "openedWith";
 
 QString Key(const QWidget& window, const char* what) {

@@ -5,6 +5,8 @@ class QWidget;
 // The sizes that a user gave to the windows, kept in the user's own settings by form name.
 namespace WindowMemory {
 
+constexpr int TitleBar = 32;  // pixels that a window manager takes, about
+
 // The size the user left the window with, else the one it has; never larger than its screen. The form is already built
 // and not yet shown.
 void Restore(QWidget& window);

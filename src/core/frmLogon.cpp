@@ -4,6 +4,7 @@
 #include <QSettings>
 #include <QVBoxLayout>
 
+#include "core/Help.h"
 #include "core/Logon.h"
 #include "platform/controls/FormLayout.h"
 
@@ -33,6 +34,7 @@ frmLogon::frmLogon(QWidget* parent) : QDialog(parent) {
   txtUser->SetText(AccountSettings().value(LastUser).toString());
   (txtUser->Trimmed().isEmpty() ? txtUser : txtPassword)->setFocus();
   EnableOK();
+  Help::OpenByF1(*this, [this] { return objectName(); });
 }
 
 void frmLogon::BuildControls() {
@@ -49,7 +51,6 @@ void frmLogon::BuildControls() {
   for (TextBox* field : {txtUser, txtPassword}) field->setFixedWidth(Form::FieldWidth(field, 30));
   auto* const column = Form::Column(this, {fields});
   column->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}));
-  Form::TabOrder({txtUser, txtPassword, cmdOK, cmdCancel});
 
   connect(txtUser, &TextBox::Change, this, &frmLogon::EnableOK);
   connect(cmdOK, &QPushButton::clicked, this, &frmLogon::accept);

@@ -43,8 +43,9 @@ void frmTabulon::sstabtables_Click(int previousTab) {
   }
   if (unsaved) {
     if (CloseButtonUpdate()) {
-      // The tab that was left owns the record; the new one stays on screen and is not set up.
-      RunOperation("frmTabulon.cmdUpdate_Click", recordTab_, &TabRow::update);
+      // The tab that was left owns the record until it is stored; the new one stays on screen and is not set up.
+      cmdUpdate_Click();
+      if (!gbRecordModified) recordTab_ = tab_;
       gbTabGuardArmed = true;
       mbGuardActed = true;
       return;
@@ -139,13 +140,17 @@ void frmTabulon::RunOperation(const QString& logName, int tab, std::function<boo
   bool wentThrough = true;
   gstrErrorMessage.clear();
   if (run && page) wentThrough = Procedure(logName).Step([&] { wentThrough = run(*page); }) && wentThrough;
-  // A refused or failed operation leaves the record modified, so that the user can correct and retry.
-  if (wentThrough) gbRecordModified = false;
+  // A refused or failed operation leaves the record modified, so that the user can correct and retry; so does one of a
+  // tab that was not set up, which has no record.
+  if (wentThrough && tab == recordTab_) gbRecordModified = false;
   gbSkipGridEvents = false;
 }
 
 void frmTabulon::cmdAdd_Click() { RunOperation("frmTabulon.cmdAdd_Click", Tab(), &TabRow::add); }
-void frmTabulon::cmdUpdate_Click() { RunOperation("frmTabulon.cmdUpdate_Click", Tab(), &TabRow::update); }
+// The record that waits is the owner's, also while another tab is on screen that was not set up.
+void frmTabulon::cmdUpdate_Click() {
+  RunOperation("frmTabulon.cmdUpdate_Click", recordTab_, &TabRow::update);
+}
 void frmTabulon::cmdDelete_Click() { RunOperation("frmTabulon.cmdDelete_Click", Tab(), &TabRow::remove); }
 void frmTabulon::cmdClear_Click() { RunOperation("frmTabulon.cmdClear_Click", Tab(), &TabRow::clear); }
 void frmTabulon::cmdClose_Click() { close(); }
@@ -160,6 +165,6 @@ void frmTabulon::closeEvent(QCloseEvent* event) {
 bool frmTabulon::Form_Unload() {
   gstrErrorMessage.clear();
   if (!UpdateIsPossible() || !CloseButtonUpdate()) return true;
-  RunOperation("frmTabulon.cmdUpdate_Click", recordTab_, &TabRow::update);
+  cmdUpdate_Click();
   return false;
 }

@@ -14,6 +14,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class QTabWidget;
+class Procedure;
 
 // One row of the shell's table of tabs. An empty operation is a button that does nothing there. Operations answer
 // True when they went through; a refused or failed one leaves gbRecordModified set, so that the user can correct.
@@ -98,11 +99,12 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   void BuildControls();
   void BuildMenu();
   void BuildStatusBar();
+  QString GuidePage() const;
   QAction* HelpEntry(QMenu* menu, const QString& name, const QString& caption, const QString& formName);
 
   // The stages of Form_Load. False: the process is ending.
   bool LoadSettings();
-  bool Logon();
+  bool Logon(Procedure& procedure);
   bool RefuseSecondCopy();
   void NameTabs();
   void FinishLoad();
@@ -125,7 +127,7 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   QMenu* mnuOptions_ = nullptr;
   QLabel* status_ = nullptr;
   int tab_ = 0;                // the tab on screen
-  int recordTab_ = 0;          // the tab that was set up last: it owns the record on screen
+  int recordTab_ = 0;          // owns the record: the tab on screen, or the one left with a record that was not stored
   bool mbFormLoaded = false;   // Form_Load has gone all the way through
   bool mbGuardActed = false;   // the answer was Yes: the next leaving of an unsaved record returns in silence
   bool movingBack_ = false;

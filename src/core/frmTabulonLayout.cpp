@@ -1,6 +1,5 @@
 // The main screen's controls: tabs, the shared row of buttons, the menu that mirrors them, the status bar.
 #include <QAction>
-#include <QIcon>
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
@@ -9,6 +8,7 @@
 #include <QToolBar>
 
 #include "core/Help.h"
+#include "core/Icons.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/Procedure.h"
@@ -17,31 +17,30 @@
 #include "core/frmTabulon.h"
 #include "platform/controls/FormLayout.h"
 
-// Resources of a static library are not linked by themselves. Outside of every namespace, as the macro wants it.
-static void LinkIcons() {
-  Q_INIT_RESOURCE(icons);
-}
-
-static QIcon Icon(const char* name) {
-  return QIcon(QString(":/icons/%1.svg").arg(name));
-}
-
 frmTabulon::frmTabulon(QString commandLine, QWidget* parent)
     : QMainWindow(parent), commandLine_(std::move(commandLine)), sstabtables_(new QTabWidget) {
   setObjectName("frmTabulon");
   setWindowTitle("Ostana - System Maintenance");
-  LinkIcons();
-  setWindowIcon(Icon("tabulon"));
+  setWindowIcon(OwnIcon("tabulon"));
   BuildControls();
   BuildMenu();
   BuildStatusBar();
   resize(1180, 720);
   WindowMemory::Restore(*this);
-  Help::OpenByF1(*this, [this] { return Help::TabPageName("frmTabulon", sstabtables_->tabText(Tab())); });
+  Help::OpenByF1(*this, [this] { return GuidePage(); });
   connect(sstabtables_, &QTabWidget::currentChanged, this, &frmTabulon::TabChanged);
 }
 
 frmTabulon::~frmTabulon() = default;
+
+// A tab that holds tabs has a page for each of them. A tab that was never set up is told of on the window's own page.
+QString frmTabulon::GuidePage() const {
+  const TabPage* const page = Page(Tab());
+  if (page == nullptr) return objectName();
+  const QString name = Help::TabPageName(objectName(), sstabtables_->tabText(Tab()));
+  const auto* const inner = page->findChild<QTabWidget*>();
+  return inner == nullptr ? name : name + '-' + QString::number(inner->currentIndex());
+}
 
 void frmTabulon::BuildControls() {
   auto* const central = new QWidget;
@@ -62,8 +61,7 @@ void frmTabulon::BuildControls() {
   cmdClose_ = Form::Button(central, "cmdClose", "&Close");
   auto* const column = new QVBoxLayout(central);
   column->addWidget(sstabtables_, 1);
-  column->addLayout(
-      Form::ButtonRow({nullptr, add_.button, update_.button, delete_.button, clear_.button, cmdClose_}));
+  column->addLayout(Form::ButtonRow({nullptr, add_.button, update_.button, delete_.button, clear_.button, cmdClose_}));
 
   connect(add_.button, &QPushButton::clicked, this, &frmTabulon::cmdAdd_Click);
   connect(update_.button, &QPushButton::clicked, this, &frmTabulon::cmdUpdate_Click);
@@ -87,14 +85,15 @@ void frmTabulon::BuildMenu() {
     return action;
   };
   add_.entry = entry("mnuOptionsAdd", "&Add", "frmTabulon.mnuOptionsAdd_Click", &frmTabulon::cmdAdd_Click);
-  update_.entry = entry("mnuOptionsUpdate", "&Update", "frmTabulon.mnuOptionsUpdate_Click",
-                        &frmTabulon::cmdUpdate_Click);
-  delete_.entry = entry("mnuOptionsDelete", "&Delete", "frmTabulon.mnuOptionsDelete_Click",
-                        &frmTabulon::cmdDelete_Click);
+  update_.entry =
+      entry("mnuOptionsUpdate", "&Update", "frmTabulon.mnuOptionsUpdate_Click", &frmTabulon::cmdUpdate_Click);
+  delete_.entry =
+      entry("mnuOptionsDelete", "&Delete", "frmTabulon.mnuOptionsDelete_Click", &frmTabulon::cmdDelete_Click);
   // The log name of Clear is that of another procedure; the log readers know it so.
   clear_.entry = entry("mnuOptionsClear", "Clea&r", "cmb4Tables_Click", &frmTabulon::cmdClear_Click);
 
   QMenu* const help = Form::Menu(this, "mnuHelp", "&Help");
+  Help::AddEntry(*help, *this, [this] { return GuidePage(); });
   HelpEntry(help, "mnuHelpAboutOstana", "&About Ostana", "frmAboutOstana");
   HelpEntry(help, "mnuHelpAboutTabulon", "About &Tabulon", "frmAboutApp");
 
@@ -104,10 +103,10 @@ void frmTabulon::BuildMenu() {
   tlbButtons->setMovable(false);
   tlbButtons->setFocusPolicy(Qt::NoFocus);
   tlbButtons->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  add_.entry->setIcon(Icon("add"));
-  update_.entry->setIcon(Icon("update"));
-  delete_.entry->setIcon(Icon("delete"));
-  clear_.entry->setIcon(Icon("clear"));
+  add_.entry->setIcon(OwnIcon("add"));
+  update_.entry->setIcon(OwnIcon("update"));
+  delete_.entry->setIcon(OwnIcon("delete"));
+  clear_.entry->setIcon(OwnIcon("clear"));
   tlbButtons->addActions({add_.entry, update_.entry, delete_.entry, clear_.entry});
 }
 
@@ -131,9 +130,7 @@ void frmTabulon::ShowStatus() {
   if (gclsOF->CanAdd()) rights.append("Add");
   if (gclsOF->CanUpdate()) rights.append("Update");
   if (gclsOF->CanDelete()) rights.append("Delete");
-  const auto database = Procedure::Try([] { gclsOF->Connection(); })
-                            ? QString()
-                            : gclsOF->Connection().Settings().name;
+  const auto database = Procedure::Try([] { gclsOF->Connection(); }) ? QString() : gclsOF->Connection().Settings().name;
   const QString language = gclsOF->LanguageSuffix().isEmpty() ? QString("default") : gclsOF->LanguageSuffix().mid(1);
   status_->setText(QString("User: %1     Database: %2     Language: %3     Rights: %4")
                        .arg(gclsOF->UserId(), database, language, rights.isEmpty() ? "none" : rights.join(", ")));

@@ -41,20 +41,21 @@ void frmTabulon::Form_Initialize() {
 void frmTabulon::Form_Load() {
   Procedure procedure("frmTabulon.Form_Load");
   mbFormLoaded = false;
-  const Hourglass hourglass;
+  std::optional<Hourglass> hourglass(std::in_place);
   ID_DecodeAppArguments(commandLine_, arguments_);
   QString language = arguments_[5];
   if (!LanguagePasses(language)) language.clear();
   ID_WriteStartupLogEntry("Tabulon", arguments_[1]);
   if (!LoadSettings()) return;
   if (!language.isEmpty()) gclsOF->SetLanguageSuffix(language);
-  if (!Logon()) return;
+  if (!Logon(procedure)) return;
   bool second = false;
   procedure.Step([&] { second = RefuseSecondCopy(); });
   if (second) return;
   if (arguments_[2].isEmpty()) procedure.Step([] { ShowModal("frmSplash"); });
   gclsOF->SetApplicationCode("3");
   NameTabs();
+  hourglass.reset();
   procedure.Step([this] { FinishLoad(); });
 }
 
@@ -87,12 +88,10 @@ bool frmTabulon::LoadSettings() {
   return loaded;
 }
 
-bool frmTabulon::Logon() {
+bool frmTabulon::Logon(Procedure& procedure) {
   bool valid = false;
-  const std::optional<AdoError> error = Procedure::Try([&] {
-    valid = gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), gclsOF->ApplicationName());
-  });
-  if (error) gclsOF->SetLastError(error->Description());
+  procedure.Step(
+      [&] { valid = gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), gclsOF->ApplicationName()); });
   if (valid) return true;
   if (gclsOF->Tracing()) gclsOF->WriteLog("gclsOF.ID_ValidateLogin: Not valid. ", {}, "L");
   ShowMessage(gclsOF->LastError(), MessageStyle::Stop, Caption());

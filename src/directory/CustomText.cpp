@@ -39,13 +39,6 @@ void PutCaption(QObject& control, const QString& text, int column) {
 
 }  // namespace
 
-// A value of blanks is a value; around any other blanks mean nothing.
-QString CustomText::Value(const QString& key) const {
-  const QString text = gclsOF->ReadProfileString(section_, key, path_);
-  const QString trimmed = text.trimmed();
-  return trimmed.isEmpty() ? text : trimmed;
-}
-
 QString MissingCustomText(const QString& path) {
   return "Unable to find the Custom Configuration File:\n\n" + path +
          "\n\nCopy the Configuration File to the Ostana Installation Directory.\n\n"
@@ -59,6 +52,11 @@ void PutText(QWidget& form, const TextKey& key, const QString& text) {
   if (!control) throw std::logic_error("The form has no control " + name.toStdString());
   if (!QString(key.key).endsWith("ToolTip")) return PutCaption(*control, text, key.column);
   if (auto* const widget = qobject_cast<QWidget*>(control)) widget->setToolTip(text);
+}
+
+void PutBuiltInTips(QWidget& form, std::span<const TextKey> keys) {
+  for (const TextKey& key : keys)
+    if (key.tip != nullptr) PutText(form, key, key.tip);
 }
 
 void LoadCustomText(QWidget& form, const CustomTextReader& reader, std::span<const TextKey> keys,

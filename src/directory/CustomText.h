@@ -4,28 +4,17 @@
 #include <functional>
 #include <span>
 
-class QWidget;
+#include "directory/CustomTextFile.h"
 
-// What a site calls things: the custom text file, an INI file with one section for each screen of the directory. A key
-// that is missing or empty leaves the built-in text alone.
+class QWidget;
 
 // A key and the control that it renames: title of the form ("" as control), caption of a menu, entry, button, option,
 // frame or label, heading of a grid's column, or, for a key that ends in "ToolTip", the control's tip.
 struct TextKey {
   const char* key;
   const char* control;
-  int column = 0;  // of a grid
-};
-
-class CustomText {
- public:
-  CustomText(QString path, QString section) : path_(std::move(path)), section_(std::move(section)) {}
-  // Empty when the key is missing.
-  QString Value(const QString& key) const;
-
- private:
-  QString path_;
-  QString section_;
+  int column = 0;             // of a grid
+  const char* tip = nullptr;  // the built-in one; captions are the layout's
 };
 
 // How a screen of the directory has its texts replaced.
@@ -44,5 +33,7 @@ QString MissingCustomText(const QString& path);
 // is a std::logic_error.
 void LoadCustomText(QWidget& form, const CustomTextReader& reader, std::span<const TextKey> keys,
                     const std::function<void(const CustomText&)>& further = {});
+// The tips that the form has without a file.
+void PutBuiltInTips(QWidget& form, std::span<const TextKey> keys);
 // One key's text on its control.
 void PutText(QWidget& form, const TextKey& key, const QString& text);

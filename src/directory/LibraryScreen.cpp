@@ -63,6 +63,7 @@ void LibraryScreen::Form_Load() {
     {
       const FillingFields filling;
       LoadSettings();
+      PutBuiltInTips(*this, TextKeys());
       if (!gclsOF->CustomConfigFile().isEmpty()) LoadText();
       // A list that cannot be filled is told and leaves the rest of the screen usable.
       Procedure(LogName("PopulateComboBoxes"), this)

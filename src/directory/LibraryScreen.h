@@ -154,7 +154,6 @@ class LibraryScreen : public Screen {
   void Form_Load() override;
   bool Form_QueryUnload() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void changeEvent(QEvent* event) override;
 
  private:
   void BuildMenu();

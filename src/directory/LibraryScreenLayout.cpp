@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QVBoxLayout>
 
+#include "core/Help.h"
 #include "core/Procedure.h"
 #include "core/Screens.h"
 #include "directory/LibraryScreen.h"
@@ -28,15 +29,6 @@ void MakeBanner(QLabel* label, const QColor& colour) {
   palette.setColor(QPalette::WindowText, colour);
   label->setPalette(palette);
   label->hide();
-}
-
-// A field that the Tab key stops at; the parts that the toolkit's own fields are made of are none.
-bool IsTabStop(const QWidget* field, const QWidget* content) {
-  if (!(field->focusPolicy() & Qt::TabFocus) || field->focusProxy()) return false;
-  for (const QWidget* above = field->parentWidget(); above != content; above = above->parentWidget())
-    if (above->inherits("QComboBox") || above->inherits("QAbstractSpinBox") || above->inherits("QAbstractScrollArea"))
-      return false;
-  return true;
 }
 
 }  // namespace
@@ -62,26 +54,13 @@ LibraryScreen::LibraryScreen(LibrarySibling self, QWidget* parent)
   ConnectControls();
 }
 
-// A box that shows only looks like the window behind it.
 void LibraryScreen::MakeReadOnly(TextBox* box) {
   box->setReadOnly(true);
-  QPalette palette;
-  palette.setColor(QPalette::Base, QApplication::palette().color(QPalette::Window));
-  box->setPalette(palette);
   box->setFocusPolicy(Qt::ClickFocus);
-}
-
-// The user changed between light and dark while the screen is open.
-void LibraryScreen::changeEvent(QEvent* event) {
-  Screen::changeEvent(event);
-  if (event->type() != QEvent::ApplicationPaletteChange) return;
-  for (TextBox* box : findChildren<TextBox*>())
-    if (box->isReadOnly() && box->testAttribute(Qt::WA_SetPalette)) MakeReadOnly(box);
 }
 
 void LibraryScreen::MakeEditable(TextBox* box) {
   box->setReadOnly(false);
-  box->setPalette({});
   box->setFocusPolicy(Qt::StrongFocus);
 }
 
@@ -112,6 +91,7 @@ void LibraryScreen::BuildMenu() {
     connect(Form::MenuEntry(mnuHelp, name, caption), &QAction::triggered, this,
             [this, name, formName] { Run(name + "_Click", [&] { ::ShowModal(formName, this); }); });
   };
+  Help::AddEntry(*mnuHelp, *this, [this] { return objectName(); });
   about("mnuHelpAboutOstana", "&About Ostana", "frmAboutOstana");
   about("mnuHelpAboutApplication", "About &Tabulon", "frmAboutApp");
 }
@@ -146,7 +126,6 @@ QWidget* LibraryScreen::SymbolRow() {
 QWidget* LibraryScreen::Banner() {
   auto* const banner = new QWidget(this);
   Form::Rows rows(banner);
-  rows.Layout()->setContentsMargins(0, 0, 0, 0);
   rows.Add(lblLibrarySymbol, SymbolRow());
   rows.Add(lblInstitution, txtInstitution);
   rows.Add(lblLibraryName, txtLibraryName);
@@ -177,17 +156,6 @@ void LibraryScreen::Compose(QWidget* content, std::initializer_list<QWidget*> co
   auto* const bar = new QMenuBar(this);
   for (QMenu* menu : {mnuFile, mnuDisplay, mnuOptions, mnuRequest, mnuHelp}) bar->addMenu(menu);
   column->setMenuBar(bar);
-
-  std::vector<QWidget*> order = {txtLibrarySymbol, cmbLibrarySymbol, cmdSearch, cmdAdvanced,
-                                 txtInstitution,   txtLibraryName,   txtContact};
-  for (QWidget* field : content->findChildren<QWidget*>())
-    if (IsTabStop(field, content)) order.push_back(field);
-  for (const LibrarySibling sibling : AllLibrarySiblings)
-    if (QPushButton* const button = SiblingButton(sibling)) order.push_back(button);
-  order.insert(order.end(), doors.begin(), doors.end());
-  order.insert(order.end(), {cmdArticle, cmdBook});
-  std::copy_if(commands.begin(), commands.end(), std::back_inserter(order), [](QWidget* button) { return button; });
-  for (size_t next = 1; next < order.size(); ++next) setTabOrder(order[next - 1], order[next]);
 }
 
 // --- Events ---

@@ -34,7 +34,6 @@ void frmDeliveryEmailTemplate::BuildControls() {
   whose.Add("lblInstitution", "Institution:", txtInstitution);
   whose.Add("lblPatronName", "Patron:", txtPatronName);
   whose.Add("lblForExternalURL", "For External URL:", rdForExternalURL->Row());
-  head->layout()->setContentsMargins(0, 0, 0, 0);
   Form::Rows rows(fraTemplate);
   rows.Add("lblSkipHeaderAndFooter", "Skip Header and Footer:", rdSkipHeaderAndFooter->Row());
   rows.Add("lblSubject", "Sub&ject:", txtSubject);
@@ -65,17 +64,23 @@ void frmDeliveryEmailTemplate::ClearBoxes() {
   rdSkipHeaderAndFooter->Select(0);
 }
 
+// The row of library and patron, in the letters of the two SELECTs; UPDATE and DELETE have their own.
+QString frmDeliveryEmailTemplate::OfTarget() const {
+  const QString patron = target_.PatronId();
+  return " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
+         (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron));
+}
+
 void frmDeliveryEmailTemplate::Load_TextBoxes() {
   Procedure("frmDeliveryEmailTemplate.Load_TextBoxes", this).Run([this] {
     fraTemplate->setTitle(QString("Message") +
                           (Family() == "SED_" ? " (Template for External URL)" : " (Template for Electronic Delivery)"));
     ClearBoxes();
+    mbRowRead = false;
     txtInstitution->SetText(target_.Institution());
-    const QString patron = target_.PatronId();
-    ForEachRow("SELECT   * FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " +
-                   Sql::Number(target_.LibraryId()) +
-                   (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron)),
+    ForEachRow("SELECT   * FROM " + Sql::Table("ID_EMAIL_MESSAGE") + OfTarget(),
                "***** SQL error on ID_EMAIL_MESSAGE  (Select) *****", [this](Recordset& rows) {
+                 mbRowRead = true;
                  txtSubject->SetText(Value(rows, Family() + "MESSAGE_SUBJECT"));
                  txtRequestInfo->SetText(Value(rows, Family() + "MESSAGE_REQUEST"));
                  txtBody->SetText(Value(rows, Family() + "MESSAGE_BODY"));
@@ -85,13 +90,10 @@ void frmDeliveryEmailTemplate::Load_TextBoxes() {
   });
 }
 
-// Asked anew for each target: another client may have made or deleted the row since it was read.
+// Asked before a row is added: two rows without a patron break no key, so another client's would stand beside it.
 bool frmDeliveryEmailTemplate::RowExists() const {
-  const QString patron = target_.PatronId();
   bool found = false;
-  FirstValue("SELECT   LIBRARY_ID FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " +
-                 Sql::Number(target_.LibraryId()) +
-                 (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron)),
+  FirstValue("SELECT   LIBRARY_ID FROM " + Sql::Table("ID_EMAIL_MESSAGE") + OfTarget(),
              "***** SQL error on ID_EMAIL_MESSAGE  (Select) *****", &found);
   return found;
 }
@@ -137,13 +139,14 @@ void frmDeliveryEmailTemplate::cmdOK_Click() {
           empty->setFocus();
           return;
         }
-        const bool exists = RowExists();
+        const bool exists = mbRowRead || RowExists();
         statement = exists ? UpdateStatement() : InsertStatement();
         if (gclsOF->Tracing())
           gclsOF->WriteLog((exists ? "Update Statement: " : "Insert Statement: ") + statement, {}, "L");
         const qint64 written = ExecuteInTransaction(
             statement, exists ? "***** SQL Error on ID_EMAIL_MESSAGE (Update) *****"
                               : "***** SQL Error on ID_EMAIL_MESSAGE (Insert) *****");
+        mbRowRead = written != 0;
         if (written == 0) {
           gclsOF->WriteLog("SQL statement: " + statement, {}, "L");
           Tell("Cannot add/update this record.", MessageStyle::Stop);
@@ -161,6 +164,7 @@ void frmDeliveryEmailTemplate::cmdDelete_Click() {
         "DELETE FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
             (patron.isEmpty() ? QString(" AND PATRON_ID IS NULL ") : " AND PATRON_ID = " + Sql::National(patron)),
         "***** SQL error on ID_EMAIL_MESSAGE (Delete) *****");
+    mbRowRead = false;
     Tell("Record deleted.", MessageStyle::Information);
     ClearBoxes();
   });

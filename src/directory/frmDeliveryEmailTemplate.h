@@ -29,10 +29,13 @@ class frmDeliveryEmailTemplate : public Screen {
   void cmdDelete_Click();
   // "SED_" for the external URL, "EMAIL_" for electronic delivery.
   QString Family() const;
+  QString OfTarget() const;
   bool RowExists() const;
   QString UpdateStatement() const;
   QString InsertStatement() const;
   int Tell(const QString& text, int style);
+
+  bool mbRowRead = false;  // the boxes show a row of the table
 
   OptionGroup* const rdForExternalURL =
       new OptionGroup(this, {{"rdForExternalURLYes", "Yes"}, {"rdForExternalURLNo", "No"}});

@@ -43,7 +43,6 @@ void frmLibraryAnnotationTemplate::BuildControls() {
   rows.Add("lblAnnotationText", "&Annotation Text:", txtAnnotationText);
   rows.Add("lblTextFontSize", "Text &Font Size:", cmbTextFontSize);
   rows.Add("lblTextOrientation", "Text Or&ientation:", cmbTextOrientation);
-  fields->layout()->setContentsMargins(0, 0, 0, 0);
   QVBoxLayout* const column = Form::Column(this, {fields});
   column->addStretch();
   column->addLayout(Form::ButtonRow({cmdSetSystemDefault, nullptr, cmdOK, cmdDelete, cmdCancel}));
@@ -72,8 +71,8 @@ QString frmLibraryAnnotationTemplate::PatronClause() const {
 }
 
 QString frmLibraryAnnotationTemplate::SelectStatement() const {
-  return "SELECT   * FROM " + Sql::Table("ID_ANNOTATION") + " WHERE        LIBRARY_ID  = " +
-         Sql::Number(target_.LibraryId()) + " " + PatronClause();
+  return "SELECT   * FROM " + Sql::Table("ID_ANNOTATION") +
+         " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause();
 }
 
 void frmLibraryAnnotationTemplate::LoadTemplate() {
@@ -84,10 +83,12 @@ void frmLibraryAnnotationTemplate::LoadTemplate() {
       })
       .Run([&] {
         ShowDefaults();
+        mbRowRead = false;
         txtInstitution->SetText(target_.Institution());
         txtPatronName->SetText(target_.PatronName());
         query = SelectStatement();
         ForEachRow(query, "***** SQL error on ID_ANNOTATION (Select) *****", [this](Recordset& rows) {
+          mbRowRead = true;
           optUseAnnotation->Select(Value(rows, "USE_ANNOTATION") == "N" ? 1 : 0);
           txtAnnotationText->SetText(Value(rows, "ANNOTATION"));
           // A value that is not in its list falls back to the default.
@@ -103,9 +104,9 @@ QString frmLibraryAnnotationTemplate::UpdateStatement() const {
   return "UPDATE " + Sql::Table("ID_ANNOTATION") + " SET LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
          (optUseAnnotation->IsSet(0) ? ",USE_ANNOTATION = N'Y' " : ",USE_ANNOTATION = N'N' ") +
          (text.isEmpty() ? QString(", ANNOTATION = NULL ") : ", ANNOTATION = " + Sql::National(text) + " ") +
-         ", TEXT_FONT_SIZE = " + cmbTextFontSize->Text() + ", TEXT_ORIENTATION = " +
-         Sql::National(cmbTextOrientation->Text()) + " WHERE        LIBRARY_ID  = " +
-         Sql::Number(target_.LibraryId()) + " " + PatronClause();
+         ", TEXT_FONT_SIZE = " + cmbTextFontSize->Text() +
+         ", TEXT_ORIENTATION = " + Sql::National(cmbTextOrientation->Text()) +
+         " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause();
 }
 
 QString frmLibraryAnnotationTemplate::InsertStatement() const {
@@ -138,14 +139,15 @@ void frmLibraryAnnotationTemplate::cmdOK_Click() {
         return SeriousFailure;
       })
       .Run([&] {
-        // Asked anew for each target.
-        bool exists = false;
-        FirstValue(SelectStatement(), "***** SQL error on ID_ANNOTATION (Select) *****", &exists);
+        // Asked before a row is added: two rows without a patron break no key, and another client's may stand there.
+        bool exists = mbRowRead;
+        if (!exists) FirstValue(SelectStatement(), "***** SQL error on ID_ANNOTATION (Select) *****", &exists);
         opening = exists ? "Update SQL: " : "Insert Statement: ";
         statement = exists ? UpdateStatement() : InsertStatement();
         const qint64 written =
             ExecuteInTransaction(statement, exists ? "***** SQL Error on ID_ANNOTATION (Update) *****"
                                                    : "***** SQL Error on ID_ANNOTATION (Insert) *****");
+        mbRowRead = written != 0;
         if (written == 0) {
           LogFailure(opening, statement, "no row was written");
           Tell("Cannot add record to database.", MessageStyle::Stop);
@@ -158,9 +160,10 @@ void frmLibraryAnnotationTemplate::cmdOK_Click() {
 void frmLibraryAnnotationTemplate::cmdDelete_Click() {
   Procedure("frmLibraryAnnotationTemplate.cmdDelete_Click", this).OnFailure(SeriousFailure).Run([this] {
     if (Tell("Are you sure you wish to delete this record ?", MessageStyle::Question) != MessageAnswer::Yes) return;
-    ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_ANNOTATION") + " WHERE        LIBRARY_ID  = " +
-                             Sql::Number(target_.LibraryId()) + " " + PatronClause(),
+    ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_ANNOTATION") +
+                             " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause(),
                          "***** SQL error on ID_ID_ANNOTATION (Delete) *****");
+    mbRowRead = false;
     Tell("Record deleted.", MessageStyle::Information);
     ShowDefaults();
   });

@@ -44,5 +44,6 @@ class frmLibraryAnnotationTemplate : public Screen {
   QPushButton* const cmdOK = Form::Button(this, "cmdOK", "&OK");
   QPushButton* const cmdDelete = Form::Button(this, "cmdDelete", "&Delete");
   QPushButton* const cmdCancel = Form::Button(this, "cmdCancel", "&Cancel");
+  bool mbRowRead = false;  // the controls show a row of the table
   TemplateTarget target_{cmdSetSystemDefault, cmdOK, cmdDelete};
 };

@@ -74,10 +74,10 @@ class frmLibraryContactInfo : public LibraryScreen {
   QPushButton* const cmdFindLibrary = Form::Button(this, "cmdFindLibrary", "Find Library");
   OptionGroup* const optUseThisProfile =
       new OptionGroup(this, {{"optUseThisProfileYes", "Yes"}, {"optUseThisProfileNo", "No"}});
-  QPushButton* const cmdConfigureNCIPServer = Form::Button(this, "cmdConfigureNCIPServer", "Configure Server");
+  QPushButton* const cmdConfigureNCIPServer = Form::Button(this, "cmdConfigureNCIPServer", "Configure NCIP Server");
   QPushButton* const cmdUnitLibraries = Form::Button(this, "cmdUnitLibraries", "Unit Libraries");
   QPushButton* const cmdStatusCodes = Form::Button(this, "cmdStatusCodes", "Status Codes");
-  QPushButton* const cmdUpdateProfile = Form::Button(this, "cmdUpdateProfile", "Profiles");
+  QPushButton* const cmdUpdateProfile = Form::Button(this, "cmdUpdateProfile", "Update Profile");
 
   TextBox* const txtConnectionID = new TextBox(this, "txtConnectionID", 50);
   QPushButton* const cmdConfigISO18626Connection = Form::Button(this, "cmdConfigISO18626Connection", "Configure");

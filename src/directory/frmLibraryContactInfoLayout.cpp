@@ -23,16 +23,18 @@ constexpr TextKey Keys[] = {
     {"ID_LIBRARY.NOTICE_SDATE", "lblNoticeStartDate"},
     {"ID_LIBRARY.NOTICE_EDATE", "lblNoticeEndDate"},
     {"ID_LIBRARY.REPLY_ADDRESS_ISO_SMTP", "lblReplyAddressSMTP"},
-    {"ID_LIBRARY.REPLY_ADDRESS_ISO_SMTPToolTip", "txtReplyAddressSMTP"},
+    {"ID_LIBRARY.REPLY_ADDRESS_ISO_SMTPToolTip", "txtReplyAddressSMTP", 0, "E-mail address for ISO ILL replies"},
     {"ID_LIBRARY.REPLY_ADDRESS_ISO_TCP", "lblReplyAddressTCP"},
-    {"ID_LIBRARY.REPLY_ADDRESS_ISO_TCPToolTip", "txtReplyAddressTCP"},
+    {"ID_LIBRARY.REPLY_ADDRESS_ISO_TCPToolTip", "txtReplyAddressTCP", 0, "IP address and port for ISO ILL replies"},
     {"ID_LIBRARY.REPLY_ADDRESS_GSM", "lblReplyAddressGSM"},
-    {"ID_LIBRARY.REPLY_ADDRESS_GSMToolTip", "txtReplyAddressGSM"},
+    {"ID_LIBRARY.REPLY_ADDRESS_GSMToolTip", "txtReplyAddressGSM", 0, "E-mail address, or host and port"},
     {"ID_LIBRARY.NCIP_SERVER_LIBRARY_ID", "lblNCIPServerLibrary"},
-    {"ID_LIBRARY.NCIP_SERVER_LIBRARY_IDToolTip", "txtNCIPServerLibrary"},
+    {"ID_LIBRARY.NCIP_SERVER_LIBRARY_IDToolTip", "txtNCIPServerLibrary", 0,
+     "Symbol of the library whose NCIP server is used"},
     {"LIBRARY_pbFindLibrary", "cmdFindLibrary"},
     {"ID_LIBRARY.NCIP_USE_SERVER_PROFILE", "lblUseThisProfile"},
-    {"ID_LIBRARY.NCIP_USE_SERVER_PROFILEToolTip", "lblUseThisProfile"},
+    {"ID_LIBRARY.NCIP_USE_SERVER_PROFILEToolTip", "lblUseThisProfile", 0,
+     "Whether the server library's profile is used"},
     {"LIBRARY_optUseThisProfileYes", "optUseThisProfileYes"},
     {"LIBRARY_optUseThisProfileNo", "optUseThisProfileNo"},
     {"LIBRARY_pbUnitLibraries", "cmdUnitLibraries"},
@@ -78,10 +80,10 @@ QWidget* frmLibraryContactInfo::ContactPart() {
   Form::Rows contact(people);
   contact.Add("lblPhone", "Phone:", txtPhone);
   contact.Add("lblFax", "Fax:", txtFax);
-  contact.Add("lblEmail", "E-mail:", txtEmail);
-  contact.Add("lblAltPhone", "Alt. Phone:", txtAltPhone);
-  contact.Add("lblAltFax", "Alt. Fax:", txtAltFax);
-  contact.Add("lblAltEmail", "Alt. E-mail:", txtAltEmail);
+  contact.Add("lblEmail", "E-Mail:", txtEmail);
+  contact.Add("lblAltPhone", "Alternate Phone:", txtAltPhone);
+  contact.Add("lblAltFax", "Alternate Fax:", txtAltFax);
+  contact.Add("lblAltEmail", "Alternate E-Mail:", txtAltEmail);
   contact.Add("lblNote", "Note:", txtNote);
 
   auto* const period = Form::Frame(part, "fraNotice", "Notice");

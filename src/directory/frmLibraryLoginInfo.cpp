@@ -57,6 +57,7 @@ void frmLibraryLoginInfo::BuildControls() {
   static_cast<QBoxLayout*>(active->layout())->insertWidget(optActive->Count(), chkLibraryPending);
   rows.Add("lblLibraryActive", "Library Active:", active);
   rows.Stretch();
+  Form::Require({txtUserID, txtPassword, txtConfirmPassword});
   Compose(content, {cmdUpdate, cmdClear, cmdClose});
   resize(900, 480);
 }

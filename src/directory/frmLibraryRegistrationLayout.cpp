@@ -35,7 +35,7 @@ constexpr TextKey Keys[] = {
     {"ID_LIBRARY.DELIV_FAX", "lblDeliveryFax"},
     {"ID_LIBRARY.DELIV_EMAIL", "lblDeliveryEmail"},
     {"LIBRARY_pbMessageFormat", "cmdMessageFormat"},
-    {"LIBRARY_pbMessageFormatToolTip", "cmdMessageFormat"},
+    {"LIBRARY_pbMessageFormatToolTip", "cmdMessageFormat", 0, "The e-mail that goes with an electronic delivery"},
     {"ID_LIBRARY.MSG_METHOD", "lblMsgMethod"},
     {"ID_LIBRARY.MSG_FAX", "lblMsgFax"},
     {"ID_LIBRARY.MSG_EMAIL", "lblMsgEmail"},
@@ -46,12 +46,6 @@ constexpr TextKey Keys[] = {
     {"ID_LIBRARY.DELIV_SERVICE", "lblDeliveryService"},
     {"ID_LIBRARY.DOCVIEW_ADDRESS", "lblDocview"},
 };
-
-void Embolden(QLabel* label) {
-  QFont bold = label->font();
-  bold.setBold(true);
-  label->setFont(bold);
-}
 
 }  // namespace
 
@@ -89,8 +83,6 @@ void frmLibraryRegistration::ReadFurtherText(const CustomText& texts) {
 }
 
 void frmLibraryRegistration::BuildControls() {
-  Embolden(lblLibrarySymbol);
-  Embolden(lblInstitution);
   for (TextBox* box : {txtInstitution, txtLibraryName, txtContact}) MakeEditable(box);
   txtInstitution->UpperCaseAsTyped();
   txtLibraryName->UpperCaseAsTyped();
@@ -98,6 +90,7 @@ void frmLibraryRegistration::BuildControls() {
   chkMessagingFax->setToolTip("Turn off formatting for the messaging fax number");
 
   cmbTimeZone->setMinimumContentsLength(LongestZoneOnShow);
+  cmbTimeZone->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 
   auto* const content = new QWidget(this);
   auto* const columns = new QHBoxLayout(content);
@@ -113,6 +106,7 @@ void frmLibraryRegistration::BuildControls() {
   AddEntry(mnuDisplay, "mnuDisplayPatron", "Patr&on", cmdPatron);
   Compose(content, {cmdMessageFormat, nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdClose},
           {cmdSupplier, cmdPatron});
+  Form::Require({txtLibrarySymbol, txtInstitution});
   resize(1180, 700);
 }
 

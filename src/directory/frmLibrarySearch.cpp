@@ -100,8 +100,6 @@ void frmLibrarySearch::BuildControls() {
   page->addWidget(grdViewSearchResults, 1);
   page->addLayout(count);
   page->addLayout(Form::ButtonRow({cmdSearch, cmdClear, cmdOK, cmdCancel}));
-  Form::TabOrder({txtContact, txtZipPostalCode, txtInstitution, txtLibrary, grdViewSearchResults, cmdSearch, cmdClear,
-                  cmdOK, cmdCancel});
   resize(1040, 620);
 }
 

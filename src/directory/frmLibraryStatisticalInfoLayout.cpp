@@ -1,9 +1,9 @@
 // Controls of the statistical screen.
 #include <QHBoxLayout>
-#include <QMouseEvent>
 
 #include "core/NumericFields.h"
 #include "directory/frmLibraryStatisticalInfo.h"
+#include "platform/controls/OptionLabel.h"
 
 namespace {
 
@@ -12,26 +12,6 @@ const char* const StatsCatFailed = "***** SQL error on ID_STATS_CAT_LIB (Select)
 DefaultCode::Facts StatsCategory(const char* key, const char* warning) {
   return {key, "SELECT   STATS_CAT_LIB_DESC", "ID_STATS_CAT_LIB", "STATS_CAT_LIB", StatsCatFailed, warning, ""};
 }
-
-// The caption of an option: a click on it is a click on the option.
-class OptionCaption : public QLabel {
- public:
-  OptionCaption(QWidget* parent, const QString& name, const QString& caption, QRadioButton* option)
-      : QLabel(caption, parent), option_(option) {
-    setObjectName(name);
-    setTextFormat(Qt::PlainText);
-    setBuddy(option);
-    option->setAccessibleName(caption);
-  }
-
- protected:
-  void mousePressEvent(QMouseEvent* event) override {
-    if (event->button() == Qt::LeftButton) option_->click();
-  }
-
- private:
-  QRadioButton* option_;
-};
 
 QVBoxLayout* Stack(std::initializer_list<QWidget*> parts) {
   auto* const stack = new QVBoxLayout;
@@ -85,18 +65,10 @@ void frmLibraryStatisticalInfo::BuildControls() {
 }
 
 QWidget* frmLibraryStatisticalInfo::OptionRow(OptionGroup* options, const QString& labelName) {
-  auto* const row = new QWidget(this);
-  auto* const line = new QHBoxLayout(row);
-  line->setContentsMargins(0, 0, 0, 0);
-  const char* const captions[] = {"Yes", "No"};
-  for (const Option option : {Yes, No}) {
-    QRadioButton* const button = options->Button(option);
-    button->setParent(row);
-    line->addWidget(button);
-    line->addWidget(new OptionCaption(row, QString("%1(%2)").arg(labelName).arg(option), captions[option], button));
-  }
-  line->addStretch();
-  return row;
+  const auto caption = [&](Option option, const char* text) {
+    return new OptionLabel(this, QString("%1(%2)").arg(labelName).arg(option), text, options->Button(option));
+  };
+  return options->RowWith({caption(Yes, "Yes"), caption(No, "No")});
 }
 
 QWidget* frmLibraryStatisticalInfo::VornPart() {

@@ -42,7 +42,7 @@ void Audit::BuildSubTab(QWidget* page, const Kind& kind, const QString& letter) 
   rows.Add("lbl10" + letter + "Code", "Code:", kind.code);
   rows.Add("lbl10" + letter + "Description", "Description:", kind.description);
   if (&kind == &functions_) rows.Add("lbl10Display", "Display for Patron:", opt10Display->Row());
-  boxes->layout()->setContentsMargins(0, 0, 0, 0);
+  Form::Require({kind.code, kind.description});
   Form::Column(page, {boxes})->addWidget(kind.grid, 1);
 }
 

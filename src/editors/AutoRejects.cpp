@@ -44,8 +44,8 @@ void AutoRejects::BuildControls() {
   rows.Add("lbl4Tables", "Code Table:", cmb4Tables);
   rows.Add("lbl4Code", "Code:", txt4Code);
   rows.Add("lbl4RejectType", "Reject Type:", cmb4RejectType);
-  boxes->layout()->setContentsMargins(0, 0, 0, 0);
   grd4AutoReject->setAccessibleName("Rows of the reject list");
+  Form::Require({txt4Code, cmb4RejectType});
   Form::Column(this, {boxes})->addWidget(grd4AutoReject, 1);
   for (CodeComboBox* list : {cmb4Tables, cmb4RejectType}) {
     list->AddNone("(none)");

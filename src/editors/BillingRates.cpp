@@ -24,6 +24,7 @@ void BillingRates::BuildControls() {
   cmb7InvoiceFlag->Add("Cover is not an Invoice!", "N");
   cmb7InvoiceFlag->SetIndex(0);
   grd7BillingRate->setAccessibleName("Billing rates");
+  Form::Require({txt7BillingCode});
   Form::Column(this, {inputs})->addWidget(grd7BillingRate, 1);
 }
 

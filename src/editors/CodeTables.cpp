@@ -1,6 +1,5 @@
 #include "editors/CodeTables.h"
 
-#include <QHBoxLayout>
 #include <algorithm>
 
 #include "core/Editing.h"
@@ -30,22 +29,13 @@ void CodeTables::BuildControls() {
   rows.Add("lbl0Code", "C&ode:", txt0Code);
   rows.Add("lbl0Description", "D&escription:", txt0Description);
   rows.Add(lbl0CurrentLanguage, cmb0CurrentLanguage, chk0DefaultLanguage);
-  choices->layout()->setContentsMargins(0, 0, 0, 0);
+  rows.Add(lbl0aDisplay, fra0aDisplay);
+  rows.Add(lbl0Display, fra0Display);
+  rows.Add(lbl0bDisplay, fra0bDisplay);
 
-  (new QHBoxLayout(fra0Display))->addWidget(opt0Display->Row());
-  (new QHBoxLayout(fra0aDisplay))->addWidget(opt0DeliveryType->Row());
-  auto* const library = new QHBoxLayout(fra0bDisplay);
-  library->addWidget(txt0LibrarySymbol);
-  library->addWidget(cmd0FindLibrary);
-  txt0LibrarySymbol->setAccessibleName("Library Symbol");
   grd0TableDesc->setAccessibleName("Rows of the code table");
-  auto* const frames = new QHBoxLayout;
-  for (QWidget* frame : {fra0aDisplay, fra0Display, fra0bDisplay}) frames->addWidget(frame);
-  frames->addStretch();
-
-  QVBoxLayout* const column = Form::Column(this, {choices});
-  column->addLayout(frames);
-  column->addWidget(grd0TableDesc, 1);
+  Form::Require({txt0Code});
+  Form::Column(this, {choices})->addWidget(grd0TableDesc, 1);
 }
 
 void CodeTables::ConnectControls() {
@@ -102,6 +92,7 @@ void CodeTables::CodeTables_Tab() {
   txt0Code->SetText({});
   txt0Description->SetText({});
   grd0TableDesc->Clear();
+  grd0TableDesc->SetColWidth(Marker, 310);
 }
 
 void CodeTables::cmb0Tables_Click() {
@@ -117,7 +108,9 @@ void CodeTables::cmb0Tables_Click() {
   txt0Code->setFocus();
 }
 
-QString CodeTables::TableName() const { return gstrTableNames.value(cmb0Tables->Index()); }
+QString CodeTables::TableName() const {
+  return gstrTableNames.value(cmb0Tables->Index());
+}
 
 void CodeTables::ConfigureGrid() {
   gstrButtonMode = "O";
@@ -144,27 +137,26 @@ void CodeTables::ReadTable() {
   gintCodeColumnType = code.Type();
   baseDescColumn_ = description.Name();
   gstrDescColumn = baseDescColumn_ + gclsOF->LanguageSuffix();
-  special_.webFlag =
-      QStringList{"PUBLICATION_TYPE", "SERVICE_LEVEL", "SERVICE_TYPE"}.contains(gstrCodeColumn);
+  special_.webFlag = QStringList{"PUBLICATION_TYPE", "SERVICE_LEVEL", "SERVICE_TYPE"}.contains(gstrCodeColumn);
   special_.deliveryType = gstrCodeColumn == "SERVICE_TYPE";
   special_.catalogLibrary = gstrCodeColumn == "CATALOG_CODE";
   special_.language = gstrCodeColumn == "LANGUAGE_CODE";
   special_.exception = gstrCodeColumn == "EXCEPTION_CODE";
-  const auto limit = [](const Field& field) { return field.DefinedSize() > 0 ? field.DefinedSize() : 32767; };
-  txt0Code->setMaxLength(limit(code));
-  txt0Description->setMaxLength(limit(description));
+  txt0Code->SetMaxLength(code.DefinedSize());
+  txt0Description->SetMaxLength(description.DefinedSize());
   grd0TableDesc->SetHeading(Code, "Code");
   grd0TableDesc->SetHeading(Description, special_.ackStatement ? "Statement" : "Description");
 }
 
 void CodeTables::ShowSpecialControls() {
   const bool library = special_.catalogLibrary || special_.ackStatement;
-  fra0Display->setVisible(special_.webFlag);
-  fra0aDisplay->setVisible(special_.deliveryType);
-  fra0bDisplay->setVisible(library);
-  for (QWidget* control : std::initializer_list<QWidget*>{lbl0CurrentLanguage, cmb0CurrentLanguage,
-                                                          chk0DefaultLanguage})
-    control->setVisible(special_.language);
+  const auto show = [](bool shown, std::initializer_list<QWidget*> controls) {
+    for (QWidget* control : controls) control->setVisible(shown);
+  };
+  show(special_.webFlag, {lbl0Display, fra0Display});
+  show(special_.deliveryType, {lbl0aDisplay, fra0aDisplay});
+  show(library, {lbl0bDisplay, fra0bDisplay});
+  show(special_.language, {lbl0CurrentLanguage, cmb0CurrentLanguage, chk0DefaultLanguage});
   grd0TableDesc->HideCol(DeliveryType, !special_.deliveryType);
   grd0TableDesc->HideCol(WebFlag, !special_.webFlag);
   grd0TableDesc->HideCol(LibrarySymbol, !library);
@@ -185,9 +177,9 @@ void CodeTables::LoadGrid() {
       const QString id = grd0TableDesc->Text(row, LibraryId);
       if (id.isEmpty()) continue;
       if (!symbols.contains(id))
-        symbols[id] = FirstValue("SELECT   LIBRARY_SYMBOL FROM " + Sql::Table("ID_LIBRARY") +
-                                     " WHERE    LIBRARY_ID = " + id,
-                                 "***** SQL error on ID_LIBRARY  (Select) *****");
+        symbols[id] =
+            FirstValue("SELECT   LIBRARY_SYMBOL FROM " + Sql::Table("ID_LIBRARY") + " WHERE    LIBRARY_ID = " + id,
+                       "***** SQL error on ID_LIBRARY  (Select) *****");
       grd0TableDesc->SetText(row, LibrarySymbol, symbols[id]);
     }
   }
@@ -247,9 +239,15 @@ int CodeTables::RowOfCode(const QString& code) const {
   return grd0TableDesc->FindRow(code, Code);
 }
 
-QString CodeTables::WebFlagValue() const { return opt0Display->IsSet(0) ? "'Y'" : "Null"; }
-QString CodeTables::DefaultFlagValue() const { return chk0DefaultLanguage->isChecked() ? "'Y'" : "Null"; }
-QString CodeTables::DeliveryTypeValue() const { return opt0DeliveryType->IsSet(0) ? "'C'" : "'L'"; }
+QString CodeTables::WebFlagValue() const {
+  return opt0Display->IsSet(0) ? "'Y'" : "Null";
+}
+QString CodeTables::DefaultFlagValue() const {
+  return chk0DefaultLanguage->isChecked() ? "'Y'" : "Null";
+}
+QString CodeTables::DeliveryTypeValue() const {
+  return opt0DeliveryType->IsSet(0) ? "'C'" : "'L'";
+}
 
 // --- Add ---
 
@@ -289,17 +287,14 @@ bool CodeTables::CodeIsValid(QString& code) {
   txt0Description->TrimInPlace();
   if (!CodeIsNumeric()) return true;
   if (!Numbers::IsNumeric(code)) return Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt0Code);
-  const double value = Numbers::Val(code);
-  if (value != static_cast<double>(static_cast<qint64>(value)))
-    return Refuse("Please enter a valid Code.", MessageStyle::Warning, txt0Code);
-  // The number goes bare into the statement, so it is written out: "+7" and "7E0" are 7.
-  code = QString::number(static_cast<qint64>(value));
+  if (Numbers::HasFraction(code)) return Refuse("Please enter a valid Code.", MessageStyle::Warning, txt0Code);
+  // The number goes bare into the statement and is looked for in the grid: "+7" and "7.0" are 7.
+  code = Numbers::Whole(code);
   return true;
 }
 
 bool CodeTables::IsDuplicate(const QString& code, qint32 libraryId) const {
-  if (special_.ackStatement)
-    return grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}}) > 0;
+  if (special_.ackStatement) return grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}}) > 0;
   return grd0TableDesc->FindRow(code, Code) > 0;
 }
 
@@ -320,9 +315,8 @@ QString CodeTables::InsertStatement(const QString& code, qint32 libraryId) const
     return into + "(ACK_CODE, LIBRARY_ID, " + baseDescColumn_ + languages.columns + ") VALUES(" + quoted + "," +
            Sql::Number(libraryId) + "," + description + languages.values + ")";
   if (special_.exception || special_.catalogLibrary)
-    return into + (special_.exception ? "(EXCEPTION_CODE, " : "(CATALOG_CODE, ") + baseDescColumn_ +
-           languages.columns + extraColumns + ") VALUES(" + quoted + "," + description + languages.values +
-           extraValues + ")";
+    return into + (special_.exception ? "(EXCEPTION_CODE, " : "(CATALOG_CODE, ") + baseDescColumn_ + languages.columns +
+           extraColumns + ") VALUES(" + quoted + "," + description + languages.values + extraValues + ")";
   const QString deliveryColumn = special_.deliveryType ? ", DELIVERY_TYPE" : "";
   const QString deliveryValue = special_.deliveryType ? ", " + DeliveryTypeValue() : "";
   return into + "(" + gstrCodeColumn + ", " + baseDescColumn_ + languages.columns + deliveryColumn + extraColumns +
@@ -332,9 +326,9 @@ QString CodeTables::InsertStatement(const QString& code, qint32 libraryId) const
 void CodeTables::ReloadAndSelect(const QString& code, qint32 libraryId) {
   shell().LoadDataInGrid();
   const SkipGridEvents skip;
-  grd0TableDesc->SetRowQuietly(
-      special_.ackStatement ? grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}})
-                            : grd0TableDesc->FindRow(code, Code));
+  grd0TableDesc->SetRowQuietly(special_.ackStatement
+                                   ? grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}})
+                                   : grd0TableDesc->FindRow(code, Code));
 }
 
 // --- Update ---
@@ -370,9 +364,10 @@ bool CodeTables::CodeTables_Update() {
       return;
     }
     if (special_.ackStatement && !gclsOF->FindLibraryId(symbol, libraryId)) {
-      Refuse("Please enter a Valid Library Symbol. (Make sure the Library Symbol entered exists as a registered "
-             "Library)",
-             MessageStyle::Warning, txt0LibrarySymbol);
+      Refuse(
+          "Please enter a Valid Library Symbol. (Make sure the Library Symbol entered exists as a registered "
+          "Library)",
+          MessageStyle::Warning, txt0LibrarySymbol);
       return;
     }
     ExecuteInTransaction(UpdateStatement(code, row, libraryId),
@@ -400,8 +395,9 @@ QString CodeTables::UpdateStatement(const QString& code, int row, qint32 library
   const QString update = "UPDATE " + Sql::Table(TableName()) + " ";
   const QString quoted = QuotedCode(code);
   if (special_.catalogLibrary)
-    return update + "SET  " + description + ", " + "         CATALOG_LIBRARY_ID = " +
-           (libraryId > 0 ? Sql::Number(libraryId) : QString("Null")) + " " + "WHERE    CATALOG_CODE = " + quoted;
+    return update + "SET  " + description + ", " +
+           "         CATALOG_LIBRARY_ID = " + (libraryId > 0 ? Sql::Number(libraryId) : QString("Null")) + " " +
+           "WHERE    CATALOG_CODE = " + quoted;
   if (special_.ackStatement)
     return update + "SET  " + description + ", " + "         LIBRARY_ID = " + Sql::Number(libraryId) + " " +
            "WHERE ACK_CODE = " + quoted + " AND LIBRARY_ID = " + grd0TableDesc->Text(row, LibraryId);
@@ -453,10 +449,9 @@ bool CodeTables::CodeTables_Delete() {
         }
         const QString from = QString("DELETE ") + "FROM " + Sql::Table(TableName()) + " ";
         // The code is quoted here even in a numeric column.
-        const QString where = special_.ackStatement
-                                  ? "WHERE ACK_CODE = " + Sql::Plain(code) +
-                                        " AND LIBRARY_ID= " + grd0TableDesc->Text(row, LibraryId)
-                                  : "WHERE " + gstrCodeColumn + " = " + Sql::Plain(code);
+        const QString where = special_.ackStatement ? "WHERE ACK_CODE = " + Sql::Plain(code) +
+                                                          " AND LIBRARY_ID= " + grd0TableDesc->Text(row, LibraryId)
+                                                    : "WHERE " + gstrCodeColumn + " = " + Sql::Plain(code);
         ExecuteInTransaction(from + where, "***** SQL error on " + TableName() + " (Delete) *****");
         shell().LoadDataInGrid();
         CodeTables_Clear();

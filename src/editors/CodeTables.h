@@ -1,7 +1,6 @@
 #pragma once
 
 #include <QCheckBox>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 
@@ -87,13 +86,16 @@ class CodeTables : public TabPage {
   CodeComboBox* const cmb0Tables = new CodeComboBox(this, "cmb0Tables");
   TextBox* const txt0Code = new TextBox(this, "txt0Code");
   TextBox* const txt0Description = new TextBox(this, "txt0Description");
-  QGroupBox* const fra0Display = Form::Frame(this, "fra0Display", "Display on Web:");
   OptionGroup* const opt0Display = new OptionGroup(this, "opt0Display", {"Yes", "No"});
-  QGroupBox* const fra0aDisplay = Form::Frame(this, "fra0aDisplay", "Delivery Type:");
+  QLabel* const lbl0Display = Form::Label(this, "lbl0Display", "Display on Web:");
+  QWidget* const fra0Display = opt0Display->Row("fra0Display");
   OptionGroup* const opt0DeliveryType = new OptionGroup(this, "opt0DeliveryType", {"Copy", "Loan"});
-  QGroupBox* const fra0bDisplay = Form::Frame(this, "fra0bDisplay", "Library Symbol:");
+  QLabel* const lbl0aDisplay = Form::Label(this, "lbl0aDisplay", "Delivery Type:");
+  QWidget* const fra0aDisplay = opt0DeliveryType->Row("fra0aDisplay");
   TextBox* const txt0LibrarySymbol = new TextBox(this, "txt0LibrarySymbol", 25);
   QPushButton* const cmd0FindLibrary = Form::Button(this, "cmd0FindLibrary", "&Find Library");
+  QLabel* const lbl0bDisplay = Form::Label(this, "lbl0bDisplay", "Library Symbol:");
+  QWidget* const fra0bDisplay = Form::Together(this, "fra0bDisplay", {txt0LibrarySymbol, cmd0FindLibrary});
   QLabel* const lbl0CurrentLanguage = Form::Label(this, "lbl0CurrentLanguage", "Current Language:");
   CodeComboBox* const cmb0CurrentLanguage = new CodeComboBox(this, "cmb0CurrentLanguage");
   QCheckBox* const chk0DefaultLanguage = Form::Check(this, "chk0DefaultLanguage", "Default Language");

@@ -27,7 +27,6 @@ void CoverPages::BuildControls() {
   rows.Add("lbl1Footer", "Footer:", txt1Footer);
   rows.Add("lbl1Message1", "Message 1:", txt1Message1);
   rows.Add("lbl1Message2", "Message 2:", txt1message2);
-  texts->layout()->setContentsMargins(0, 0, 0, 0);
   txt1Description->setAccessibleName("Description of the request type");
   txt1Message1->SetLines(4);
   txt1message2->SetLines(4);

@@ -25,8 +25,8 @@ void Departments::BuildControls() {
   rows.Add("lbl2Description", "Description:", txt2Description);
   rows.Add("lbl2Address", "Address:", txt2Address);
   rows.Beside("lblNCIPDepartment", "NCIP Department:", txtNCIPDepartment);
-  boxes->layout()->setContentsMargins(0, 0, 0, 0);
   grd2Department->setAccessibleName("Departments");
+  Form::Require({txt2LibrarySymbol, txt2Department, txt2Description});
   Form::Column(this, {boxes})->addWidget(grd2Department, 1);
 }
 

@@ -32,8 +32,8 @@ void ExceptionCodes::BuildControls() {
   rows.Add("lbl8Description", "D&escription:", txt8Description);
   rows.Add("lblExceptionType", "Exception &Type:", cboExceptionType);
   rows.Add(lbl8ServiceCharge, txt8ServiceCharge);
-  fields->layout()->setContentsMargins(0, 0, 0, 0);
   grd8Table->setAccessibleName("Exception codes");
+  Form::Require({txt8Code, txt8Description, cboExceptionType});
   Form::Column(this, {fields, grd8Table})->setStretch(1, 1);
 }
 

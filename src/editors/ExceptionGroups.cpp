@@ -36,8 +36,8 @@ void ExceptionGroups::BuildControls() {
   Form::Rows rows(fields);
   rows.Add("lbl8AccessGroup", "Access Group:", cmb8AccessGroup);
   rows.Add("lbl8dException", "Exception:", cmb8dException);
-  fields->layout()->setContentsMargins(0, 0, 0, 0);
   grd8dTable->setAccessibleName("Exceptions of the access group");
+  Form::Require({cmb8AccessGroup, cmb8dException});
   Form::Column(this, {fields, grd8dTable})->setStretch(1, 1);
 }
 

@@ -41,10 +41,9 @@ void IsoRejects::BuildControls() {
   Form::Rows rows(fields);
   rows.Add("lbl8RejectType", "Reject Type :", cmb8RejectType, txt8RejectTypeCode);
   rows.Add("lbl8ISOMessage", "ISO Message:", cmb8ISOMessage);
-  fields->layout()->setContentsMargins(0, 0, 0, 0);
   grd8ISO->setAccessibleName("ISO reject codes");
+  Form::Require({cmb8RejectType, cmb8ISOMessage});
   Form::Column(this, {fields, grd8ISO})->setStretch(1, 1);
-  Form::TabOrder({cmb8RejectType, cmb8ISOMessage, grd8ISO});
 }
 
 // --- Entering, selecting and choosing ---

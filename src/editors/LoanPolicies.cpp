@@ -74,6 +74,7 @@ void LoanPolicies::BuildControls() {
   auto* const frames = new QHBoxLayout;
   frames->addWidget(periods);
   frames->addWidget(messages, 1);
+  Form::Require({txt6LoanCode, txt6LoanPeriod});
   QVBoxLayout* const column = Form::Column(this, {code});
   column->addLayout(frames);
   column->addWidget(renewal);

@@ -46,9 +46,8 @@ void LoanStatuses::BuildControls() {
   rows.Add("lbl6LoanComplete", "Loan Complete:", opt6LoanComplete->Row());
   rows.Add("lbl6UserDisplay", "User Display:", opt6UserDisplay->Row());
   rows.Add(lbl6bLoanCharge, txt6bLoanCharge);
-  (new QHBoxLayout(frm6bFixedCharge))->addWidget(opt6bFixedCharge->Row());
-  frm6bFixedCharge->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-  rows.Wide(frm6bFixedCharge);
+  rows.Add(lbl6bFixedCharge, frm6bFixedCharge);
+  Form::Require({txt6bCode});
   Form::Column(this, {inputs})->addWidget(grd6bTable, 1);
 
   const char* const headings[] = {"", "Code", "Description", "Loan Charge", "Fixed", "Loan Complete", "User Display"};
@@ -72,7 +71,8 @@ void LoanStatuses::ConnectControls() {
 }
 
 void LoanStatuses::ShowCharge(bool shown) {
-  for (QWidget* control : std::initializer_list<QWidget*>{lbl6bLoanCharge, txt6bLoanCharge, frm6bFixedCharge})
+  for (QWidget* control :
+       std::initializer_list<QWidget*>{lbl6bLoanCharge, txt6bLoanCharge, lbl6bFixedCharge, frm6bFixedCharge})
     control->setVisible(shown);
   grd6bTable->HideCol(LoanCharge, !shown);
   grd6bTable->HideCol(FixedCharge, !shown);

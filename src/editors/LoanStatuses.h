@@ -48,7 +48,8 @@ class LoanStatuses : public QWidget {
   OptionGroup* const opt6UserDisplay = new OptionGroup(this, "opt6UserDisplay", {"Yes", "No"});
   QLabel* const lbl6bLoanCharge = Form::Label(this, "lbl6bLoanCharge", "Loan Charge:");
   TextBox* const txt6bLoanCharge = new TextBox(this, "txt6bLoanCharge", 6);
-  QGroupBox* const frm6bFixedCharge = Form::Frame(this, "frm6bFixedCharge", "Fixed Charge:");
+  QLabel* const lbl6bFixedCharge = Form::Label(this, "lbl6bFixedCharge", "Fixed Charge:");
   OptionGroup* const opt6bFixedCharge = new OptionGroup(this, "opt6bFixedCharge", {"Yes", "No"});
+  QWidget* const frm6bFixedCharge = opt6bFixedCharge->Row("frm6bFixedCharge");
   Grid* const grd6bTable = new Grid(this, "grd6bTable", Columns);
 };

@@ -1,7 +1,5 @@
 #include "editors/MethodPage.h"
 
-#include <QHBoxLayout>
-
 #include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
@@ -44,31 +42,14 @@ void MethodPage::BuildControls() {
   Form::Rows rows(fields);
   rows.Add(LabelOf(method_.codeBox), "C&ode:", code_);
   rows.Add(LabelOf(method_.descriptionBox), "D&escription:", description_);
-  fields->layout()->setContentsMargins(0, 0, 0, 0);
 
-  auto* const frames = new QHBoxLayout;
   for (const MethodFlag& flag : method_.flags) {
-    QGroupBox* const frame = Form::Frame(this, flag.frame, flag.caption);
-    pairs_.push_back(new OptionGroup(frame, flag.option, {"Yes", "No"}));
-    (new QHBoxLayout(frame))->addWidget(pairs_.back()->Row());
-    frame->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
-    frames->addWidget(frame);
+    pairs_.push_back(new OptionGroup(this, flag.option, {"Yes", "No"}));
+    rows.Add("", flag.caption, pairs_.back()->Row(flag.frame));
   }
-  frames->addStretch();
-
   grid_->setAccessibleName(method_.accessibleName);
-  QVBoxLayout* const column = Form::Column(this, {fields});
-  column->addLayout(frames);
-  column->addWidget(grid_, 1);
-
-  // The options were made after the grid and stand above it.
-  QWidget* before = description_;
-  for (const OptionGroup* pair : pairs_)
-    for (const int element : {Yes, No}) {
-      setTabOrder(before, pair->Button(element));
-      before = pair->Button(element);
-    }
-  setTabOrder(before, grid_);
+  Form::Require({code_, description_});
+  Form::Column(this, {fields})->addWidget(grid_, 1);
 }
 
 void MethodPage::ConnectControls() {

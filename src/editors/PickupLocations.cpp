@@ -65,10 +65,10 @@ void PickupLocations::BuildControls() {
   rows.Add("lbl5dILSCode", "ILS Code:", txt5dILSCode);
   rows.Add("lbl5dDeliverySystemCode", "Delivery Code:", txt5dDeliverySystemCode);
   rows.Add("lbl5dSelectLibrarySymbol", "Show Pickup Locations from:", cmb5dSelectLibrarySymbol);
-  fields->layout()->setContentsMargins(0, 0, 0, 0);
   cmb5dSelectLibrarySymbol->AddNone("All Libraries!");
   cmb5dSelectLibrarySymbol->SetIndex(0);
   grd5dTable->setAccessibleName("Pickup locations");
+  Form::Require({txt5dCode, txt5dDescription, txt5dLibrarySymbol});
   Form::Column(this, {fields})->addWidget(grd5dTable, 1);
 }
 

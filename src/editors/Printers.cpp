@@ -17,8 +17,8 @@ void Printers::BuildControls() {
   Form::Rows rows(boxes);
   rows.Add("lbl3Printer", "Printer name", txt3Printer);
   rows.Add("lbl3Device", "Device:", txt3Device, cmd3Select);
-  boxes->layout()->setContentsMargins(0, 0, 0, 0);
   grd3Printer->setAccessibleName("Printers");
+  Form::Require({txt3Printer});
   Form::Column(this, {boxes})->addWidget(grd3Printer, 1);
 }
 

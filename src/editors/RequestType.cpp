@@ -40,7 +40,6 @@ void RequestType::BuildControls() {
   rows.Add("lbl9LibrarySymbol", "Library Symbol:", txt9LibrarySymbol, cmd9FindLibrary);
   rows.Add("lbl9CustomerID", "Customer ID:", cmb9CustomerID);
   rows.Add("lbl9InvoiceFlag", "Invoice  Flag:", cmb9InvoiceFlag);
-  boxes->layout()->setContentsMargins(0, 0, 0, 0);
   txt9Code->setReadOnly(true);
   txt9Code->setFocusPolicy(Qt::ClickFocus);
   grd9RequestType->setAccessibleName("Request types");

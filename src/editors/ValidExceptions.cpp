@@ -46,25 +46,18 @@ void ValidExceptions::BuildControls() {
   txt8Type->setAccessibleName("Exception Type");
   for (MemoBox* box : {txt8Message1, txtExceptionNote}) box->SetLines(3);
 
-  auto* const shown = new QWidget(this);
-  auto* const codeAndType = new QHBoxLayout(shown);
-  codeAndType->setContentsMargins(0, 0, 0, 0);
-  codeAndType->addWidget(txt8ProcessCode);
-  codeAndType->addWidget(txt8Type);
-
   auto* const fields = new QWidget(this);
   Form::Rows rows(fields);
-  rows.Add("lbl8DocumentSupply", "Reject Type:", cmb8DocumentSupply, shown);
+  rows.Add("lbl8DocumentSupply", "Reject Type:", cmb8DocumentSupply,
+           Form::Together(this, "", {txt8ProcessCode, txt8Type}));
   rows.Beside("lbl8ProcessType", "Process Type:", cmb8ProcessType, txt8ProcessType);
   rows.Add("lbl8Message1", "Message:", txt8Message1);
   rows.Add("lbl8Reroute1", "Reroute:", cmb8Reroute1);
   rows.Beside("lbl8DeliverySource", "Delivery Source:", cmb8DeliverySource);
   rows.Add(lblExceptionNote, txtExceptionNote, cmdMoreNotes);
-  fields->layout()->setContentsMargins(0, 0, 0, 0);
   grd8Document->setAccessibleName("Valid exceptions");
+  Form::Require({cmb8DocumentSupply, cmb8ProcessType});
   Form::Column(this, {fields, grd8Document})->setStretch(1, 1);
-  Form::TabOrder({cmb8DocumentSupply, cmb8ProcessType, txt8Message1, cmb8Reroute1, cmb8DeliverySource, txtExceptionNote,
-                  cmdMoreNotes, grd8Document});
 }
 
 void ValidExceptions::ConnectControls() {

@@ -1,7 +1,6 @@
 #include "editors/frmAddExceptionNotes.h"
 
-#include <QStyle>
-
+#include "core/Icons.h"
 #include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
@@ -30,8 +29,8 @@ void frmAddExceptionNotes::BuildControls() {
   txtExceptionCode->setFocusPolicy(Qt::ClickFocus);
   txtExceptionCode->setFixedWidth(Form::FieldWidth(txtExceptionCode, 5));
   txtExceptionNote->SetLines(4);
-  cmdUp->setIcon(style()->standardIcon(QStyle::SP_ArrowUp));
-  cmdDown->setIcon(style()->standardIcon(QStyle::SP_ArrowDown));
+  cmdUp->setIcon(OwnIcon("up"));
+  cmdDown->setIcon(OwnIcon("down"));
   for (QPushButton* button : {cmdUp, cmdDown}) {
     button->setAccessibleName(button->toolTip());
     button->setMinimumWidth(0);
@@ -46,7 +45,6 @@ void frmAddExceptionNotes::BuildControls() {
   Form::Rows rows(fields);
   rows.Add("lblExceptionCode", "Exception Code:", txtExceptionCode);
   rows.Add("lblExceptionNote", "Exception N&ote:", txtExceptionNote);
-  fields->layout()->setContentsMargins(0, 0, 0, 0);
   auto* const order = new QVBoxLayout;
   order->addStretch();
   order->addWidget(cmdUp);
@@ -55,13 +53,12 @@ void frmAddExceptionNotes::BuildControls() {
   auto* const list = new QHBoxLayout;
   list->addWidget(grdExceptionNote, 1);
   list->addLayout(order);
+  Form::Require({txtExceptionNote});
   QVBoxLayout* const column = Form::Column(this, {fields});
   column->addLayout(list, 1);
   column->addWidget(
       Form::Label(this, "lblDefaultNote", "The first Exception Note in the list will be used as the default."));
   column->addLayout(Form::ButtonRow({cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdCancel, cmdClose}));
-  Form::TabOrder({txtExceptionNote, grdExceptionNote, cmdUp, cmdDown, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdCancel,
-                  cmdClose});
   resize(720, 520);
 }
 

@@ -18,12 +18,10 @@ NCIPListScreen::NCIPListScreen(const QString& formName, const QString& caption, 
   connect(cmdClose, &QPushButton::clicked, this, &NCIPListScreen::cmdClose_Click);
 }
 
-void NCIPListScreen::Compose(QWidget* fields, QWidget* lastField) {
+void NCIPListScreen::Compose(QWidget* fields) {
   QVBoxLayout* const column = Form::Column(this, {fields, grid_});
   column->setStretch(1, 1);
   column->addLayout(Form::ButtonRow({cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdCancel, cmdClose}));
-  // Grid and buttons were made before the fields of the list.
-  Form::TabOrder({lastField, grid_, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdCancel, cmdClose});
 }
 
 // --- Frames ---

@@ -34,7 +34,7 @@ class NCIPListScreen : public Screen {
   virtual ListRewrite Rewrite() const = 0;
 
   // The grid under the fields, the buttons under the grid; Tab leads the same way.
-  void Compose(QWidget* fields, QWidget* lastField);
+  void Compose(QWidget* fields);
   bool Refuse(const QString& text, QWidget* focus);
   // The frame of an event procedure.
   void Run(const QString& handler, const std::function<void()>& body);

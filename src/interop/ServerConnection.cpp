@@ -32,12 +32,11 @@ ServerConnection::ServerConnection(const Facts& facts, qint32 libraryId, QWidget
   connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(); });
 }
 
-void ServerConnection::Compose(QWidget* content, QWidget* lastField) {
+void ServerConnection::Compose(QWidget* content) {
+  Form::Require({cmbSystem, cmbConnect, txtServerAddress, txtPort});
   QVBoxLayout* const column = Form::Column(this, {content});
   column->addStretch();
   column->addLayout(Form::ButtonRow({cmdOK, cmdDelete, cmdCancel}));
-  // The buttons were made before the dialog's own fields.
-  Form::TabOrder({lastField, cmdOK, cmdDelete, cmdCancel});
 }
 
 // --- Loading ---

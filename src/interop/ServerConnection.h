@@ -41,7 +41,7 @@ class ServerConnection : public Screen {
   virtual Columns Values() const = 0;
 
   // Lays out the dialog around its fields; behind the last of them Tab leads to the buttons.
-  void Compose(QWidget* content, QWidget* lastField);
+  void Compose(QWidget* content);
 
   CodeComboBox* const cmbSystem;  // the name is the dialog's own
   CodeComboBox* const cmbConnect = new CodeComboBox(this, "cmbConnect");

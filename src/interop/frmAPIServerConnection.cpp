@@ -1,7 +1,5 @@
 #include "interop/frmAPIServerConnection.h"
 
-#include <QHBoxLayout>
-
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
@@ -40,29 +38,16 @@ void frmAPIServerConnection::BuildControls() {
 
   auto* const fields = new QWidget(this);
   Form::Rows rows(fields);
-  rows.Layout()->setContentsMargins(0, 0, 0, 0);
   rows.Add("lblILSSystem", "ILS System:", cmbILSSystem);
   rows.Add("lblConnect", "Connection Type:", cmbConnect);
   rows.Add("lblServerAddress", "Server Address:", txtServerAddress);
   rows.Add("lblAPIURL", "API URL:", txtAPIURL);
   rows.Add(lblPort, txtPort);
-  rows.Add("lblUseAllLocations", "Use All Locations:", LocationOptions());
+  rows.Add("lblUseAllLocations",
+           "Use All Locations:", rdUseAllLocations->RowWith({lblUseAllLocationsYes, lblUseAllLocationsNo}));
   rows.Add(lblValidLocations, txtValidLocations);
-  Compose(fields, txtValidLocations);
+  Compose(fields);
   resize(620, 320);
-}
-
-QWidget* frmAPIServerConnection::LocationOptions() {
-  auto* const options = new QWidget(this);
-  auto* const row = new QHBoxLayout(options);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(4);
-  row->addWidget(rdUseAllLocations->Button(0));
-  row->addWidget(lblUseAllLocationsYes);
-  row->addSpacing(16);
-  row->addWidget(rdUseAllLocations->Button(1));
-  row->addWidget(lblUseAllLocationsNo);
-  return options;
 }
 
 // The list of locations counts only when not all of them apply.

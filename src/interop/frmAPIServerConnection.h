@@ -1,8 +1,8 @@
 #pragma once
 
-#include "interop/OptionLabel.h"
 #include "interop/ServerConnection.h"
 #include "platform/controls/OptionGroup.h"
+#include "platform/controls/OptionLabel.h"
 
 // The API server of a library: of the library in hand, LibraryId of the common services, whatever the NCIP symbol on
 // the contact screen says. It shares the code tables of NCIP.
@@ -19,7 +19,6 @@ class frmAPIServerConnection : public ServerConnection {
 
  private:
   void BuildControls();
-  QWidget* LocationOptions();
   void rdUseAllLocations_Click();
 
   CodeComboBox* const cmbILSSystem = cmbSystem;

@@ -30,38 +30,12 @@ void frmISO18626Connect::BuildControls() {
   column->addWidget(grdISO18626Connections, 1);
   column->addWidget(lblProcessing);
   column->addWidget(Buttons());
-  Form::TabOrder({txtConnectionID,
-                  cmbILLSystem,
-                  cmbVersion,
-                  cmbAuthType,
-                  cmbConnectionType,
-                  txtHostAddress,
-                  txtUrl,
-                  txtPort,
-                  chkRetryEnabled,
-                  chkTransferEnabled,
-                  chkPatronInfo,
-                  chkPatronEmail,
-                  chkPatronAddress,
-                  chkActionCancel,
-                  chkActionRenew,
-                  chkActionNotification,
-                  chkReasonRequestResponse,
-                  chkReasonNotification,
-                  grdISO18626Connections,
-                  cmdSelect,
-                  cmdAdd,
-                  cmdUpdate,
-                  cmdDelete,
-                  btnClear,
-                  cmdClose});
   resize(1180, 700);
 }
 
 QWidget* frmISO18626Connect::Fields() {
   auto* const fields = new QWidget(this);
   Form::Rows rows(fields);
-  rows.Layout()->setContentsMargins(0, 0, 0, 0);
   rows.Add("lblConnectionID", "Connection Id:", txtConnectionID);
   rows.Add("lblILLSystem", "ILL System:", cmbILLSystem);
   rows.Add("lblVersion", "Protocol Version:", cmbVersion);
@@ -70,6 +44,7 @@ QWidget* frmISO18626Connect::Fields() {
   rows.Add("lblHostAddress", "Host Address:", txtHostAddress);
   rows.Add("lblUrl", "Host Url:", txtUrl);
   rows.Add("lblPort", "Port:", txtPort);
+  Form::Require({txtConnectionID, cmbILLSystem, cmbVersion, cmbAuthType, cmbConnectionType, txtHostAddress, txtPort});
   return fields;
 }
 

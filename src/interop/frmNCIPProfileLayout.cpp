@@ -69,6 +69,7 @@ QWidget* frmNCIPProfile::RequestFields() {
   rows.Add("lblMessageFormat", "Message Format:", cmbMessageFormat);
   rows.Add("lblBillingType", "Billing Type:", cmbBillingType);
   rows.Add("lblBillingRate", "Billing Rate:", cmbBillingRate);
+  Form::Require({txtProfileCode, txtDescription});
   return fields;
 }
 

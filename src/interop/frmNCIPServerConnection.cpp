@@ -51,12 +51,13 @@ void frmNCIPServerConnection::BuildControls() {
   columns->setContentsMargins(0, 0, 0, 0);
   columns->setSpacing(16);
   auto* const fields = new QVBoxLayout;
+  fields->setSpacing(8);
   fields->addWidget(ServerFields());
   fields->addWidget(AgencyFields());
   fields->addStretch();
   columns->addLayout(fields);
   columns->addWidget(MessageFrames(), 0, Qt::AlignTop);
-  Compose(content, chkDeleteItem);
+  Compose(content);
   resize(980, 520);
 }
 

@@ -22,21 +22,12 @@ void frmNCIPStatusCodes::BuildControls() {
   rdAllowILL->Select(0);
   connect(txtNCIPStatusCode, &TextBox::Change, this, &frmNCIPStatusCodes::txtNCIPStatusCode_Change);
 
-  auto* const options = new QWidget(this);
-  auto* const row = new QHBoxLayout(options);
-  row->setContentsMargins(0, 0, 0, 0);
-  row->setSpacing(4);
-  row->addWidget(rdAllowILL->Button(0));
-  row->addWidget(lblAllowILLYes);
-  row->addSpacing(16);
-  row->addWidget(rdAllowILL->Button(1));
-  row->addWidget(lblAllowILLNo);
   auto* const fields = new QWidget(this);
   Form::Rows rows(fields);
-  rows.Layout()->setContentsMargins(0, 0, 0, 0);
   rows.Add("lblNCIPStatusCode", "NCIP Status Code:", txtNCIPStatusCode);
-  rows.Add("lblAllowILL", "Allow ILL:", options);
-  Compose(fields, rdAllowILL->Button(1));
+  rows.Add("lblAllowILL", "Allow ILL:", rdAllowILL->RowWith({lblAllowILLYes, lblAllowILLNo}));
+  Form::Require({txtNCIPStatusCode});
+  Compose(fields);
   resize(640, 480);
 }
 

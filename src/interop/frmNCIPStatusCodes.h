@@ -1,8 +1,8 @@
 #pragma once
 
 #include "interop/NCIPListScreen.h"
-#include "interop/OptionLabel.h"
 #include "platform/controls/OptionGroup.h"
+#include "platform/controls/OptionLabel.h"
 
 // Which item status codes of the local system allow interlibrary loan: the list of the library in hand, LibraryId of
 // the common services.

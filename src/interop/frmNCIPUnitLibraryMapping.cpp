@@ -29,10 +29,10 @@ void frmNCIPUnitLibraryMapping::BuildControls() {
 
   auto* const fields = new QWidget(this);
   Form::Rows rows(fields);
-  rows.Layout()->setContentsMargins(0, 0, 0, 0);
   rows.Add("lblNCIPLibrary", "NCIP Library:", txtNCIPLibrary);
   rows.Add("lblOstanaLibrary", "Ostana Library:", txtOstanaLibrary, cmdFindLibrary);
-  Compose(fields, cmdFindLibrary);
+  Form::Require({txtNCIPLibrary, txtOstanaLibrary});
+  Compose(fields);
   resize(680, 480);
 }
 

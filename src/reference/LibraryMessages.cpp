@@ -1,10 +1,13 @@
 #include "reference/LibraryMessages.h"
 
 #include "core/FindLibrary.h"
+#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
+#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "platform/controls/CodeComboBox.h"
+#include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
 #include "reference/RecordDialog.h"
 
@@ -28,17 +31,68 @@ bool IsKnownLibrary(QWidget* form, TextBox& symbol, qint32& id) {
          Reference::Refuse(form, "Please enter a Valid Library Symbol.", &symbol, MessageStyle::Warning);
 }
 
-bool IsKnownForRow(QWidget* form, TextBox& symbol, const QString& symbolOfRow, qint32& id) {
-  if (!IsKnownLibrary(form, symbol, id)) return false;
-  if (symbol.Text() == symbolOfRow) return true;
-  symbol.SetText(symbolOfRow);
-  return IsKnownLibrary(form, symbol, id);
+namespace {
+
+constexpr int Library = 1;
+
+// The id of the library of the row on show: that row is deleted, whatever symbol was typed over.
+bool IsKnownForRow(const MessageScreen& screen, const QString& symbolOfRow, qint32& id) {
+  if (!IsKnownLibrary(screen.form, *screen.symbol, id)) return false;
+  if (screen.symbol->Text() == symbolOfRow) return true;
+  screen.symbol->SetText(symbolOfRow);
+  return IsKnownLibrary(screen.form, *screen.symbol, id);
 }
 
-bool FindInto(QWidget* form, TextBox& symbol) {
-  const FoundLibrary found = FindLibrary(form);
-  if (found.allowed) symbol.SetText(found.symbol);
-  return found.allowed;
+}  // namespace
+
+void cmbShowMessages_Click(const MessageScreen& screen, CodeComboBox& filter, const std::function<void()>& populate,
+                           const std::function<void(const QString&)>& load) {
+  Procedure procedure(screen.name + ".cmbShowMessages_Click", screen.form);
+  procedure.OnFailure(Reference::NotifySupport).Run([&] {
+    const QString symbol = filter.Text();
+    if (symbol == AllLibraries) return populate();
+    qint32 id = 0;
+    if (gclsOF->FindLibraryId(symbol, id)) return load(symbol);
+    Reference::Refuse(screen.form, "Please enter a Valid Library Symbol.", &filter, MessageStyle::Warning);
+  });
+}
+
+void RowChosen(const MessageScreen& screen, const std::function<void()>& update) {
+  const int row = screen.grid->Row();
+  if (gbSkipGridEvents || row == 0) return;
+  // Update writes the row that was left; the new one is shown also when it was refused.
+  if (*screen.changed && Reference::WantsChangesApplied(screen.form)) update();
+  screen.showRow(row);
+}
+
+void cmdFindLibrary_Click(const MessageScreen& screen) {
+  Procedure procedure(screen.name + ".cmdFindLibrary_Click", screen.form);
+  procedure.OnFailure(Texts::NotifySupport).Run([&] {
+    const FoundLibrary found = FindLibrary(screen.form);
+    if (!found.allowed) return;
+    screen.symbol->SetText(found.symbol);
+    *screen.changed = true;
+  });
+}
+
+void cmdDelete_Click(const MessageScreen& screen, const QString& failureLine,
+                     const std::function<QString(int, qint32)>& statement) {
+  using namespace Reference;
+  Procedure procedure(screen.name + ".cmdDelete_Click", screen.form);
+  procedure.Finally([&] { screen.code->setFocus(); }).Run([&] {
+    if (screen.grid->Rows() == 1) {
+      Tell(screen.form, "There are no records to delete.", MessageStyle::Stop);
+      return;
+    }
+    if (!Confirms(screen.form, Words::DeleteQuestion, MessageStyle::Question | MessageStyle::DefaultButton2)) return;
+    qint32 libraryId = 0;
+    const int row = *screen.currentRow;
+    if (row == 0 || !IsKnownForRow(screen, screen.grid->Text(row, Library), libraryId)) return;
+    ExecuteInTransaction(statement(row, libraryId), failureLine);
+    screen.grid->RemoveRow(row);
+    screen.showRow(screen.grid->Rows() > 1 ? 1 : 0);
+    Tell(screen.form, Words::Deleted);
+  });
 }
 
 }  // namespace LibraryMessages

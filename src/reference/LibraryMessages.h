@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 
 class CodeComboBox;
+class Grid;
 class QWidget;
 class TextBox;
 
@@ -15,11 +17,28 @@ inline const QString AllLibraries = "All libraries";
 void FillFilter(CodeComboBox& box, const QString& table, const QString& failureLine);
 // Id of the library whose symbol stands in the box; otherwise a warning and the focus on the box.
 bool IsKnownLibrary(QWidget* form, TextBox& symbol, qint32& id);
-// As IsKnownLibrary, with the id of the library of the row on show: that row is deleted, whatever symbol was typed
-// over.
-bool IsKnownForRow(QWidget* form, TextBox& symbol, const QString& symbolOfRow, qint32& id);
-// Lets the user search a library and puts its symbol into the box, nothing when none was chosen. False when the right
-// was refused and the box is as it was.
-bool FindInto(QWidget* form, TextBox& symbol);
+
+// One of the two screens, as their common handlers see it. Column 1 of its grid is the library's symbol.
+struct MessageScreen {
+  QString name;  // of the form in the log
+  QWidget* form;
+  Grid* grid;
+  TextBox* symbol;
+  TextBox* code;  // has the focus behind a delete that fails
+  bool* changed;
+  int* currentRow;
+  std::function<void(int row)> showRow;
+};
+
+// Another library in the filter: `populate` for all of them, `load` with the symbol of one.
+void cmbShowMessages_Click(const MessageScreen& screen, CodeComboBox& filter, const std::function<void()>& populate,
+                           const std::function<void(const QString& symbol)>& load);
+// Another row: an edited record is offered to `update` first.
+void RowChosen(const MessageScreen& screen, const std::function<void()>& update);
+// Lets the user search a library and puts its symbol into the box, nothing when none was chosen.
+void cmdFindLibrary_Click(const MessageScreen& screen);
+// Deletes the row on show by the statement of the row and its library's id.
+void cmdDelete_Click(const MessageScreen& screen, const QString& failureLine,
+                     const std::function<QString(int row, qint32 libraryId)>& statement);
 
 }  // namespace LibraryMessages

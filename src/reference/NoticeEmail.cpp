@@ -43,18 +43,31 @@ void NoticeEmail::BuildControls() {
   groups_->addWidget(BuildGroup(NoticeColumn::Text));
   if (hasPdf) groups_->addWidget(BuildGroup(NoticeColumn::Pdf));
 
-  auto* const buttons = new QHBoxLayout;
-  for (const NoticeBrowse& browse : sheet_.browse)
-    if (browse.report.isEmpty()) buttons->addWidget(BrowseButton(browse));
+  QVBoxLayout* const column = Form::Column(this, {head});
+  PlaceGroups(column);
   cmdOK = Form::Button(this, "cmdOK", "&OK");
   cmdCancel = Form::Button(this, "cmdCancel", "&Cancel");
   connect(cmdOK, &QPushButton::clicked, this, &NoticeEmail::cmdOK_Click);
   connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(); });
-  buttons->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}), 1);
-  head->layout()->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}));
   forms_.push_back(rows.Layout());
   AlignLabels();
-  Form::Column(this, {head, groups_})->addLayout(buttons);
+  // Without a message there is nothing that takes the room.
+  if (findChild<MemoBox*>() == nullptr) resize(width(), sizeHint().height());
+}
+
+// A Browse button of both messages stands behind the report, the last field of either.
+void NoticeEmail::PlaceGroups(QVBoxLayout* column) {
+  const auto ofBoth = [](const NoticeBrowse& browse) { return browse.report.isEmpty(); };
+  const auto browse = std::find_if(sheet_.browse.begin(), sheet_.browse.end(), ofBoth);
+  if (browse == sheet_.browse.end()) return column->addWidget(groups_, 1);
+  groups_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Maximum);
+  auto* const both = new QHBoxLayout;
+  both->addWidget(groups_, 0, Qt::AlignBottom);
+  both->addWidget(BrowseButton(*browse), 0, Qt::AlignBottom);
+  both->addStretch();
+  column->addLayout(both);
+  column->addStretch(1);
 }
 
 void NoticeEmail::AlignLabels() {
@@ -67,7 +80,7 @@ void NoticeEmail::AlignLabels() {
 }
 
 QWidget* NoticeEmail::BuildGroup(NoticeColumn::Group group) {
-  auto* const page = new QWidget;
+  auto* const page = new QWidget(this);
   Form::Rows rows(page);
   for (Field& field : fields_) {
     const NoticeColumn& column = field.column;
@@ -83,7 +96,6 @@ QWidget* NoticeEmail::BuildGroup(NoticeColumn::Group group) {
     rows.Add("lbl" + column.control.mid(3), column.caption, box, beside);
     ConnectBox(field);
   }
-  page->layout()->setContentsMargins(0, 0, 0, 0);
   forms_.push_back(rows.Layout());
   const bool grows = std::any_of(fields_.begin(), fields_.end(),
                                  [group](const Field& field) { return field.column.group == group && field.memo; });

@@ -70,6 +70,7 @@ class NoticeEmail : public Screen {
 
   void BuildControls();
   QWidget* BuildGroup(NoticeColumn::Group group);
+  void PlaceGroups(QVBoxLayout* column);
   QPushButton* BrowseButton(const NoticeBrowse& browse);
   void ConnectBox(Field& field);
   void AlignLabels();

@@ -60,11 +60,10 @@ void frmCurrencyCodes::BuildControls() {
   rows.Add(lblCountry, txtCountry);
   rows.Add(lblExchangeRate, txtExchangeRate);
   rows.Add(lblSymbol, cmbSymbol);
+  Form::Require({txtCurrencyCode, txtDescription, txtCountry, txtExchangeRate, cmbSymbol});
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdCurrencyCode, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder({txtCurrencyCode, txtDescription, txtCountry, txtExchangeRate, cmbSymbol, grdCurrencyCode, cmdAdd,
-                  cmdUpdate, cmdDelete, cmdClose});
   resize(640, 520);
 }
 

@@ -1,7 +1,6 @@
 #include "reference/frmGeneralMessages.h"
 
 #include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/Procedure.h"
@@ -43,11 +42,10 @@ void frmGeneralMessages::BuildControls() {
   rows.Add("lblDescription", "D&escription:", txtDescription);
   rows.Add("lblSubject", "&Subject:", txtSubject);
   rows.Add("lblMessage", "&Message:", txtMessage);
+  Form::Require({txtCode, txtDescription, txtMessage});
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdGeneralMessage, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder({cmbShowMessages, txtLibrarySymbol, cmdFindLibrary, txtCode, txtDescription, txtSubject, txtMessage,
-                  grdGeneralMessage, cmdAdd, cmdUpdate, cmdDelete, cmdClose});
   resize(900, 640);
 }
 
@@ -105,36 +103,28 @@ void frmGeneralMessages::ShowRow(int row) {
   mbRecordChanged = false;
 }
 
+LibraryMessages::MessageScreen frmGeneralMessages::Shared() {
+  return {"frmGeneralMessages",
+          this,
+          grdGeneralMessage,
+          txtLibrarySymbol,
+          txtCode,
+          &mbRecordChanged,
+          &mintCurrentRow,
+          [this](int row) { ShowRow(row); }};
+}
+
 void frmGeneralMessages::cmbShowMessages_Click() {
-  Procedure procedure("frmGeneralMessages.cmbShowMessages_Click", this);
-  procedure.OnFailure(NotifySupport).Run([this] {
-    const QString symbol = cmbShowMessages->Text();
-    if (symbol == LibraryMessages::AllLibraries) {
-      PopulateForm();
-      return;
-    }
-    qint32 id = 0;
-    if (!gclsOF->FindLibraryId(symbol, id)) {
-      Refuse(this, "Please enter a Valid Library Symbol.", cmbShowMessages, MessageStyle::Warning);
-      return;
-    }
-    LoadMessages(symbol);
-  });
+  LibraryMessages::cmbShowMessages_Click(
+      Shared(), *cmbShowMessages, [this] { PopulateForm(); }, [this](const QString& symbol) { LoadMessages(symbol); });
 }
 
 void frmGeneralMessages::grdGeneralMessage_SelChange() {
-  const int row = grdGeneralMessage->Row();
-  if (gbSkipGridEvents || row == 0) return;
-  // Update writes the row that was left; the new one is shown also when it was refused.
-  if (mbRecordChanged && WantsChangesApplied(this)) cmdUpdate_Click();
-  ShowRow(row);
+  LibraryMessages::RowChosen(Shared(), [this] { cmdUpdate_Click(); });
 }
 
 void frmGeneralMessages::cmdFindLibrary_Click() {
-  Procedure procedure("frmGeneralMessages.cmdFindLibrary_Click", this);
-  procedure.OnFailure(Texts::NotifySupport).Run([this] {
-    if (LibraryMessages::FindInto(this, *txtLibrarySymbol)) mbRecordChanged = true;
-  });
+  LibraryMessages::cmdFindLibrary_Click(Shared());
 }
 
 // --- Tests of an entry ---
@@ -257,24 +247,10 @@ void frmGeneralMessages::cmdClose_Click() {
 }
 
 void frmGeneralMessages::cmdDelete_Click() {
-  Procedure procedure("frmGeneralMessages.cmdDelete_Click", this);
-  procedure.Finally([this] { txtCode->setFocus(); }).Run([this] {
-    if (grdGeneralMessage->Rows() == 1) {
-      Tell(this, "There are no records to delete.", MessageStyle::Stop);
-      return;
-    }
-    if (!Confirms(this, Words::DeleteQuestion, MessageStyle::Question | MessageStyle::DefaultButton2)) return;
-    qint32 libraryId = 0;
-    const int row = mintCurrentRow;
-    const QString symbol = grdGeneralMessage->Text(row, Library);
-    if (row == 0 || !LibraryMessages::IsKnownForRow(this, *txtLibrarySymbol, symbol, libraryId)) return;
-    ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_GENERAL_MESSAGE") + " " +
-                             "WHERE   GENERAL_MESSAGE = '" +
-                             gclsOF->SqlEscape(grdGeneralMessage->Text(row, MessageCode)) + "'" +
-                             "        AND LIBRARY_ID=" + Sql::Number(libraryId),
-                         "***** SQL error on ID_GENERAL_MESSAGE (Delete) *****");
-    grdGeneralMessage->RemoveRow(row);
-    ShowRow(grdGeneralMessage->Rows() > 1 ? 1 : 0);
-    Tell(this, Words::Deleted);
-  });
+  LibraryMessages::cmdDelete_Click(
+      Shared(), "***** SQL error on ID_GENERAL_MESSAGE (Delete) *****", [this](int row, qint32 libraryId) {
+        return QString("DELETE ") + "FROM " + Sql::Table("ID_GENERAL_MESSAGE") + " " + "WHERE   GENERAL_MESSAGE = '" +
+               gclsOF->SqlEscape(grdGeneralMessage->Text(row, MessageCode)) + "'" +
+               "        AND LIBRARY_ID=" + Sql::Number(libraryId);
+      });
 }

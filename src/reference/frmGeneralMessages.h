@@ -9,6 +9,7 @@
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/TextBox.h"
+#include "reference/LibraryMessages.h"
 
 class Recordset;
 
@@ -34,6 +35,8 @@ class frmGeneralMessages : public Screen {
   void LoadMessages(const QString& symbol);
   void ShowRow(int row);
 
+  // What the two message screens do alike is done to this.
+  LibraryMessages::MessageScreen Shared();
   void cmbShowMessages_Click();
   void grdGeneralMessage_SelChange();
   void cmdFindLibrary_Click();

@@ -50,10 +50,10 @@ void frmISONamespace::BuildControls() {
   rows.Add("lblNameSpace", "&Namespace:", txtNameSpace);
   rows.Add("lblDescription", "D&escription:", txtDescription);
   rows.Add("lblFieldName", "&Field Name:", txtFieldName);
+  Form::Require({txtNameSpace, txtDescription, txtFieldName});
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdNameSpace, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder({txtNameSpace, txtDescription, txtFieldName, grdNameSpace, cmdAdd, cmdUpdate, cmdDelete, cmdClose});
   resize(600, 440);
 }
 

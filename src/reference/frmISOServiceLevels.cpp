@@ -32,7 +32,6 @@ void frmISOServiceLevels::BuildControls() {
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdServiceLevel, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdUpdate, cmdClose}));
-  Form::TabOrder({cmbServiceLevel, grdServiceLevel, cmdUpdate, cmdClose});
   resize(480, 420);
 }
 

@@ -57,12 +57,10 @@ void frmItemType::BuildControls() {
   Form::Column(accessPage, {accessEntry})->addWidget(grdAccessItemType, 1);
   sstabItemType->addTab(accessPage, "Item Types by User Group");
 
+  Form::Require({txtItemType, txtDescription, cmbAccessGroup, cmbAccessItemType});
   QVBoxLayout* const column = Form::Column(this);
   column->addWidget(sstabItemType, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClose}));
-  Form::TabOrder({sstabItemType, txtItemType, txtCharge, optFixedCharge->Button(No), optFixedCharge->Button(Yes),
-                  txtDescription, grdItemType, cmbAccessGroup, cmbAccessItemType, grdAccessItemType, cmdAdd, cmdUpdate,
-                  cmdDelete, cmdClose});
   resize(600, 520);
 }
 
@@ -146,9 +144,11 @@ void frmItemType::PopulateItemTypeGrid() {
 void frmItemType::sstabItemType_Click(int tab) {
   cmdUpdate->setEnabled(tab == ItemTypeTab);
   if (tab != AccessTab) return;
-  // The first tab may have changed what there is to choose from.
   Procedure procedure("frmItemType.sstabItemType_Click", this);
-  procedure.Run([this] { FillAccessItemTypes(); });
+  procedure.Run([this] {
+    if (mbItemTypesChanged) FillAccessItemTypes();
+    mbItemTypesChanged = false;
+  });
   PopulateItemTypeGrid();
 }
 
@@ -266,6 +266,7 @@ void frmItemType::AddItemType() {
   WriteRow(row);
   grdItemType->SetRowQuietly(row);
   mbRecordChanged = false;
+  mbItemTypesChanged = true;
   Tell(this, "Record Added");
 }
 
@@ -300,6 +301,7 @@ void frmItemType::cmdUpdate_Click() {
     transaction.Commit();
     WriteRow(row);
     mbRecordChanged = false;
+    mbItemTypesChanged = true;
     Tell(this, "Record Updated");
   });
 }
@@ -320,6 +322,7 @@ void frmItemType::DeleteItemType() {
                        "***** SQL error on ID_ITEM_TYPE (Delete) *****");
   grdItemType->RemoveRow(row);
   mbRecordChanged = false;
+  mbItemTypesChanged = true;
   Tell(this, "Record Deleted");
 }
 

@@ -62,6 +62,7 @@ class frmItemType : public Screen {
   bool OnItemTypeTab() const { return sstabItemType->currentIndex() == ItemTypeTab; }
 
   bool mbRecordChanged = false;
+  bool mbItemTypesChanged = false;  // since the second tab's list was filled
 
   QTabWidget* const sstabItemType = new QTabWidget(this);
   TextBox* const txtItemType = new TextBox(this, "txtItemType", 3);

@@ -2,7 +2,6 @@
 #include "reference/frmNotifyPatronMessages.h"
 
 #include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/Procedure.h"
@@ -68,29 +67,10 @@ void frmNotifyPatronMessages::BuildControls() {
   rows.Add(lblHoldQueue, cmbHoldQueue);
   rows.Add(lblRespondedQueue, cmbRespondedQueue);
   rows.Add(lblExceptionCode, cmbExceptionCode);
+  Form::Require({txtCode, txtDescription, txtSubject, txtMessage});
   QVBoxLayout* const column = Form::Column(this, {entry});
   column->addWidget(grdPatronMessage, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdClose}));
-  Form::TabOrder({cmbShowMessages,
-                  txtLibrarySymbol,
-                  cmdFindLibrary,
-                  txtCode,
-                  txtDescription,
-                  txtSubject,
-                  txtMessage,
-                  rdResponseRequired->Button(Yes),
-                  rdResponseRequired->Button(No),
-                  rdDocumentRequired->Button(Yes),
-                  rdDocumentRequired->Button(No),
-                  cmbHoldQueue,
-                  cmbRespondedQueue,
-                  cmbExceptionCode,
-                  grdPatronMessage,
-                  cmdAdd,
-                  cmdUpdate,
-                  cmdDelete,
-                  cmdClear,
-                  cmdClose});
   resize(1100, 740);
 }
 
@@ -228,37 +208,32 @@ void frmNotifyPatronMessages::EnableQueues() {
   }
 }
 
+LibraryMessages::MessageScreen frmNotifyPatronMessages::Shared() {
+  return {"frmNotifyPatronMessages",
+          this,
+          grdPatronMessage,
+          txtLibrarySymbol,
+          txtCode,
+          &mbRecordChanged,
+          &mintCurrentRow,
+          [this](int row) { ShowRow(row); }};
+}
+
 void frmNotifyPatronMessages::cmbShowMessages_Click() {
-  Procedure procedure("frmNotifyPatronMessages.cmbShowMessages_Click", this);
-  procedure.OnFailure(NotifySupport).Run([this] {
-    const QString symbol = cmbShowMessages->Text();
-    if (symbol == LibraryMessages::AllLibraries) {
-      PopulateForm();
-      return;
-    }
-    qint32 id = 0;
-    if (!gclsOF->FindLibraryId(symbol, id)) {
-      Refuse(this, "Please enter a Valid Library Symbol.", cmbShowMessages, MessageStyle::Warning);
-      return;
-    }
-    LoadMessages(symbol);
-    ShowRow(grdPatronMessage->Rows() > 1 ? 1 : 0);
-  });
+  LibraryMessages::cmbShowMessages_Click(
+      Shared(), *cmbShowMessages, [this] { PopulateForm(); },
+      [this](const QString& symbol) {
+        LoadMessages(symbol);
+        ShowRow(grdPatronMessage->Rows() > 1 ? 1 : 0);
+      });
 }
 
 void frmNotifyPatronMessages::grdPatronMessage_SelChange() {
-  const int row = grdPatronMessage->Row();
-  if (gbSkipGridEvents || row == 0) return;
-  // Update writes the row that was left; the new one is shown also when it was refused.
-  if (mbRecordChanged && WantsChangesApplied(this)) cmdUpdate_Click();
-  ShowRow(row);
+  LibraryMessages::RowChosen(Shared(), [this] { cmdUpdate_Click(); });
 }
 
 void frmNotifyPatronMessages::cmdFindLibrary_Click() {
-  Procedure procedure("frmNotifyPatronMessages.cmdFindLibrary_Click", this);
-  procedure.OnFailure(Texts::NotifySupport).Run([this] {
-    if (LibraryMessages::FindInto(this, *txtLibrarySymbol)) mbRecordChanged = true;
-  });
+  LibraryMessages::cmdFindLibrary_Click(Shared());
 }
 
 void frmNotifyPatronMessages::cmdClear_Click() {

@@ -11,6 +11,7 @@
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "reference/LibraryMessages.h"
 
 // "Notify Patron Messages": per library, the messages that can be sent to a patron about a request. A message that
 // wants a response or a document also names the queue the request waits in, the queue after the response and a reject
@@ -55,6 +56,8 @@ class frmNotifyPatronMessages : public Screen {
   // The three lists are of use only when a response or a document is required.
   void EnableQueues();
 
+  // What the two message screens do alike is done to this.
+  LibraryMessages::MessageScreen Shared();
   void cmbShowMessages_Click();
   void grdPatronMessage_SelChange();
   void cmdFindLibrary_Click();

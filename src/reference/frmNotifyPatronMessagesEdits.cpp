@@ -177,24 +177,10 @@ void frmNotifyPatronMessages::cmdClose_Click() {
 // --- Delete ---
 
 void frmNotifyPatronMessages::cmdDelete_Click() {
-  Procedure procedure("frmNotifyPatronMessages.cmdDelete_Click", this);
-  procedure.Finally([this] { txtCode->setFocus(); }).Run([this] {
-    if (grdPatronMessage->Rows() == 1) {
-      Tell(this, "There are no records to delete.", MessageStyle::Stop);
-      return;
-    }
-    if (!Confirms(this, Words::DeleteQuestion, MessageStyle::Question | MessageStyle::DefaultButton2)) return;
-    qint32 libraryId = 0;
-    const int row = mintCurrentRow;
-    const QString symbol = grdPatronMessage->Text(row, Library);
-    if (row == 0 || !LibraryMessages::IsKnownForRow(this, *txtLibrarySymbol, symbol, libraryId)) return;
-    ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_PATRON_MESSAGE") + " " +
-                             "WHERE    PATRON_MESSAGE = N'" +
-                             gclsOF->SqlEscape(grdPatronMessage->Text(row, MessageCode)) + "' " +
-                             "AND      LIBRARY_ID = " + Sql::Number(libraryId),
-                         "***** SQL error on ID_PATRON_MESSAGE (Delete) *****");
-    grdPatronMessage->RemoveRow(row);
-    ShowRow(grdPatronMessage->Rows() > 1 ? 1 : 0);
-    Tell(this, Words::Deleted);
-  });
+  LibraryMessages::cmdDelete_Click(
+      Shared(), "***** SQL error on ID_PATRON_MESSAGE (Delete) *****", [this](int row, qint32 libraryId) {
+        return QString("DELETE ") + "FROM " + Sql::Table("ID_PATRON_MESSAGE") + " " + "WHERE    PATRON_MESSAGE = N'" +
+               gclsOF->SqlEscape(grdPatronMessage->Text(row, MessageCode)) + "' " +
+               "AND      LIBRARY_ID = " + Sql::Number(libraryId);
+      });
 }

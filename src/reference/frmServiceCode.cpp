@@ -86,12 +86,10 @@ void frmServiceCode::BuildControls() {
   Form::Column(countryPage, {countryEntry})->addWidget(grdCountryCode, 1);
   sstabServiceCode->addTab(countryPage, "Country Region");
 
+  Form::Require({txtServiceCode, cmbRegion, txtCountryCode});
   QVBoxLayout* const column = Form::Column(this);
   column->addWidget(sstabServiceCode, 1);
   column->addLayout(Form::ButtonRow({nullptr, cmdAdd, cmdUpdate, cmdDelete, cmdClear, cmdClose}));
-  Form::TabOrder({sstabServiceCode, txtServiceCode, cmbCountryRegion, cmbDeliveryMethod, cmbServiceLevel,
-                  cmbSystemSource, cmbItemType, grdServiceCode, cmbRegion, txtCountryCode, grdCountryCode, cmdAdd,
-                  cmdUpdate, cmdDelete, cmdClear, cmdClose});
   resize(720, 600);
 }
 

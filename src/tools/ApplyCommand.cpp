@@ -102,9 +102,10 @@ int Apply(Connection& connection, const std::vector<TableContent>& file, bool re
 }  // namespace
 
 int RunApply(const QStringList& arguments) {
-  CommandArguments command("apply [--dry-run] [--delete] [--site NAME] FILE|-",
-                           "Makes the tables that a file of tabulon-db export names equal to the file, all or nothing. "
-                           "Tables and columns that it does not name stay as they are.");
+  CommandArguments command(
+      "apply [--dry-run] [--delete] [--site NAME] FILE|-",
+      "Adds and changes rows until the tables that a file of tabulon-db export names hold its rows, "
+      "all or nothing. Tables and columns that it does not name stay as they are.");
   command.AddPositional("FILE", "the file; \"-\" reads from the terminal");
   command.AddOption({"dry-run", "Tells what would be done, or refused, and changes nothing."});
   command.AddOption({"delete", "Removes the rows of these tables that the file has not."});

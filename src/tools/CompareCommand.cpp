@@ -61,14 +61,14 @@ Side DatabaseSide(const QString& site, const std::function<std::vector<TableCont
   return {SiteName(site), read(connection)};
 }
 
-int CompareSides(const CommandArguments& command, const std::vector<const SchemaTable*>& tables) {
+int CompareSides(const CommandArguments& command, const std::vector<const SchemaTable*>& tables,
+                 const Secrets& secrets) {
   const QStringList files = command.Positional();
   const Side first =
-      files.isEmpty() ? DatabaseSide(command.Value("site"),
-                                     [&](Connection& connection) {
-                                       return TableChoice::Read(connection, tables, TableChoice::WithSecrets(command));
-                                     })
-                      : FileSide(files[0]);
+      files.isEmpty()
+          ? DatabaseSide(command.Value("site"),
+                         [&](Connection& connection) { return TableChoice::Read(connection, tables, secrets); })
+          : FileSide(files[0]);
   const auto likeFirst = [&](Connection& connection) { return TableChoice::ReadLike(connection, first.contents); };
   if (files.size() == 2) return Tell(first, FileSide(files[1]));
   const QString other = command.IsSet("other-site") ? "other-site" : "site";
@@ -79,11 +79,13 @@ int CompareSides(const CommandArguments& command, const std::vector<const Schema
 
 int RunCompare(const QStringList& arguments) {
   CommandArguments command(
-      "compare [FILE [FILE2]] [--other-site NAME] [--tables A,B,...] [--with-secrets] [--site NAME]",
+      "compare [FILE [FILE2]] [--other-site NAME] [--tables A,B,...]\n"
+      "                          [--secrets A,B,...|--with-secrets] [--site NAME]",
       "Compares a file of tabulon-db export with the database, with another file, or with the "
       "database of another site; without a file, the database with that of another site. The exit "
       "status is 0 when both are equal, 1 when they differ, 2 when they could not be compared. "
-      "The options --tables and --with-secrets are for two databases: a file names its own.");
+      "The options --tables, --secrets and --with-secrets are for two databases: a file names its "
+      "own.");
   command.AddPositional("FILE", "the file");
   command.AddPositional("FILE2", "another one, instead of the database");
   command.AddOption({"other-site", "Compares with the database of the section [Database NAME].", "NAME"});
@@ -94,14 +96,16 @@ int RunCompare(const QStringList& arguments) {
   const qsizetype sides = files + (command.IsSet("other-site") ? 1 : 0);
   if (sides == 0) return RefuseUsage("A file, or another site, is missing.", "compare");
   if (sides > 2) return RefuseUsage("Two are compared, not three.", "compare");
-  if (files > 0 && (command.IsSet("tables") || command.IsSet("with-secrets")))
+  if (files > 0 && (command.IsSet("tables") || command.IsSet("secrets") || command.IsSet("with-secrets")))
     return RefuseUsage("The file itself names its tables and columns.", "compare");
   const auto tables = TableChoice::Chosen(command, "compare");
   if (!tables) return ExitCode::WrongUsage;
+  const auto secrets = TableChoice::ChosenSecrets(command, *tables, "compare");
+  if (!secrets) return ExitCode::WrongUsage;
   // Scripts must tell "different" from "could not be read".
   bool compared = false;
   const int outcome = Guarded([&] {
-    const int told = CompareSides(command, *tables);
+    const int told = CompareSides(command, *tables, *secrets);
     compared = true;
     return told;
   });

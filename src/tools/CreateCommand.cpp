@@ -4,11 +4,17 @@
 #include "core/PasswordCipher.h"
 #include "tools/Command.h"
 #include "tools/DatabaseBuilder.h"
+#include "tools/DatabaseCheck.h"
 #include "tools/SchemaModel.h"
 #include "tools/Terminal.h"
 #include "tools/Users.h"
 
 namespace {
+
+// MariaDB keeps each table at once, so that a create that was killed leaves some.
+const QString UnfinishedAdvice = QStringLiteral(
+    "\nIt is not whole: tabulon-db check names what is missing. If it was left by a create that was broken off, remove "
+    "the database and make it again.");
 
 const std::vector<Languages::Language> SampleLanguages{{"FRE", "French"}, {"GER", "German"}};
 
@@ -31,8 +37,11 @@ void MakeSample(Connection& connection) {
 int Fill(const ConnectionSettings& settings, bool sample) {
   Connection connection(settings);
   connection.Open();
-  if (DatabaseBuilder::HasTables(connection))
-    return Refuse("The database " + Place(settings) + " holds tables of Ostana already. Nothing was changed.");
+  if (DatabaseBuilder::HasTables(connection)) {
+    const bool whole = CheckDatabase(connection, false).gaps.isEmpty();
+    return Refuse("The database " + Place(settings) + " holds tables of Ostana already. Nothing was changed." +
+                  (whole ? QString() : UnfinishedAdvice));
+  }
   if (sample) {
     MakeSample(connection);
   } else {

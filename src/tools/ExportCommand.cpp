@@ -5,7 +5,7 @@
 
 int RunExport(const QStringList& arguments) {
   CommandArguments command(
-      "export [--tables A,B,...] [--with-secrets] [--site NAME] FILE|-",
+      "export [--tables A,B,...] [--secrets A,B,...|--with-secrets] [--site NAME] FILE|-",
       "Writes the settings of a site to a text file that is made to be kept under version control: "
       "a line for each value, rows in the order of their keys. \"-\" writes to the terminal.");
   command.AddPositional("FILE", "the file; one that is there is replaced");
@@ -14,16 +14,17 @@ int RunExport(const QStringList& arguments) {
   if (!command.Parse(arguments, 1, 1, exitCode)) return exitCode;
   const auto tables = TableChoice::Chosen(command, "export");
   if (!tables) return ExitCode::WrongUsage;
+  const auto secrets = TableChoice::ChosenSecrets(command, *tables, "export");
+  if (!secrets) return ExitCode::WrongUsage;
   return WithDatabase(command, [&](Connection& connection, const SiteSettings&) {
     const QString path = command.Positional()[0];
-    const bool secrets = TableChoice::WithSecrets(command);
-    const std::vector<TableContent> contents = TableChoice::Read(connection, *tables, secrets);
-    ExportFile::Save(path, contents, secrets);
+    const std::vector<TableContent> contents = TableChoice::Read(connection, *tables, *secrets);
+    ExportFile::Save(path, contents, secrets->Any());
     qsizetype rows = 0;
     for (const TableContent& content : contents) rows += static_cast<qsizetype>(content.rows.size());
     const QString told = QStringLiteral("Wrote %1 rows of %2 tables.").arg(rows).arg(contents.size());
     if (path != u"-") Terminal::Print(told);
-    if (secrets) Terminal::Complain("Note: the text holds passwords and card data. Keep it from others.");
+    if (secrets->Any()) Terminal::Complain("Note: the text holds passwords and card data. Keep it from others.");
     return ExitCode::Done;
   });
 }

@@ -104,8 +104,9 @@ std::vector<const SchemaTable*> Content::Configuration() {
 
 bool Content::IsSecret(const SchemaColumn& column) {
   // CREDIT_CARD alone is the kind of card, a code of a table.
-  static const QStringList card{"CREDIT_CARD_NAME", "CREDIT_CARD_NUM", "CREDIT_CARD_EXP", "CREDIT_CARD_CODE"};
-  return column.name.contains("PASSWORD") || card.contains(column.name);
+  static const QStringList others{"CREDIT_CARD_NAME", "CREDIT_CARD_NUM", "CREDIT_CARD_EXP", "CREDIT_CARD_CODE",
+                                  "NCIP_FROM_AGENCY_AUTH"};
+  return column.name.contains("PASSWORD") || others.contains(column.name);
 }
 
 QString Content::DescriptionOf(const SchemaTable& table, const QString& column) {
@@ -166,11 +167,12 @@ Cell Content::Canonical(const SchemaColumn& column, const QString& text) {
   return std::nullopt;
 }
 
-TableContent Content::Read(Connection& connection, const SchemaTable& table, bool withSecrets) {
+TableContent Content::Read(Connection& connection, const SchemaTable& table, const Secrets& secrets) {
   QStringList present;
   for (const ColumnInfo& info : connection.Columns(table.name)) present += info.name;
   TableContent content{&table, KnownColumns(table, present), {}};
-  if (!withSecrets) std::erase_if(content.columns, IsSecret);
+  std::erase_if(content.columns,
+                [&](const SchemaColumn& column) { return IsSecret(column) && !secrets.Hold(column.name); });
   if (content.columns.empty())
     throw std::runtime_error("The database lacks the table " + table.name.toStdString() +
                              ". tabulon-db check tells what else is missing.");

@@ -32,13 +32,22 @@ class RowOrder {
   std::vector<bool> numeric_;
 };
 
+// Which of the passwords and card data are read: none unless they are asked for.
+struct Secrets {
+  bool all = false;
+  QStringList columns;  // these, where not all
+
+  bool Any() const { return all || !columns.isEmpty(); }
+  bool Hold(const QString& column) const { return all || columns.contains(column); }
+};
+
 namespace Content {
 
 // What a person decides about the site. Not among them: requests and what goes with them, counters, users, patrons.
 bool IsConfiguration(const SchemaTable& table);
 std::vector<const SchemaTable*> Configuration();
 
-// Passwords and card data.
+// Passwords and card data, and what a server of a partner takes for a password.
 bool IsSecret(const SchemaColumn& column);
 // A column that the table has for a language of its site.
 bool IsLanguageColumn(const SchemaTable& table, const QString& column);
@@ -56,7 +65,7 @@ std::optional<QStringList> RowKey(const SchemaTable& table);
 Cell Canonical(const SchemaColumn& column, const QString& text);
 
 // All rows, ordered by key. std::runtime_error when the database lacks the table or holds what is no value.
-TableContent Read(Connection& connection, const SchemaTable& table, bool withSecrets);
+TableContent Read(Connection& connection, const SchemaTable& table, const Secrets& secrets);
 void Sort(TableContent& content);
 
 }  // namespace Content

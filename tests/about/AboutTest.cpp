@@ -37,7 +37,7 @@ TEST_F(AboutTest, TheSplashScreenShowsTheVersionOfTheManifestForFourSeconds) {
   Manifest("Vendor-Version=7.2\nCopyright-Date=2024\n");
   Open("frmSplash");
   EXPECT_TRUE(IsShown("lblVersion"));
-  EXPECT_EQ(Text("lblVersion"), "Version 7.2");
+  EXPECT_EQ(Text("lblVersion"), "7.2");
   EXPECT_EQ(Text("lblRights"), "Copyright 2024. All rights reserved.");
   auto* const timer = Window()->findChild<QTimer*>();
   ASSERT_NE(timer, nullptr);
@@ -77,6 +77,22 @@ TEST_F(AboutTest, AnUnusableRegistryLeavesTheValuesOfTheManifest) {
   EXPECT_EQ(Text("lblEditionValue"), "Consortium");
 }
 
+TEST_F(AboutTest, EditionAndVersionOfTheRegistryReplaceThoseOfTheManifest) {
+  Manifest("Vendor-Version=7.2\nPackage-Name=Consortium\n");
+  RegistryValues("[SOFTWARE\\Ostana\\7.2]\nEdition=Campus\nVersion=7.2.31\n");
+  Open("frmAboutOstana");
+  EXPECT_EQ(Text("lblEditionValue"), "Campus");
+  EXPECT_EQ(Text("lblVersionValue"), "7.2.31");
+}
+
+TEST_F(AboutTest, AnEmptyValueOfTheRegistryReplacesNothing) {
+  Manifest("Vendor-Version=7.2\nPackage-Name=Consortium\n");
+  RegistryValues("[SOFTWARE\\Ostana\\7.2]\nEdition=\n");
+  Open("frmAboutOstana");
+  EXPECT_EQ(Text("lblEditionValue"), "Consortium");
+  EXPECT_EQ(Text("lblVersionValue"), "7.2");
+}
+
 TEST_F(AboutTest, MoreInformationIsShownAndHiddenAgain) {
   Open("frmAboutOstana");
   EXPECT_FALSE(IsShown("txtMoreInfo"));
@@ -87,6 +103,42 @@ TEST_F(AboutTest, MoreInformationIsShownAndHiddenAgain) {
   Click("cmdOtherInfo");
   EXPECT_FALSE(IsShown("txtMoreInfo"));
   EXPECT_EQ(Text("cmdOtherInfo"), "&More Info.");
+}
+
+// A program that says that it was started, in the place that the registry names.
+class SystemInformationTest : public AboutTest {
+ protected:
+  void Program(const QString& path) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("#!/bin/sh\ntouch '" + Started().toUtf8() + "'\n");
+    ASSERT_TRUE(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+  }
+  QString Started() const { return Folder() + "/started"; }
+  void PressAndWait() {
+    Open("frmAboutOstana");
+    Click("cmdSysInfo");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return QFile::exists(Started()); }));
+  }
+};
+
+TEST_F(SystemInformationTest, ThePathOfTheRegistryIsStarted) {
+  Program(Folder() + "/information");
+  RegistryValues("[SOFTWARE\\Microsoft\\Shared Tools\\MSINFO]\nPATH=" + Folder() + "/information\n");
+  PressAndWait();
+}
+
+TEST_F(SystemInformationTest, WithoutAPathTheProgramBelowItsFolderIsStarted) {
+  Program(Folder() + "/tools\\MSINFO32.EXE");
+  RegistryValues("[SOFTWARE\\Microsoft\\Shared Tools Location]\nMSINFO=" + Folder() + "/tools\n");
+  PressAndWait();
+}
+
+TEST_F(SystemInformationTest, AFolderWithoutTheProgramIsNoInformation) {
+  RegistryValues("[SOFTWARE\\Microsoft\\Shared Tools Location]\nMSINFO=" + Folder() + "/tools\n");
+  Open("frmAboutOstana");
+  Prompt().Expect("System Information Is Unavailable At This Time", 48);
+  Click("cmdSysInfo");
 }
 
 TEST_F(AboutTest, WithoutASystemInformationProgramThatIsSaid) {

@@ -39,7 +39,11 @@ const Native natives[] = {
     {Engine::SqlServer, "3621;547", AdoNumber::ConstraintBroken, "REFERENCE"},
     {Engine::SqlServer, "515", AdoNumber::ConstraintBroken, ""},
     {Engine::SqlServer, "208", AdoNumber::TextRefused, ""},
+    {Engine::SqlServer, "547", AdoNumber::ConstraintBroken, "REFERENCE"},
+    {Engine::SqlServer, "1205", AdoNumber::Busy, "busy"},
     {Engine::SqlServer, "1222", AdoNumber::Busy, "busy"},
+    {Engine::SqlServer, "-2", AdoNumber::Busy, "busy"},
+    {Engine::SqlServer, "0;-2", AdoNumber::Busy, "busy"},
 };
 
 // The type that QtSql gives is wrong on every driver: the code alone must decide.
@@ -65,6 +69,16 @@ TEST(ErrorIdentity, LostConnectionsAreTold) {
     EXPECT_TRUE(Dialect::For(engine).IsConnectionLost(Error(code))) << code;
     EXPECT_TRUE(Dialect::For(engine).Translate(Error(code), {}).ConnectionLost()) << code;
   }
+}
+
+// ODBC has no native code of its own for these.
+TEST(ErrorIdentity, WhatSqlServersDriversSayInWords) {
+  const Dialect& dialect = Dialect::For(Engine::SqlServer);
+  const auto error = [](const char* text) { return QSqlError("driver", text, QSqlError::UnknownError, "0"); };
+  EXPECT_EQ(dialect.Translate(error("Query timeout expired"), {}).Number(), AdoNumber::Busy);
+  EXPECT_EQ(dialect.Translate(error("[HYT00] Timeout expired"), {}).Number(), AdoNumber::Busy);
+  EXPECT_TRUE(dialect.IsConnectionLost(error("Communication link failure")));
+  EXPECT_EQ(dialect.Translate(error("Invalid cursor state"), {}).Number(), AdoNumber::Unspecified);
 }
 
 TEST(ErrorIdentity, NumbersPrintAsSignedDecimals) {

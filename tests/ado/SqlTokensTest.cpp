@@ -74,7 +74,9 @@ TEST(SqlTokens, RefusesWhatMayNotBeSent) {
 // PostgreSQL's dollar quotes and escape literals, MariaDB's backticks: text behind them would be read otherwise there.
 TEST(SqlTokens, RefusesQuotesOfSingleEngines) {
   EXPECT_FALSE(WhyRefused("SELECT $$'$$, 'x'", 1).isEmpty());
+  EXPECT_FALSE(WhyRefused("SELECT 1$$'$$, 'x'", 1).isEmpty());
   EXPECT_FALSE(WhyRefused("SELECT `'`", 1).isEmpty());
+  EXPECT_EQ(WhyRefused("SELECT A$1 FROM ID_A", 1), "");
   EXPECT_FALSE(WhyRefused("SELECT E'\\'; DELETE FROM ID_A; '", 9).isEmpty());
   EXPECT_EQ(WhyRefused("SELECT '$$ ` E''x'' -- /* ;'", 1), "");
 }

@@ -124,6 +124,13 @@ TEST(ForgetPasswordOf, OverwritesAPasswordThatTheShellCutInTwo) {
   EXPECT_EQ(list[1].find("my"), std::string::npos);
 }
 
+TEST(ForgetPasswordOf, OverwritesWhatStandsBehindAQuoteInThePassword) {
+  ArgumentList list({"site", "user", "se\"cr\"et", "", "_FRE"});
+  ForgetPassword(list.Count(), list.Values());
+  EXPECT_EQ(list[3], "**\"**\"**");
+  EXPECT_EQ(list[5], "_FRE");
+}
+
 TEST(ForgetPasswordOf, LeavesAListWithoutPasswordAlone) {
   ArgumentList list({"site", "user"});
   ForgetPassword(list.Count(), list.Values());

@@ -75,6 +75,38 @@ TEST_F(FilteredGridTest, AnUpdateOfTheRecordThatTheFilterHidesWritesThatRecord) 
   EXPECT_EQ(Cell(Rows_, 2, 2), "Wych elm");
 }
 
+// By a click on the heading, once upwards and once downwards: another row stands at each place now.
+TEST_F(FilteredGridTest, ASortUnderTheFilterKeepsTheRecordThatIsUpdated) {
+  Another("UPDATE ID_LIBRARY_CAT SET LIBRARY_CAT_DESC = 'Oak, red' WHERE LIBRARY_CAT = 'A'");
+  Filter("oak");
+  ClickShown(1);
+  SortBy(Rows_, 2);
+  SortBy(Rows_, 2);
+  EXPECT_EQ(Text("txt0Code"), "C");
+  EXPECT_EQ(Cell(Rows_, Row(Rows_), 1), "C");
+  EXPECT_EQ(Shown(), 2);
+  Type("txt0Description", "Holm oak");
+  Prompt().Expect("Record Updated", 64);
+  Click("cmdUpdate");
+  EXPECT_EQ(Stored("C"), "Holm oak");
+  EXPECT_EQ(Cell(Rows_, Find<Grid>(Rows_)->FindRow("C", 1), 2), "Holm oak");
+  EXPECT_EQ(Stored("A"), "Oak, red");
+  EXPECT_EQ(Stored("B"), "Elm");
+}
+
+TEST_F(FilteredGridTest, ASortTakesAnUpdateOfANeighbourToTheRightRow) {
+  SortBy(Rows_, 2);
+  Filter("oak");
+  ClickShown(0);
+  EXPECT_EQ(Text("txt0Code"), "A");
+  Type("txt0Description", "Zelkova");
+  Prompt().Expect("Record Updated", 64);
+  Click("cmdUpdate");
+  EXPECT_EQ(Stored("A"), "Zelkova");
+  EXPECT_EQ(Stored("C"), "White oak");
+  EXPECT_EQ(Cell(Rows_, Row(Rows_), 2), "Zelkova");
+}
+
 TEST_F(FilteredGridTest, AnAddedRowThatTheFilterHidesIsSelectedAndSeen) {
   Filter("oak");
   Type("txt0Code", "E");

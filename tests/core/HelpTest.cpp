@@ -9,6 +9,7 @@
 #include "core/Help.h"
 #include "core/Screen.h"
 #include "core/Screens.h"
+#include "core/frmLogon.h"
 #include "support/Desk.h"
 
 namespace {
@@ -52,6 +53,37 @@ TEST_F(HelpTest, F1OpensThePageOfTheDialog) {
   EXPECT_EQ(opened_, QStringList{"frmAboutApp.html"});
 }
 
+TEST_F(HelpTest, F1OpensThePageOfTheLogon) {
+  Page("frmLogon.html");
+  frmLogon logon;
+  logon.show();
+  QApplication::setActiveWindow(&logon);
+  QTest::keyClick(&logon, Qt::Key_F1);
+  EXPECT_EQ(opened_, QStringList{"frmLogon.html"});
+}
+
+// After Yes to the question of the guard the new tab is on screen, and set up when it is entered again.
+TEST_F(HelpTest, ATabThatWasNotSetUpIsToldOfOnThePageOfTheMainScreen) {
+  Page("frmTabulon.html");
+  Start();
+  ChooseAt("cmb0Tables", Find<CodeComboBox>("cmb0Tables")->IndexOfCode("ID_SERVICE_TYPE"));
+  Type("txt0Code", "??");
+  Prompt().ExpectStart("A record has been modified.", 36, MessageAnswer::Yes);
+  Prompt().ExpectStart("This Code does not exist in the table.", 48);
+  SelectTab("sstabtables", frmTabulon::DeliveryTab);
+  F1();
+  EXPECT_EQ(opened_, QStringList{"frmTabulon.html"});
+}
+
+TEST_F(HelpTest, TheHelpMenuOpensThePageToo) {
+  for (const char* page : {"frmTabulon-code-tables.html", "frmLibraryLoginInfo.html"}) Page(page);
+  Start();
+  Trigger("mnuHelpGuide");
+  Open("frmLibraryLoginInfo");
+  Trigger("mnuHelpGuide");
+  EXPECT_EQ(opened_, (QStringList{"frmTabulon-code-tables.html", "frmLibraryLoginInfo.html"}));
+}
+
 TEST_F(HelpTest, HtmlGoesBeforeMarkdownAndMarkdownBeforeNothing) {
   Page("frmLoans.md");
   EXPECT_TRUE(Help::PageFile("frmLoans").endsWith("/guide/frmLoans.md"));
@@ -61,12 +93,16 @@ TEST_F(HelpTest, HtmlGoesBeforeMarkdownAndMarkdownBeforeNothing) {
 }
 
 TEST_F(HelpTest, EachTabOfTheMainScreenHasItsPage) {
-  for (const char* page : {"frmTabulon-code-tables.md", "frmTabulon-delivery-messaging.md"}) Page(page);
+  const QStringList pages = {"frmTabulon-code-tables.md", "frmTabulon-delivery-messaging-0.md",
+                             "frmTabulon-delivery-messaging-2.md"};
+  for (const QString& page : pages) Page(page);
   Start();
   F1();
   SelectTab("sstabtables", frmTabulon::DeliveryTab);
   F1();
-  EXPECT_EQ(opened_, (QStringList{"frmTabulon-code-tables.md", "frmTabulon-delivery-messaging.md"}));
+  SelectTab("sstab5Delivery", 2);
+  F1();
+  EXPECT_EQ(opened_, pages);
 }
 
 TEST_F(HelpTest, F1InAFieldIsTheWindowsF1) {

@@ -85,3 +85,19 @@ TEST_F(NumbersTest, ValTakesTheNumberAtTheStart) {
   EXPECT_DOUBLE_EQ(Numbers::Val("1,5"), 1);
   for (const char* text : {"", "abc", "-", ".", "kg 12"}) EXPECT_DOUBLE_EQ(Numbers::Val(text), 0) << text;
 }
+
+TEST_F(NumbersTest, WholeNumbersKeepTheirDigits) {
+  for (const auto& [text, whole] : {std::pair<QString, QString>{"7", "7"},
+                                    {"+7", "7"},
+                                    {" -012.000 ", "-12"},
+                                    {"9007199254740993", "9007199254740993"},
+                                    {"99999999999999999999", "99999999999999999999"},
+                                    {"000", "0"},
+                                    {"-0.0", "0"},
+                                    {".0", "0"}}) {
+    EXPECT_FALSE(Numbers::HasFraction(text)) << text.toStdString();
+    EXPECT_EQ(Numbers::Whole(text), whole) << text.toStdString();
+  }
+  for (const QString& text : {QString("7.5"), QString("-0.001"), QString(".5"), QString("9007199254740993.5")})
+    EXPECT_TRUE(Numbers::HasFraction(text)) << text.toStdString();
+}

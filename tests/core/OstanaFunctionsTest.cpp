@@ -94,7 +94,7 @@ TEST_F(OstanaFunctionsTest, DatabaseThatIsAbsentOrNoneIsTold) {
     EXPECT_FALSE(Load("admin", "secret", "other"));
     EXPECT_TRUE(gclsOF->LastError().startsWith("The database '" + name + "' cannot be opened: "))
         << gclsOF->LastError().toStdString();
-    EXPECT_TRUE(gclsOF->LastError().endsWith("Please check the database section of '" + SettingsFile() + "'."));
+    EXPECT_TRUE(gclsOF->LastError().endsWith("  The settings are those of '" + SettingsFile() + "'."));
   }
   EXPECT_FALSE(QFile::exists(File("absent.db")));
 }

@@ -67,4 +67,13 @@ TEST_F(ProcedureTest, TheFailureMessageOfAnEarlierProcedureIsForgotten) {
   EXPECT_EQ(gstrErrorMessage, "");
 }
 
+TEST_F(ProcedureTest, ASilentProcedureForgetsItAsWell) {
+  gstrErrorMessage = "left over";
+  EXPECT_FALSE(Procedure("frmX.Fill").Step([] { throw std::runtime_error("out of luck"); }));
+  const QStringList log = LogLines();
+  ASSERT_GE(log.size(), 2);
+  EXPECT_TRUE(log[log.size() - 2].endsWith("  * frmX.Fill")) << log[log.size() - 2].toStdString();
+  EXPECT_TRUE(log.last().endsWith(" - out of luck"));
+}
+
 }  // namespace

@@ -18,8 +18,9 @@ TEST(SecretMask, AssignedPasswordsAreMasked) {
 }
 
 TEST(SecretMask, EverySecretColumnIsKnown) {
-  for (const char* column : {"USER_PASSWORD", "VORN_PASSWORD", "BL_PASSWORD", "RAPID_PASSWORD", "CREDIT_CARD_NUM",
-                             "CREDIT_CARD_CODE", "PASSWORD", "vorn_password", "L.BL_PASSWORD", "[PASSWORD]"}) {
+  for (const char* column :
+       {"USER_PASSWORD", "VORN_PASSWORD", "BL_PASSWORD", "RAPID_PASSWORD", "CREDIT_CARD_NUM", "CREDIT_CARD_CODE",
+        "NCIP_FROM_AGENCY_AUTH", "PASSWORD", "vorn_password", "L.BL_PASSWORD", "[PASSWORD]"}) {
     EXPECT_EQ(MaskSecrets(QString("UPDATE T SET ") + column + "='secret'"),
               QString("UPDATE T SET ") + column + "='***'");
   }

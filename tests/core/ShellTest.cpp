@@ -1,5 +1,6 @@
 #include <QAction>
 #include <QMenu>
+#include <QRegularExpression>
 #include <QStatusBar>
 #include <QTabWidget>
 
@@ -86,6 +87,42 @@ TEST_F(ShellTest, YesWithAnUpdateThatFailsReturnsInSilenceAtTheNextTabClick) {
   EXPECT_EQ(Shell().Tab(), 0);
   EXPECT_EQ(Text("txt0Code"), "??");
   EXPECT_TRUE(gbRecordModified);
+}
+
+TEST_F(ShellTest, UpdateOnATabThatWasNotSetUpStillMeansTheRecordThatWaits) {
+  PickCategories();
+  const QString code = Text("txt0Code");
+  Type("txt0Description", "changed");
+  Another("ALTER TABLE ID_LIBRARY_CAT RENAME TO ID_LIBRARY_CAT_AWAY");
+  Prompt()
+      .Expect(Question, 36, MessageAnswer::Yes)
+      .Expect("An error has occurred updating the table.\n\nIf the error persists notify support.", 16);
+  SelectTab("sstabtables", 6);
+  Another("ALTER TABLE ID_LIBRARY_CAT_AWAY RENAME TO ID_LIBRARY_CAT");
+  EXPECT_TRUE(gbRecordModified);
+  // Clear belongs to the tab on screen, which has none, and leaves the record waiting.
+  Click("cmdClear");
+  EXPECT_TRUE(gbRecordModified);
+  Prompt().Expect("Record Updated", 64);
+  Click("cmdUpdate");
+  EXPECT_FALSE(gbRecordModified);
+  EXPECT_EQ(Ask("SELECT LIBRARY_CAT_DESC FROM ID_LIBRARY_CAT WHERE LIBRARY_CAT = '" + code + "'"), "changed");
+}
+
+TEST_F(ShellTest, AfterTheRecordWasStoredTheButtonsMeanTheTabOnScreen) {
+  PickCategories();
+  SelectTab("sstabtables", frmTabulon::AuditTab);
+  const QString code = Text("txt10aCode");
+  SelectTab("sstabtables", frmTabulon::CodeTablesTab);
+  ChooseAt("cmb0Tables", Find<CodeComboBox>("cmb0Tables")->IndexOfCode("ID_LIBRARY_CAT"));
+  Type("txt0Description", "changed");
+  Prompt().Expect(Question, 36, MessageAnswer::Yes).Expect("Record Updated", 64);
+  SelectTab("sstabtables", frmTabulon::AuditTab);
+  Type("txt10aDescription", "Reading room");
+  Prompt().Expect("Record Updated", 64);
+  Click("cmdUpdate");
+  EXPECT_EQ(Ask("SELECT STAT_LOCATION_DESC FROM ID_STAT_LOCATION WHERE STAT_LOCATION = '" + code + "'"),
+            "Reading room");
 }
 
 TEST_F(ShellTest, ClosingWithAnUnchangedRecordEndsWithoutAQuestion) {
@@ -217,6 +254,23 @@ TEST_F(ShellTest, ItemTypesAreOpenWhereLoanDocumentsShowThem) {
   SelectTab("sstabtables", 11);
   EXPECT_FALSE(IsEnabled("cmdServiceCode"));
   EXPECT_TRUE(IsEnabled("cmdSuppliedItemType"));
+}
+
+TEST_F(ShellTest, WithAnOwnerEveryStatementOfEveryTabNamesIt) {
+  if (TestDatabase::TestEngine() != Engine::Sqlite) GTEST_SKIP() << "the tables of the test have no owner";
+  Setting("Database", "OwnerPrefix", "OSTANA");
+  PickCategories();
+  for (int index = 1; index < frmTabulon::TabCount; ++index) SelectTab("sstabtables", index);
+  SelectTab("sstabtables", 0);
+  ChooseAt("cmb0Tables", Find<CodeComboBox>("cmb0Tables")->IndexOfCode("ID_LIBRARY_CAT"));
+  Type("txt0Description", "changed");
+  Prompt().Expect("Record Updated", 64);
+  Click("cmdUpdate");
+  static const QRegularExpression bare("(?<!OSTANA\\.)\\bID_[A-Z]");
+  const QStringList statements = Statements();
+  EXPECT_GE(statements.size(), 20);
+  for (const QString& statement : statements) EXPECT_FALSE(statement.contains(bare)) << statement.toStdString();
+  EXPECT_TRUE(LogLines().filter("Error: ").isEmpty());
 }
 
 TEST_F(ShellTest, TheHelpMenuOpensBothAboutScreens) {

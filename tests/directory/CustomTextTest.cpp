@@ -253,27 +253,74 @@ TEST_F(CustomTextTest, BothShippedFilesHaveTheSameKeys) {
   EXPECT_TRUE(IniFile::Sections(Shipped + "LIBRARY.CFG").contains("Library Supplier Sequencing"));
 }
 
+// The text that marks a key of the shipped file.
+QString Mark(const QString& key) {
+  return "Mark of " + key;
+}
+
+// All texts a screen shows or can show: captions, tool tips, titles, headings, entries of menus.
+QStringList ShownTexts(const Screen& screen) {
+  QStringList texts{screen.windowTitle().remove("Ostana - ")};
+  for (const QWidget* widget : screen.findChildren<QWidget*>()) {
+    texts << widget->toolTip() << widget->property("text").toString() << widget->property("title").toString();
+    if (const auto* const grid = qobject_cast<const Grid*>(widget))
+      for (int col = 1; col < grid->Cols(); ++col) texts << grid->Text(0, col);
+  }
+  for (const QAction* entry : screen.findChildren<QAction*>()) texts << entry->text();
+  return texts;
+}
+
 // Each key of the shipped file is read: a marked value shows on the screen, or is a default that is asked for.
 TEST_F(CustomTextTest, EveryShippedKeyIsReadByItsScreen) {
   for (const auto& [form, section] : Sections) {
-    for (const QString& key : IniFile::Keys(Shipped + "LIBRARY.CFG", section)) {
-      if (key.startsWith("LIBRARY_Default_")) continue;
-      const QString mark = "Mark of " + key;
-      Write(QString("[%1]\n%2=%3\n").arg(section, key, mark));
-      const std::unique_ptr<Screen> screen = [&, name = form] {
-        Begin();
-        return MakeScreen(name, nullptr);
-      }();
-      screen->ShowModeless();
-      QStringList texts{screen->windowTitle().remove("Ostana - ")};
-      for (const QWidget* widget : screen->findChildren<QWidget*>()) {
-        texts << widget->toolTip() << widget->property("text").toString() << widget->property("title").toString();
-        if (const auto* const grid = qobject_cast<const Grid*>(widget))
-          for (int col = 1; col < grid->Cols(); ++col) texts << grid->Text(0, col);
-      }
-      for (const QAction* entry : screen->findChildren<QAction*>()) texts << entry->text();
-      EXPECT_TRUE(texts.contains(mark)) << form << " " << qPrintable(key);
-    }
+    QStringList keys = IniFile::Keys(Shipped + "LIBRARY.CFG", section);
+    keys.removeIf([](const QString& key) { return key.startsWith("LIBRARY_Default_"); });
+    QString file = QString("[%1]\n").arg(section);
+    for (const QString& key : keys) file += key + '=' + Mark(key) + '\n';
+    Write(file);
+    Begin();
+    const std::unique_ptr<Screen> screen = MakeScreen(form, nullptr);
+    screen->ShowModeless();
+    const QStringList texts = ShownTexts(*screen);
+    for (const QString& key : keys) EXPECT_TRUE(texts.contains(Mark(key))) << form << " " << qPrintable(key);
+  }
+}
+
+// What a form shows and tells in tips, a line for each text with the name of its control.
+QStringList TextsOf(const QWidget& form) {
+  QStringList texts{"title: " + form.windowTitle()};
+  for (const QWidget* widget : form.findChildren<QWidget*>()) {
+    const QString name = widget->objectName();
+    if (name.isEmpty() || name.startsWith("qt_")) continue;
+    const bool isCaption = qobject_cast<const QLabel*>(widget) || qobject_cast<const QAbstractButton*>(widget);
+    if (isCaption) texts << name + ": " + widget->property("text").toString();
+    if (const auto* const frame = qobject_cast<const QGroupBox*>(widget)) texts << name + ": " + frame->title();
+    if (const auto* const menu = qobject_cast<const QMenu*>(widget)) texts << name + ": " + menu->title();
+    if (!widget->toolTip().isEmpty()) texts << name + " tip: " + widget->toolTip();
+    if (const auto* const grid = qobject_cast<const Grid*>(widget))
+      for (int col = 1; col < grid->Cols(); ++col) texts << name + ": " + grid->Text(0, col);
+  }
+  for (const QAction* entry : form.findChildren<QAction*>())
+    if (!entry->objectName().isEmpty()) texts << entry->objectName() + ": " + entry->text();
+  return texts;
+}
+
+// The file is where a site begins to write its own texts: it must say what is there.
+TEST_F(CustomTextTest, TheShippedFileHoldsTheBuiltInTexts) {
+  for (const auto& [form, section] : Sections) {
+    Setting("System", "CustomConfigFile", "");
+    OpenLibrary(form);
+    const QStringList builtIn = TextsOf(*Window());
+    EXPECT_GT(builtIn.size(), 15) << form;
+    Setting("System", "CustomConfigFile", "Library.cfg");
+    QFile::remove(File());
+    ASSERT_TRUE(QFile::copy(Shipped + "LIBRARY.CFG", File()));
+    OpenLibrary(form);
+    const QStringList shipped = TextsOf(*Window());
+    for (const QString& text : builtIn)
+      EXPECT_TRUE(shipped.contains(text)) << form << " without the file has " << text.toStdString();
+    for (const QString& text : shipped)
+      EXPECT_TRUE(builtIn.contains(text)) << form << " with the file has " << text.toStdString();
   }
 }
 

@@ -136,6 +136,41 @@ TEST_F(EmailTemplateTest, DeleteRemovesTheRowAndEmptiesTheBoxes) {
   EXPECT_EQ(Text("txtSubject"), "");
 }
 
+TEST_F(EmailTemplateTest, ARowThatIsOnShowIsUpdatedWithoutAskingForItAgain) {
+  Open("frmDeliveryEmailTemplate");
+  Fill("Your article", "body");
+  Prompt().Expect("Email settings Updated.", 64);
+  Click("cmdOK");
+  Statements();
+  Prompt().Expect("Email settings Updated.", 64);
+  Click("cmdOK");
+  EXPECT_EQ(Statements().size(), 1);
+}
+
+TEST_F(EmailTemplateTest, ARowThatAnotherClientDeletedIsToldAndTheNextPressAddsIt) {
+  Open("frmDeliveryEmailTemplate");
+  Fill("Your article", "body");
+  Prompt().Expect("Email settings Updated.", 64);
+  Click("cmdOK");
+  Another("DELETE FROM ID_EMAIL_MESSAGE");
+  Prompt().Expect("Cannot add/update this record.", 16);
+  Click("cmdOK");
+  EXPECT_EQ(Count("ID_EMAIL_MESSAGE"), 0);
+  Prompt().Expect("Email settings Updated.", 64);
+  Click("cmdOK");
+  EXPECT_EQ(Ask("SELECT EMAIL_MESSAGE_SUBJECT FROM ID_EMAIL_MESSAGE"), "Your article");
+}
+
+TEST_F(EmailTemplateTest, ARowThatAnotherClientAddedMeanwhileIsNotDoubled) {
+  Open("frmDeliveryEmailTemplate");
+  Fill("Ours", "body");
+  Another("INSERT INTO ID_EMAIL_MESSAGE (LIBRARY_ID, EMAIL_MESSAGE_SUBJECT) VALUES (71, 'Theirs')");
+  Prompt().Expect("Email settings Updated.", 64);
+  Click("cmdOK");
+  EXPECT_EQ(Count("ID_EMAIL_MESSAGE"), 1);
+  EXPECT_EQ(Ask("SELECT EMAIL_MESSAGE_SUBJECT FROM ID_EMAIL_MESSAGE"), "Ours");
+}
+
 TEST_F(EmailTemplateTest, ARefusedStatementIsToldAndLogged) {
   Open("frmDeliveryEmailTemplate");
   Fill("Your article", "body");
@@ -209,6 +244,22 @@ TEST_F(AnnotationTest, DeleteRemovesTheRow) {
       .Expect("Record deleted.", 64);
   Click("cmdDelete");
   EXPECT_EQ(Count("ID_ANNOTATION"), 0);
+}
+
+TEST_F(AnnotationTest, ARowThatIsOnShowIsUpdatedWithoutAskingForItAgain) {
+  Another("INSERT INTO ID_ANNOTATION (LIBRARY_ID, USE_ANNOTATION, ANNOTATION) VALUES (71, 'Y', 'x')");
+  Open("frmLibraryAnnotationTemplate");
+  Type("txtAnnotationText", "y");
+  Statements();
+  Prompt().Expect("Annotation Email settings Updated.", 64);
+  Click("cmdOK");
+  EXPECT_EQ(Statements().size(), 1);
+  Another("DELETE FROM ID_ANNOTATION");
+  Prompt().Expect("Cannot add record to database.", 16);
+  Click("cmdOK");
+  Prompt().Expect("Annotation Email settings Updated.", 64);
+  Click("cmdOK");
+  EXPECT_EQ(Ask("SELECT ANNOTATION FROM ID_ANNOTATION WHERE LIBRARY_ID = 71"), "y");
 }
 
 TEST_F(AnnotationTest, AFailureIsToldAndLoggedWithItsStatement) {

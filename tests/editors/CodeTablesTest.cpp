@@ -1,5 +1,7 @@
 #include <QAction>
+#include <QFile>
 
+#include "core/Languages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/Screen.h"
@@ -206,6 +208,28 @@ TEST_F(CodeTablesTest, ARowInUseIsNotDeleted) {
   EXPECT_EQ(Count("ID_BILLING_TYPE", "BILLING_TYPE = '" + code + "'"), 1);
 }
 
+TEST_F(CodeTablesTest, ADeleteThatFailsOtherwiseHasOtherWords) {
+  Mode("ID_LIBRARY_CAT", "F");
+  Start();
+  Pick("ID_LIBRARY_CAT");
+  // The question is on screen while the link to the database goes down for good.
+  const QString file = Database().Settings().name;
+  if (TestDatabase::TestEngine() != Engine::Sqlite) GTEST_SKIP() << "a file that goes away is what SQLite meets alone";
+  gclsOF->Connection().Close();
+  ASSERT_TRUE(QFile::rename(file, file + ".away"));
+  Prompt()
+      .Expect("Are you sure you wish to Delete this record?", 36, MessageAnswer::Yes)
+      .Expect("An error has occurred while attempting to delete the record.\n\nIf the error persists notify support.",
+              16);
+  Click("cmdDelete");
+  ASSERT_TRUE(QFile::rename(file + ".away", file));
+  EXPECT_GT(Rows("grd0TableDesc"), 1);
+  const QStringList log = LogLines();
+  ASSERT_GE(log.size(), 3);
+  EXPECT_TRUE(log[log.size() - 3].endsWith("  * frmTabulon.CodeTables_Delete"));
+  EXPECT_EQ(log[log.size() - 2].mid(24), "* ***** SQL error on ID_LIBRARY_CAT (Delete) *****");
+}
+
 TEST_F(CodeTablesTest, ANumericCodeTakesNeitherLettersNorAFraction) {
   Mode("ID_ISO_UNFILLED", "F");
   Another("INSERT INTO ID_TABLES (TABLES, TABLES_DESC, VIEW_ONLY_FLAG) SELECT 'ID_ISO_UNFILLED', 'Zz Reasons', 'F' FROM "
@@ -312,6 +336,32 @@ TEST_F(LanguagesTest, WithoutASuffixTheListStandsOnTheDefaultAndTheSuffixStaysEm
   EXPECT_EQ(gclsOF->LanguageSuffix(), "");
 }
 
+TEST_F(LanguagesTest, WithoutASuffixTheColumnsHaveTheirPlainNames) {
+  Start();
+  Statements();
+  SelectTab("sstabtables", frmTabulon::LoansTab);
+  SelectTab("sstabtables", frmTabulon::CodeTablesTab);
+  LoadLanguageCodes({});
+  EXPECT_EQ(Statements(),
+            (QStringList{"SELECT   * FROM ID_TABLES ORDER BY TABLES_DESC",
+                         "SELECT   LANGUAGE_CODE, LANGUAGE_CODE_DEFAULT, LANGUAGE_CODE_DESC FROM ID_LANGUAGE_CODE "
+                         "ORDER BY LANGUAGE_CODE_DESC"}));
+}
+
+TEST_F(LanguagesTest, LanguagesThatCannotBeReadStayAsTheyWere) {
+  Start();
+  const QStringList codes = gcolLanguageCode;
+  Another("ALTER TABLE ID_LANGUAGE_CODE RENAME TO ID_LANGUAGE_CODE_AWAY");
+  LoadLanguageCodes({});
+  Another("ALTER TABLE ID_LANGUAGE_CODE_AWAY RENAME TO ID_LANGUAGE_CODE");
+  EXPECT_EQ(gcolLanguageCode, codes);
+  EXPECT_EQ(gstrDefaultLanguageCode, "ENG");
+  const QStringList log = LogLines();
+  ASSERT_GE(log.size(), 3);
+  EXPECT_TRUE(log[log.size() - 3].endsWith("  * frmTabulon.LoadLanguageCode"));
+  EXPECT_EQ(log[log.size() - 2].mid(24), "* ***** SQL error on ID_LANGUAGE_CODE (Select) *****");
+}
+
 TEST_F(LanguagesTest, AnotherLanguageReloadsTheListAndKeepsTheTable) {
   Mode("ID_LANGUAGE_CODE", "F");
   Start();
@@ -413,6 +463,20 @@ TEST_F(CodeTablesTest, CatalogCodesTakeTheirLibraryOnUpdateOnly) {
   EXPECT_EQ(Count("ID_CATALOG_CODE", "CATALOG_CODE = 'Z9' AND CATALOG_LIBRARY_ID IS NULL"), 1);
 }
 
+TEST_F(CodeTablesTest, LibrariesThatCannotBeReadAreToldInTheirOwnLine) {
+  Another("INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME) VALUES (71, 'ONE', 'One')");
+  Another("UPDATE ID_CATALOG_CODE SET CATALOG_LIBRARY_ID = 71");
+  Start();
+  Pick("ID_CATALOG_CODE");
+  ASSERT_GT(Rows("grd0TableDesc"), 1);
+  EXPECT_EQ(Cell("grd0TableDesc", 1, 5), "ONE");
+  Another("ALTER TABLE ID_LIBRARY RENAME TO ID_LIBRARY_AWAY");
+  Prompt().Expect("***** SQL error on ID_LIBRARY  (Select) *****", 16);
+  Shell().LoadDataInGrid();
+  Another("ALTER TABLE ID_LIBRARY_AWAY RENAME TO ID_LIBRARY");
+  EXPECT_EQ(Cell("grd0TableDesc", 1, 5), "");
+}
+
 TEST_F(CodeTablesTest, ATableThatDoesNotExistFailsAloneAndSaysSo) {
   Another("INSERT INTO ID_TABLES (TABLES, TABLES_DESC, VIEW_ONLY_FLAG) VALUES ('ID_GONE', 'Aa gone', 'F')");
   Start();
@@ -436,6 +500,58 @@ TEST_F(CodeTablesTest, TheFieldsTakeNoMoreThanTheirColumns) {
   EXPECT_LT(limit, 100);
   Type("txt0Code", QString(limit + 5, 'X'));
   EXPECT_EQ(Text("txt0Code").size(), limit);
+}
+
+TEST_F(CodeTablesTest, AColumnWithoutASizeHasNoLimit) {
+  Setting("System", "SingleLanguage", "Y");
+  Another("CREATE TABLE ID_SHELF (SHELF VARCHAR(5) NOT NULL PRIMARY KEY, SHELF_DESC TEXT)");
+  Another("INSERT INTO ID_TABLES (TABLES, TABLES_DESC, VIEW_ONLY_FLAG) VALUES ('ID_SHELF', 'Aa shelves', 'F')");
+  Start();
+  Pick("ID_SHELF");
+  Type("txt0Code", "A1");
+  const QString text = QString("long ").repeated(8000) + "end";
+  Paste("txt0Description", text);
+  Prompt().Expect("Record Added", 64);
+  Click("cmdAdd");
+  EXPECT_EQ(Ask("SELECT SHELF_DESC FROM ID_SHELF WHERE SHELF = 'A1'"), text);
+}
+
+TEST_F(CodeTablesTest, ANumericCodeKeepsAllItsDigits) {
+  Setting("System", "SingleLanguage", "Y");
+  Another("CREATE TABLE ID_BOX (BOX BIGINT NOT NULL PRIMARY KEY, BOX_DESC VARCHAR(40))");
+  Another("INSERT INTO ID_TABLES (TABLES, TABLES_DESC, VIEW_ONLY_FLAG) VALUES ('ID_BOX', 'Aa boxes', 'F')");
+  Start();
+  Pick("ID_BOX");
+  for (const auto& [typed, stored] : {std::pair<QString, QString>{"9007199254740993", "9007199254740993"},
+                                      {"+7", "7"},
+                                      {"8.0", "8"},
+                                      {"-12", "-12"}}) {
+    Statements();
+    AddRow(typed, "Box");
+    EXPECT_EQ(Writing(), QStringList{"INSERT INTO ID_BOX (BOX, BOX_DESC) VALUES(" + stored + ", 'Box')"});
+    EXPECT_EQ(Cell("grd0TableDesc", Row("grd0TableDesc"), 1), stored);
+  }
+}
+
+TEST_F(CodeTablesTest, ADescriptionArrivesWithEveryLetterAndWithoutControlCharacters) {
+  Mode("ID_LIBRARY_CAT", "F");
+  Start();
+  Pick("ID_LIBRARY_CAT");
+  const QString hostile = QString::fromUtf8("'N''x' \\ ; -- /*\"*/ \xF0\x9F\x98\x80 e\xCC\x81 \xD7\xA9\xD7\x9C");
+  Type("txt0Code", "Q9");
+  Paste("txt0Description", hostile + QChar(u'\0') + "end");
+  Prompt().Expect("Record Added", 64);
+  Click("cmdAdd");
+  EXPECT_EQ(Stored("LIBRARY_CAT_DESC", "Q9"), hostile + "end");
+  EXPECT_EQ(Stored("LIBRARY_CAT_DESC_GER", "Q9"), hostile + "end");
+  EXPECT_EQ(Cell("grd0TableDesc", Row("grd0TableDesc"), 2), hostile + "end");
+}
+
+TEST_F(CodeTablesTest, EnteringTheTabWidensTheMarkerColumn) {
+  Start();
+  EXPECT_EQ(Find<Grid>("grd0TableDesc")->ColWidth(0), 310);
+  Pick("ID_LIBRARY_CAT");
+  EXPECT_EQ(Find<Grid>("grd0TableDesc")->ColWidth(0), 200);
 }
 
 TEST_F(CodeTablesTest, AHeadingSortsTheGridAndKeepsTheRecord) {

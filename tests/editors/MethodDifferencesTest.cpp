@@ -38,9 +38,9 @@ TEST_F(MethodDifferencesTest, CaptionsOfSubTabsOptionsAndColumns) {
   const auto* const tabs = Find<QTabWidget>("sstab5Delivery");
   const QStringList captions{"Delivery Method", "Messaging Method", "Request Method", "Pickup Location"};
   for (int at = 0; at < 4; ++at) EXPECT_EQ(tabs->tabText(at), captions[at]);
-  EXPECT_EQ(Find<QGroupBox>("fra5aActive")->title(), "Active:");
-  EXPECT_EQ(Find<QGroupBox>("fra5bPrint")->title(), "Print:");
-  EXPECT_EQ(Find<QGroupBox>("fra5aDisplay")->title(), "Display for Patron:");
+  EXPECT_EQ(Find<QWidget>("fra5aActive")->accessibleName(), "Active:");
+  EXPECT_EQ(Find<QWidget>("fra5bPrint")->accessibleName(), "Print:");
+  EXPECT_EQ(Find<QWidget>("fra5aDisplay")->accessibleName(), "Display for Patron:");
   EXPECT_EQ(Text("opt5aActive(0)"), "Yes");
   EXPECT_EQ(Text("opt5aActive(1)"), "No");
   // Only the messaging methods show the patron's flag.

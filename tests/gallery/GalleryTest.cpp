@@ -1,14 +1,19 @@
 // Walks through every screen and tab, leaves a picture of each in the light and the dark palette, and compares the
 // names of its controls with the form's data sheet in tests/gallery/sheets: a name that is missing, too many or given
-// twice fails. TABULON_WRITE_SHEETS=1 writes the sheets anew.
+// twice fails. TABULON_WRITE_SHEETS=1 writes the sheets anew. scripts/gallery takes the pictures at other scales, on a
+// large screen and in another wording: TABULON_GALLERY names the folder they go to, TABULON_GALLERY_WORDING a custom
+// text file, TABULON_GALLERY_FONT a size in points.
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QPalette>
+#include <QScreen>
+#include <QTest>
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
+#include "core/frmLogon.h"
 #include "support/Walk.h"
 
 namespace {
@@ -57,17 +62,25 @@ class GalleryTest : public Walk {
   void SetUp() override {
     Walk::SetUp();
     light_ = QApplication::palette();
+    const QString wording = qEnvironmentVariable("TABULON_GALLERY_WORDING");
+    if (!wording.isEmpty()) UseWording(wording);
+    if (const int points = qEnvironmentVariableIntValue("TABULON_GALLERY_FONT"); points > 0) {
+      QFont font = QApplication::font();
+      font.setPointSize(points);
+      QApplication::setFont(font);
+    }
   }
   void TearDown() override {
     QApplication::setPalette(light_);
     Walk::TearDown();
   }
 
-  void Both(const QString& name) {
+  void Both(const QString& name, QWidget* window = nullptr) {
+    const QString path = folder_ + name;
     QApplication::setPalette(light_);
-    Picture(name);
+    Picture(path, window);
     QApplication::setPalette(DarkPalette());
-    Picture(name + "-dark");
+    Picture(path + "-dark", window);
     QApplication::setPalette(light_);
   }
 
@@ -96,6 +109,7 @@ class GalleryTest : public Walk {
   }
 
  private:
+  const QString folder_ = qEnvironmentVariable("TABULON_GALLERY") + "/";
   QPalette light_;
 };
 
@@ -109,11 +123,37 @@ TEST_F(GalleryTest, EveryTabAndSubTabOfTheMainScreen) {
 TEST_F(GalleryTest, EveryDialog) {
   QString compared;
   ThroughDialogs([&](const QString& place, QWidget& screen) {
-    EXPECT_LE(screen.width(), 1280);
-    EXPECT_LE(screen.height(), 760);
+    const QSize room = screen.screen()->availableSize() - QSize(0, 32);
+    EXPECT_LE(screen.width(), room.width());
+    EXPECT_LE(screen.height(), room.height());
     Both(place);
     if (std::exchange(compared, screen.objectName()) != compared) CompareSheet(screen, compared);
   });
+}
+
+// What a walk through screens as they open does not meet.
+TEST_F(GalleryTest, WhatShowsOnlyInUse) {
+  Start();
+  NameTheDatabase();
+  SelectTab("sstabtables", frmTabulon::DepartmentsTab);
+  Find<Grid>("grd2Department")->OpenFinder(Grid::Seek::Filter);
+  QTest::keyClicks(Find<TextBox>("qt_grid_find"), "build");
+  Both("grid-filter");
+
+  Open("frmLibrarySearch");
+  Type("txtInstitution", "u");
+  Click("cmdSearch");
+  EXPECT_GT(Rows("grdViewSearchResults"), 1);
+  Both("frmLibrarySearch-results");
+}
+
+// The one window that opens before there is a database.
+TEST_F(GalleryTest, TheLogon) {
+  frmLogon logon;
+  logon.findChild<TextBox*>("txtUser")->SetText("admin");
+  logon.show();
+  Both("frmLogon", &logon);
+  CompareSheet(logon, "frmLogon");
 }
 
 }  // namespace

@@ -1,14 +1,19 @@
-// The guide against the program: every screen and every page of the main screen has its page, and what the pages refer
-// to is there.
+// The guide against the program: F1 opens a page on every screen, tab and sub-tab, the page shows the screen's picture,
+// and what the pages refer to is there.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
-#include <QTabWidget>
+#include <QTest>
+#include <QUrl>
+#include <algorithm>
 
+#include "core/Help.h"
 #include "core/Screens.h"
-#include "support/Desk.h"
+#include "support/Walk.h"
 
 namespace {
 
@@ -22,26 +27,101 @@ QString Page(const QString& name) {
   return QString::fromUtf8(file.readAll());
 }
 
-class GuideTest : public SampleDesk {};
-
-TEST_F(GuideTest, EveryScreenHasItsPage) {
-  Logon();
-  for (const QString& name : RegisteredScreens()) EXPECT_TRUE(Guide().exists(name + ".md")) << name.toStdString();
+// All texts in the sources, each run of them put together as the compiler does, blanks made one.
+QString WordsOfTheProgram() {
+  static const QRegularExpression seam("\"\\s*\"");
+  QDirIterator sources(QString(TABULON_SOURCE_DIR) + "/src", {"*.cpp", "*.h"}, QDir::Files,
+                       QDirIterator::Subdirectories);
+  QString words;
+  while (sources.hasNext()) {
+    QFile file(sources.next());
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    words += QString::fromUtf8(file.readAll()).remove(seam).replace("\\n", " ").remove('&').simplified();
+  }
+  return words;
 }
 
-TEST_F(GuideTest, EveryTabAndSubTabHasItsPage) {
-  Start();
-  auto* const tabs = Find<QTabWidget>("sstabtables");
-  for (int index = 0; index < frmTabulon::TabCount; ++index) {
-    SelectTab("sstabtables", index);
-    const QString name = "frmTabulon-" + tabs->tabText(index).toLower().replace(' ', '-').replace('/', '-');
-    QWidget* const page = Shell().Page(index);
-    auto* const inner = page ? page->findChild<QTabWidget*>() : nullptr;
-    QStringList pages;
-    for (int sub = 0; inner && sub < inner->count(); ++sub) pages.append(name + "-" + QString::number(sub));
-    if (!inner) pages.append(name);
-    for (const QString& one : pages) EXPECT_TRUE(Guide().exists(one + ".md")) << one.toStdString();
+class GuideTest : public Walk {
+ protected:
+  void SetUp() override {
+    Walk::SetUp();
+    qputenv("OSTANA_GUIDE", Guide().path().toLocal8Bit());
+    Help::SetOpener([this](const QUrl& url) {
+      opened_.append(url.fileName());
+      return true;
+    });
   }
+  void TearDown() override {
+    Help::SetOpener(nullptr);
+    qunsetenv("OSTANA_GUIDE");
+    Walk::TearDown();
+  }
+
+  // The page that F1 opens in the window. A page that is missing would be told, which fails the case.
+  QString F1(QWidget& window) {
+    opened_.clear();
+    QApplication::setActiveWindow(&window);
+    QTest::keyClick(&window, Qt::Key_F1);
+    EXPECT_EQ(opened_.size(), 1);
+    return opened_.value(0);
+  }
+
+  QStringList opened_;
+};
+
+TEST_F(GuideTest, F1OnEveryTabAndSubTabOpensItsPage) {
+  QStringList pages;
+  ThroughTabs([&](const QString& place, QWidget& window) {
+    // tab-05-delivery-messaging-2
+    const QString page = "frmTabulon-" + place.section('-', 2) + ".md";
+    EXPECT_EQ(F1(window), page);
+    EXPECT_TRUE(Page(page).contains("(pictures/" + place + ".png)")) << page.toStdString();
+    pages.append(page);
+  });
+  EXPECT_EQ(pages.removeDuplicates(), 0);
+  EXPECT_EQ(pages.size(), 20) << "tabs and sub-tabs of the main screen";
+}
+
+TEST_F(GuideTest, F1OnEveryDialogOpensItsPage) {
+  ThroughDialogs([&](const QString& place, QWidget& window) {
+    const QString page = window.objectName() + ".md";
+    EXPECT_EQ(F1(window), page);
+    EXPECT_TRUE(Page(page).contains("(pictures/" + place + ".png)"))
+        << page.toStdString() << " without " << place.toStdString();
+  });
+}
+
+// What every list can do is told once, and every page of a screen with a list leads there.
+TEST_F(GuideTest, PagesOfScreensWithAListTellWhatListsCanDo) {
+  EXPECT_TRUE(Page("frmTabulon.md").contains("\n## Lists\n"));
+  QStringList pages;
+  ThroughAll([&](const QString& place, QWidget& window) {
+    const QList<Grid*> grids = window.findChildren<Grid*>();
+    if (std::none_of(grids.begin(), grids.end(), [](const Grid* grid) { return grid->isVisible(); })) return;
+    const bool isTab = window.objectName() == "frmTabulon";
+    pages.append((isTab ? "frmTabulon-" + place.section('-', 2) : window.objectName()) + ".md");
+  });
+  pages.removeDuplicates();
+  EXPECT_GT(pages.size(), 20);
+  for (const QString& page : pages) EXPECT_TRUE(Page(page).contains("](frmTabulon.md#lists)")) << page.toStdString();
+}
+
+// Between quotation marks stands what the program says; *a word like this* stands for what differs.
+TEST_F(GuideTest, WhatItQuotesIsWhatTheProgramSays) {
+  static const QRegularExpression quoted("\"([^\"]+)\""), ends("(?<=[.?!]) |\\*[^*]*\\*|\\.\\.\\.");
+  const QString words = WordsOfTheProgram();
+  int sentences = 0;
+  for (const QString& name : Guide().entryList({"*.md"})) {
+    const QString text = Page(name).replace("\n> ", " ").simplified();
+    for (auto found = quoted.globalMatch(text); found.hasNext();) {
+      for (const QString& sentence : found.next().captured(1).split(ends)) {
+        if (sentence.trimmed().size() < 3) continue;
+        ++sentences;
+        EXPECT_TRUE(words.contains(sentence.trimmed())) << name.toStdString() << ": " << sentence.toStdString();
+      }
+    }
+  }
+  EXPECT_GT(sentences, 300);
 }
 
 TEST_F(GuideTest, LinksAndPicturesLeadToFiles) {

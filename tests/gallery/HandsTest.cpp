@@ -2,12 +2,14 @@
 #include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QAccessible>
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -66,7 +68,10 @@ TEST_F(HandsTest, EscapeClosesEveryDialogWithNothingToLose) {
 
 // --- Mnemonics ---
 
-TEST_F(HandsTest, MnemonicsDoNotClashOnOneScreen) {
+class MnemonicsTest : public HandsTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(MnemonicsTest, DoNotClashOnOneScreen) {
+  if (*GetParam()) UseWording(GetParam());
   qsizetype mnemonics = 0;
   ThroughAll([&](const QString& place, QWidget& window) {
     std::map<QString, QStringList> byKey;
@@ -88,6 +93,11 @@ TEST_F(HandsTest, MnemonicsDoNotClashOnOneScreen) {
   });
   EXPECT_GT(mnemonics, 200) << "most of the captions were not looked at";
 }
+
+INSTANTIATE_TEST_SUITE_P(Wordings, MnemonicsTest, testing::Values("", "LIBRARY.FRE.CFG"),
+                         [](const testing::TestParamInfo<const char*>& info) {
+                           return std::string(*info.param ? "French" : "Own");
+                         });
 
 // --- Tab order ---
 
@@ -139,6 +149,14 @@ QList<QWidget*> TabChain(QWidget& window) {
   return chain;
 }
 
+// Tab enters a group of options at the one that is set; the arrow keys reach the others.
+bool IsReachedByArrows(const QWidget* control, const QList<QWidget*>& chain) {
+  const auto* const option = qobject_cast<const QRadioButton*>(control);
+  if (option == nullptr || option->group() == nullptr || option->isChecked()) return false;
+  const QList<QAbstractButton*> group = option->group()->buttons();
+  return std::any_of(group.begin(), group.end(), [&](QAbstractButton* other) { return chain.contains(other); });
+}
+
 TEST_F(HandsTest, TabReachesEveryFieldInReadingOrder) {
   ThroughAll([](const QString& place, QWidget& window) {
     const QList<QWidget*> chain = TabChain(window);
@@ -152,7 +170,8 @@ TEST_F(HandsTest, TabReachesEveryFieldInReadingOrder) {
                            qobject_cast<const QAbstractButton*>(control) || qobject_cast<const Grid*>(control);
       const bool repeatsTheMenu = qobject_cast<const QToolButton*>(control) != nullptr;
       if (!isField || repeatsTheMenu || IsPartOfControl(control) || !control->isEnabled()) continue;
-      EXPECT_TRUE(chain.contains(control)) << place.toStdString() << ": Tab does not reach " << NameOf(control);
+      EXPECT_TRUE(chain.contains(control) || IsReachedByArrows(control, chain))
+          << place.toStdString() << ": Tab does not reach " << NameOf(control);
     }
   });
 }
@@ -187,6 +206,74 @@ TEST_F(HandsTest, ReadersOfTheScreenKnowEveryControl) {
           << place.toStdString() << ": role " << reader->role() << " of " << NameOf(control);
     }
   });
+}
+
+// What a person hears of a control: its name, what else is said of it, its kind, what it stands in. A list's own name
+// is its entry on some systems; the label that belongs to it is heard besides.
+QStringList Heard(QWidget* control) {
+  QAccessibleInterface* const reader = QAccessible::queryAccessibleInterface(control);
+  const bool isList = qobject_cast<QComboBox*>(control) != nullptr;
+  const QString name = isList ? control->accessibleName() : reader->text(QAccessible::Name);
+  QStringList heard = {name.trimmed(), reader->text(QAccessible::Description).trimmed(),
+                       QString::number(reader->role())};
+  for (const QWidget* at = control->parentWidget(); at != nullptr && !at->isWindow(); at = at->parentWidget())
+    if (const auto* const frame = qobject_cast<const QGroupBox*>(at)) heard.append(frame->title());
+  return heard;
+}
+
+TEST_F(HandsTest, NoTwoControlsOfAScreenSoundTheSame) {
+  ThroughAll([](const QString& place, QWidget& window) {
+    std::map<QStringList, const QWidget*> known;
+    for (QWidget* control : Seen<QWidget>(window)) {
+      const bool isTool =
+          qobject_cast<QToolButton*>(control) || qobject_cast<QTabBar*>(control) || qobject_cast<QTabWidget*>(control);
+      const bool isHeard = control->focusPolicy() != Qt::NoFocus && control->focusProxy() == nullptr;
+      if (!isHeard || IsPartOfControl(control) || control->isWindow() || isTool) continue;
+      EXPECT_FALSE(Heard(control)[0].isEmpty()) << place.toStdString() << ": no name for " << NameOf(control);
+      const auto [before, isNew] = known.emplace(Heard(control), control);
+      EXPECT_TRUE(isNew) << place.toStdString() << ": " << NameOf(control) << " and " << NameOf(before->second)
+                         << " are both " << before->first.join(", ").toStdString();
+    }
+  });
+}
+
+TEST_F(HandsTest, EveryListHasALabelThatBelongsToIt) {
+  int lists = 0;
+  ThroughAll([&](const QString& place, QWidget& window) {
+    for (QComboBox* list : Seen<QComboBox>(window)) {
+      if (IsPartOfControl(list)) continue;
+      ++lists;
+      const auto labels = QAccessible::queryAccessibleInterface(list)->relations(QAccessible::Label);
+      EXPECT_FALSE(labels.isEmpty()) << place.toStdString() << ": " << NameOf(list);
+    }
+  });
+  EXPECT_GT(lists, 40);
+}
+
+TEST_F(HandsTest, OptionsAreHeardWithWhatTheyAnswer) {
+  int options = 0;
+  ThroughAll([&](const QString& place, QWidget& window) {
+    for (QRadioButton* option : Seen<QRadioButton>(window)) {
+      ++options;
+      EXPECT_FALSE(Heard(option)[1].isEmpty()) << place.toStdString() << ": " << NameOf(option);
+    }
+  });
+  EXPECT_GT(options, 30);
+}
+
+TEST_F(HandsTest, RequiredFieldsAreBoldAndHeard) {
+  int required = 0;
+  ThroughAll([&](const QString& place, QWidget& window) {
+    for (QLabel* label : Seen<QLabel>(window)) {
+      QWidget* field = label->buddy();
+      if (field == nullptr) continue;
+      while (field->focusProxy() != nullptr) field = field->focusProxy();
+      const bool heard = Heard(field)[1] == "Required";
+      required += heard;
+      EXPECT_EQ(label->font().bold(), heard) << place.toStdString() << ": " << NameOf(field);
+    }
+  });
+  EXPECT_GT(required, 60);
 }
 
 }  // namespace

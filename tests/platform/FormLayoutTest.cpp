@@ -149,20 +149,6 @@ TEST_F(FormLayoutTest, MemoTakesTheHeightThatIsLeft) {
   EXPECT_EQ(code->height(), line);
 }
 
-TEST_F(FormLayoutTest, TabOrderGoesThroughTheRowsOfOptionsToo) {
-  Form::TabOrder({address, active->Row(), date, code, nullptr, find});
-  active->Select(0);
-  date->SetDate({2024, 5, 17});
-  Show(800, 500);
-  address->setFocus();
-  QStringList order;
-  for (int i = 0; i < 5; ++i) {
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    order.append(QApplication::focusWidget()->objectName());
-  }
-  EXPECT_EQ(order, (QStringList{"optActive(0)", "qt_datebox_check", "qt_datebox_date", "txtCode", "cmdFind"}));
-}
-
 TEST_F(FormLayoutTest, ButtonsAreNotDefaultByThemselves) {
   EXPECT_FALSE(find->autoDefault());
   EXPECT_EQ(find->objectName(), "cmdFind");

@@ -219,6 +219,24 @@ TEST_F(GridFinderTest, ANarrowGridKeepsTheText) {
   EXPECT_TRUE(grid->horizontalHeader()->rect().contains(Text()->geometry()));
 }
 
+TEST_F(GridFinderTest, TheCountStandsBesideTheText) {
+  for (const int width : {700, 300}) {
+    window.resize(width, 300);
+    Open();
+    Text()->clear();
+    QTest::keyClicks(Text(), "oak");
+    QApplication::sendPostedEvents();  // the layout follows the text of the count
+    const auto* const count = Part<QLabel>("qt_grid_count");
+    ASSERT_TRUE(count->isVisible()) << width;
+    EXPECT_EQ(count->text(), "2 of 6 rows");
+    EXPECT_GE(count->width(), count->sizeHint().width()) << width;
+    const int gap = count->geometry().left() - Text()->geometry().right();
+    EXPECT_TRUE(gap > 0 && gap < 10) << width << ": " << gap << " pixels from the text";
+    // The sign of the filter stays too.
+    EXPECT_TRUE(Part<QCheckBox>("qt_grid_only")->isVisible()) << width;
+  }
+}
+
 TEST_F(GridFinderTest, TheMenuOpensBothAndMnemonicsDiffer) {
   QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(5, 5), grid->mapToGlobal(QPoint(5, 5)));
   QApplication::sendEvent(grid->viewport(), &event);

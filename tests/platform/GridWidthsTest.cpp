@@ -57,6 +57,30 @@ TEST_F(GridWidthsTest, ADrawnWidthComesBack) {
   EXPECT_NE(other.grid->columnWidth(1), drawn);
 }
 
+TEST_F(GridWidthsTest, ColumnsWhoseTextsAreCutGetOfTheRoomThatIsLeft) {
+  Form form;
+  const int usual = form.grid->columnWidth(2);
+  const QString long_ = "A name that needs more room than its column has";
+  form.grid->AddRow({"A", long_, "x"});
+  const int wide = form.grid->columnWidth(2);
+  EXPECT_GE(wide, form.grid->fontMetrics().horizontalAdvance(long_));
+  EXPECT_EQ(form.grid->columnWidth(1), usual) << "nothing is cut there";
+  form.grid->SetText(1, 2, "short");
+  form.grid->AddRow({"B", "short", "x"}, 1);
+  EXPECT_EQ(form.grid->columnWidth(2), wide) << "columns do not jump while somebody works";
+  // What a person draws is as wide as it was drawn, and the others stay.
+  form.Drag(2, -80);
+  EXPECT_EQ(form.grid->columnWidth(2), wide - 80);
+  form.grid->AddRow({"C", long_ + long_, "x"});
+  EXPECT_EQ(form.grid->columnWidth(2), wide - 80);
+  // The next load counts anew, and a window without room gives none.
+  Form other("frmOther");
+  other.window.resize(350, 300);
+  QApplication::processEvents();
+  other.grid->AddRow({"A", long_, "x"});
+  EXPECT_EQ(other.grid->columnWidth(2), usual);
+}
+
 TEST_F(GridWidthsTest, WidthsThatNobodyDrewAreNotKept) {
   {
     Form form;

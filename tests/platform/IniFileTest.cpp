@@ -259,6 +259,59 @@ TEST_F(IniFileTest, WhatWouldBreakTheFileIsRefused) {
   }
 }
 
+// --- What came out of fuzzing ---
+
+TEST_F(IniFileTest, HalfALetterOfUtf16IsNoText) {
+  for (const bool bigEndian : {false, true}) {
+    const QByteArray before = Utf16("[A]\nKey=1\n", bigEndian) + 'x';
+    QString reason;
+    EXPECT_FALSE(IniFile::WriteValue(Store(before), "A", "Key", "2", &reason));
+    EXPECT_EQ(reason, "The file '" + Path() + "' is not a text file.");
+    EXPECT_EQ(Bytes(), before);
+  }
+}
+
+TEST_F(IniFileTest, ASecondMarkBelongsToTheText) {
+  const QByteArray mark = "\xEF\xBB\xBF";
+  EXPECT_EQ(AfterWrite(mark + mark + "\n[A]\nKey=1\n", "2"), mark + mark + "\n[A]\nKey=2\n");
+  const QString text = QChar(QChar::ByteOrderMark) + QString("\n[A]\nKey=%1\n");
+  EXPECT_EQ(AfterWrite(Utf16(text.arg(1), true), "2"), Utf16(text.arg(2), true));
+}
+
+TEST_F(IniFileTest, HalfACharacterIsRefused) {
+  const QByteArray before = "[A]\nKey=1\n";
+  QString reason;
+  EXPECT_FALSE(IniFile::WriteValue(Store(before), "A", "Key", QString("x") + QChar(0xD83D), &reason));
+  EXPECT_FALSE(reason.isEmpty());
+  EXPECT_EQ(Bytes(), before);
+}
+
+TEST_F(IniFileTest, ACutLeavesNoHalfCharacter) {
+  const QString path = Store("[A]\nKey=" + QByteArray(499, 'x') + QString::fromUtf8("😀").toUtf8() + "y\n");
+  EXPECT_EQ(IniFile::ReadValue(path, "A", "Key"), QString(499, 'x'));
+  EXPECT_EQ(IniFile::ReadValue(path, "A", "Key", 501), QString(499, 'x') + QString::fromUtf8("😀"));
+}
+
+// The one byte that was no UTF-8 goes with the old value; the others must not turn into another letter.
+TEST_F(IniFileTest, LettersStayThemselvesWhenTheEncodingCanNoLongerBeTold) {
+  AfterWrite("[A]\nKey=\xE4\nOther=\xC3\xA9\n", "plain");
+  EXPECT_EQ(IniFile::ReadValue(Path(), "A", "Other"), QString::fromLatin1("\xC3\xA9"));
+  EXPECT_EQ(IniFile::ReadValue(Path(), "A", "Key"), "plain");
+}
+
+TEST_F(IniFileTest, AnEmptyValueBehindBlanksIsEmpty) {
+  EXPECT_EQ(AfterWrite("[A]\nKey =  old\n", ""), "[A]\nKey =  \"\"\n");
+  EXPECT_TRUE(IniFile::ReadValue(Path(), "A", "Key").isEmpty());
+  EXPECT_EQ(AfterWrite("[A]\nKey=old\n", ""), "[A]\nKey=\n");
+}
+
+TEST_F(IniFileTest, NamesAreListedByTheLettersThatTheyAreFoundBy) {
+  const QString path = Store(QString::fromUtf8("[A]\nStraße=1\nSTRASSE=2\nstrasse=3\n").toUtf8());
+  EXPECT_EQ(IniFile::ReadValue(path, "A", QString::fromUtf8("straße")), "1");
+  EXPECT_EQ(IniFile::ReadValue(path, "A", "Strasse"), "2");
+  EXPECT_EQ(IniFile::Keys(path, "A"), (QStringList{QString::fromUtf8("Straße"), "STRASSE"}));
+}
+
 TEST_F(IniFileTest, WritingKeepsPermissions) {
   Store("[A]\nKey=1\n");
   const auto permissions = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;

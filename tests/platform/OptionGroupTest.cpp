@@ -5,6 +5,7 @@
 #include <QSignalSpy>
 
 #include "platform/Window.h"
+#include "platform/controls/OptionLabel.h"
 
 namespace {
 
@@ -82,6 +83,42 @@ TEST_F(OptionGroupTest, SpaceAndArrowsChoose) {
   QTest::keyClick(pair->Button(0), Qt::Key_Right);
   EXPECT_TRUE(pair->IsSet(1));
   EXPECT_EQ(click.count(), 2);
+}
+
+TEST_F(OptionGroupTest, TabEntersAtTheElementThatIsSet) {
+  other->Select(1);
+  pair->Button(0)->setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), other->Button(1));
+  // An element that had the focus once is not entered again after another one was set by code.
+  other->Select(0);
+  pair->Select(1);
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+  EXPECT_EQ(QApplication::focusWidget(), pair->Button(1));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), other->Button(0));
+}
+
+TEST_F(OptionGroupTest, TabEntersAGroupWithNothingSetAtItsFirstElement) {
+  other->Select(1);
+  other->Unset();
+  pair->Button(0)->setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(QApplication::focusWidget(), other->Button(0));
+}
+
+TEST_F(OptionGroupTest, CaptionsOfTheirOwnStandBesideTheirButtons) {
+  auto* const third = new OptionGroup(&window, {{"optIllYes", ""}, {"optIllNo", ""}});
+  auto* const yes = new OptionLabel(&window, "lblIllYes", "Yes", third->Button(0));
+  auto* const no = new OptionLabel(&window, "lblIllNo", "No", third->Button(1));
+  window.Add(third->RowWith({yes, no}));
+  QApplication::processEvents();
+  QTest::mouseClick(no, Qt::LeftButton);
+  EXPECT_TRUE(third->IsSet(1));
+  EXPECT_EQ(third->Button(1)->accessibleName(), "No");
+  const int gap = no->mapTo(&window, QPoint()).x() - third->Button(1)->geometry().right();
+  const int between = third->Button(1)->x() - yes->geometry().right();
+  EXPECT_LT(gap, between) << "a caption stands nearer to its own button";
 }
 
 TEST_F(OptionGroupTest, EnabledAndVisibleTogether) {

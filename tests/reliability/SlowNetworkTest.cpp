@@ -2,11 +2,14 @@
 // has to send. No case asserts a duration; the seconds that stand in docs/engines.md are recorded as properties
 // (--gtest_output=xml:FILE writes them out).
 #include <QElapsedTimer>
+#include <set>
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "platform/ado/Recordset.h"
 #include "reliability/FarDesk.h"
+#include "reliability/SentStatements.h"
+#include "reliability/WritingScreens.h"
 
 namespace {
 
@@ -88,6 +91,36 @@ TEST_F(SlowNetworkTest, TheProgramStartsLoadsATabAndStoresARecord) {
   EXPECT_EQ(Count("ID_PRINTER", "PRINTER = 'Far away'"), 1);
   EXPECT_EQ(Count("ID_PRINTER", "PRINTER = '" + printer + "'"), 0);
 }
+
+// The actions that send most, and a few of the usual ones.
+class FarActionTest : public SlowNetworkTest, public testing::WithParamInterface<ScreenAction> {
+ public:
+  static std::vector<ScreenAction> Some() {
+    static const std::set<std::string> names{
+        "CodeTables_Update",     "Departments_Add",         "LoanPolicies_Add",
+        "ExceptionNotes_Update", "ISOServiceLevels_Update", "LibraryRegistration_Add",
+        "LibraryContact_Update", "NCIPStatusCodes_Update",  "AliasRates_Add"};
+    std::vector<ScreenAction> some;
+    for (const ScreenAction& action : ScreenActions())
+      if (names.contains(action.Name())) some.push_back(action);
+    return some;
+  }
+};
+
+TEST_P(FarActionTest, Works) {
+  const auto& [screen, action] = GetParam();
+  action.prepare(*this, 1);
+  Said().Forget();
+  const TableContents before = ContentsOf(Database().OtherClient(), screen->table);
+  const Sent* const sent = FindSent(screen->name, action.name);
+  ASSERT_TRUE(sent);
+  EXPECT_EQ(Far("action", [&] { action.press(*this); }), sent->count + 2 * sent->transactions + sent->catalogue);
+  EXPECT_FALSE(Said().Refusal()) << Said().Transcript().toStdString();
+  EXPECT_FALSE(before == ContentsOf(Database().OtherClient(), screen->table));
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, FarActionTest, testing::ValuesIn(FarActionTest::Some()),
+                         [](const auto& action) { return action.param.Name(); });
 
 TEST_F(SlowNetworkTest, ALineThatIsCutIsALostConnection) {
   Connection connection(Proxy().Settings());

@@ -361,11 +361,11 @@ QString Desk::Focus() const {
   return focus ? focus->objectName() : QString();
 }
 
-void Desk::Picture(const QString& name) const {
-  const QDir gallery(QString(TABULON_BINARY_DIR) + "/gallery");
-  gallery.mkpath(".");
+void Desk::Picture(const QString& name, QWidget* window) const {
+  const QFileInfo picture(QString(TABULON_BINARY_DIR) + "/gallery/" + name + ".png");
+  picture.dir().mkpath(".");
   QApplication::processEvents();
-  EXPECT_TRUE(Window()->grab().save(gallery.filePath(name + ".png")));
+  EXPECT_TRUE((window ? window : Window())->grab().save(picture.filePath()));
 }
 
 // --- Watching ---

@@ -76,8 +76,8 @@ class Desk : public testing::Test {
   bool IsShown(const QString& name) const;
   QString Focus() const;                                    // object name of the control that has the focus
 
-  // Leaves a picture of the window in front in the folder "gallery" of the build.
-  void Picture(const QString& name) const;
+  // Leaves a picture of the window, or of the one in front, in the folder "gallery" of the build.
+  void Picture(const QString& name, QWidget* window = nullptr) const;
 
   // --- Watching ---
   Script& Prompt() { return *script_; }

@@ -19,12 +19,16 @@ void WithoutSizeHints(QtMsgType, const QMessageLogContext&, const QString& text)
   if (!text.contains("propagateSizeHints")) std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-// The offscreen platform's own screen is smaller than the smallest one that the program is made for.
+// The offscreen platform's own screen is smaller than the smallest one that the program is made for: 1280 x 800 below a
+// title bar, or what TABULON_TEST_SCREEN says ("2560x1440", pixels of the device).
 void PutUpScreen(const QString& folder) {
   QFile file(QDir(folder).filePath("screen.json"));
   if (!file.open(QIODevice::WriteOnly)) return;
-  file.write(R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": 1280, "height": 832,
-                 "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})");
+  const QStringList size = qEnvironmentVariable("TABULON_TEST_SCREEN", "1280x832").split('x');
+  file.write(QString(R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": %1, "height": %2,
+                     "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
+                 .arg(size.first(), size.last())
+                 .toUtf8());
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
 }
 

@@ -13,4 +13,6 @@ class Walk : public SampleDesk {
   void ThroughTabs(const Look& look);
   void ThroughDialogs(const Look& look);
   void ThroughAll(const Look& look);
+  // From here on screens read the wording of this file of database/site.
+  void UseWording(const QString& file);
 };

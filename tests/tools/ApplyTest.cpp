@@ -1,5 +1,6 @@
 #include "support/Texts.h"
 #include "tools/CarryDesk.h"
+#include "tools/SchemaModel.h"
 
 namespace {
 
@@ -90,6 +91,22 @@ TEST_F(ApplyTest, RowsThatTheFileHasNotStayUnlessAskedFor) {
   EXPECT_EQ(Count("ID_PRINTER", "PRINTER = 'ours'"), 1);
   EXPECT_TRUE(Done({"apply", "file.txt", "--delete"}).contains("  - PRINTER \"ours\""));
   EXPECT_EQ(Count("ID_PRINTER", "PRINTER = 'ours'"), 0);
+}
+
+TEST_F(ApplyTest, TablesThatTheFileDoesNotNameStayAsTheyAre) {
+  QStringList others;
+  for (const SchemaTable& table : SchemaModel::Get().tables) others += table.name;
+  for (const char* named : {"ID_CURRENCY_CODE", "ID_PRINTER"}) EXPECT_EQ(others.removeAll(named), 1);
+  const QStringList look{"export", "-", "--tables", others.join(','), "--with-secrets", "--site", "Test"};
+  const QString before = Done(look);
+  EXPECT_GT(before.count("\n  row\n"), 500) << "a site with rows";
+  Write("file.txt",
+        "Tabulon settings, format 1\ntable ID_CURRENCY_CODE\n  column CURRENCY_CODE\n  column CURRENCY_CODE_DESC\n"
+        "  row\n    CURRENCY_CODE \"XTS\"\n    CURRENCY_CODE_DESC \"For tests\"\n"
+        "table ID_PRINTER\n  column PRINTER\n  row\n    PRINTER \"new\"\nend\n");
+  Done({"apply", "file.txt", "--delete", "--site", "Test"});
+  EXPECT_EQ(Done(look), before);
+  Done({"compare", "file.txt", "--site", "Test"});
 }
 
 TEST_F(ApplyTest, ADryRunChangesNothing) {

@@ -33,6 +33,17 @@ TEST_F(CreateTest, ADatabaseWithTablesOfTheSystemIsLeftAsItIs) {
   EXPECT_EQ(Ask("SELECT PRINTER FROM ID_PRINTER"), "ours");
 }
 
+TEST_F(CreateTest, ADatabaseThatWasNotMadeToItsEndIsToldToBeSo) {
+  UseFreshDatabase();
+  ASSERT_EQ(Run({"create"}).exitCode, 0);
+  EXPECT_FALSE(Run({"create"}).err.contains("It is not whole"));
+  Execute("DROP TABLE ID_PRINTER");
+  const Result refused = Run({"create"});
+  EXPECT_EQ(refused.exitCode, 1);
+  EXPECT_TRUE(refused.err.contains("Nothing was changed.\nIt is not whole: tabulon-db check names what is missing."))
+      << refused.err.toStdString();
+}
+
 TEST_F(CreateTest, TheSampleSitePassesTheCheckInThreeLanguages) {
   UseFreshDatabase();
   const Result created = Run({"create", "--sample"});

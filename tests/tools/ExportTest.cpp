@@ -86,6 +86,30 @@ TEST_F(ExportTest, SecretsAreLeftOutUnlessAskedFor) {
 #endif
 }
 
+TEST_F(ExportTest, ASecretIsAskedForByItsName) {
+  for (const char* column : {"VORN_PASSWORD", "BL_PASSWORD", "CREDIT_CARD_NUM"})
+    Execute(QString("UPDATE ID_LIBRARY SET %1 = 'of %1'").arg(column));
+  const Result told =
+      Run({"export", "file.txt", "--tables", "ID_LIBRARY", "--secrets", "bl_password, CREDIT_CARD_NUM"});
+  EXPECT_TRUE(told.err.contains("holds passwords"));
+  EXPECT_TRUE(Text("file.txt").contains("    BL_PASSWORD \"of BL_PASSWORD\"\n"));
+  EXPECT_TRUE(Text("file.txt").contains("    CREDIT_CARD_NUM \"of CREDIT_CARD_NUM\"\n"));
+  EXPECT_FALSE(Text("file.txt").contains("VORN_PASSWORD"));
+  const Result refused = Run({"export", "other.txt", "--tables", "ID_LIBRARY", "--secrets", "VORN_SYMBOL"});
+  EXPECT_EQ(refused.exitCode, 2);
+  EXPECT_TRUE(refused.err.contains("\"VORN_SYMBOL\"")) << refused.err.toStdString();
+  EXPECT_FALSE(QFile::exists(Path("other.txt")));
+}
+
+// A server of a partner takes it for a password.
+TEST_F(ExportTest, TheAuthenticationOfAnAgencyIsASecretToo) {
+  Execute("UPDATE ID_NCIP_CONNECT SET NCIP_FROM_AGENCY_AUTH = 'x9z'");
+  Done({"export", "open.txt", "--tables", "ID_NCIP_CONNECT"});
+  EXPECT_FALSE(Text("open.txt").contains("NCIP_FROM_AGENCY_AUTH"));
+  Done({"export", "named.txt", "--tables", "ID_NCIP_CONNECT", "--secrets", "NCIP_FROM_AGENCY_AUTH"});
+  EXPECT_TRUE(Text("named.txt").contains("NCIP_FROM_AGENCY_AUTH"));
+}
+
 TEST_F(ExportTest, TheTerminalGetsTheFileAndNothingElse) {
   Done({"export", "printers.txt", "--tables", "ID_PRINTER", "--site", "Test"});
   EXPECT_EQ(Done({"export", "-", "--tables", "ID_PRINTER", "--site", "Test"}), Text("printers.txt"));

@@ -75,7 +75,11 @@ qint64 Connection::Private::RunOne(const QString& statement, const QString& sour
 
 // --- Connection ---
 
-Connection::Connection(ConnectionSettings settings) : d_(std::make_unique<Private>(std::move(settings))) {}
+Connection::Connection(ConnectionSettings settings)
+    : d_(std::make_unique<Private>(settings, Dialect::For(settings.engine))) {}
+
+Connection::Connection(ConnectionSettings settings, const Dialect& dialect)
+    : d_(std::make_unique<Private>(std::move(settings), dialect)) {}
 
 Connection::~Connection() {
   Close();

@@ -30,6 +30,8 @@ class Connection {
   enum StateValue { Closed = 0, Opened = 1 };
 
   explicit Connection(ConnectionSettings settings);
+  // With another dialect than its engine's own: the same driver before another server. The dialect outlives it.
+  Connection(ConnectionSettings settings, const Dialect& dialect);
   ~Connection();
   Connection(const Connection&) = delete;
   Connection& operator=(const Connection&) = delete;

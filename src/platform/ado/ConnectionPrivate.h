@@ -10,7 +10,7 @@
 struct Connection::Private {
   enum class Unit { None, Open, Broken, Lost };  // a transaction: none, fine, with a failed statement, its server gone
 
-  explicit Private(ConnectionSettings settings) : session(std::move(settings)) {}
+  Private(ConnectionSettings settings, const Dialect& dialect) : session(std::move(settings), dialect) {}
 
   Session session;
   Unit unit = Unit::None;

@@ -75,12 +75,7 @@ QString MariaDbDialect::SessionCheck() const {
 }
 
 QString MariaDbDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
-  StatementWords::Tokens tokens = Tokenize(statement);
-  StatementWords::PlainLiterals(tokens);
-  StatementWords::PlainNames(tokens);
-  StatementWords::DropOwner(tokens, settings.ownerPrefix);
-  StatementWords::LimitForTop(tokens);
-  StatementWords::FullVerbs(tokens);
+  StatementWords::Tokens tokens = StatementWords::InCommonSql(statement, settings.ownerPrefix);
   StatementWords::UpperTableNames(tokens);
   // The tables compare letter by letter; a pattern does not. The collation stands at the pattern, where it fits columns
   // of every character set. This engine knows no pattern without an escape: one that nobody types takes its place.

@@ -68,12 +68,7 @@ QString PostgreSqlDialect::SessionCheck() const {
 }
 
 QString PostgreSqlDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
-  StatementWords::Tokens tokens = Tokenize(statement);
-  StatementWords::PlainLiterals(tokens);
-  StatementWords::PlainNames(tokens);
-  StatementWords::DropOwner(tokens, settings.ownerPrefix);
-  StatementWords::LimitForTop(tokens);
-  StatementWords::FullVerbs(tokens);
+  StatementWords::Tokens tokens = StatementWords::InCommonSql(statement, settings.ownerPrefix);
   StatementWords::Patterns(tokens, QStringLiteral("ILIKE"), {}, {});
   return Join(tokens);
 }

@@ -15,8 +15,8 @@ QString NextHandle() {
 
 }  // namespace
 
-Session::Session(ConnectionSettings settings)
-    : settings_(std::move(settings)), dialect_(Dialect::For(settings_.engine)), handle_(NextHandle()) {}
+Session::Session(ConnectionSettings settings, const Dialect& dialect)
+    : settings_(std::move(settings)), dialect_(dialect), handle_(NextHandle()) {}
 
 Session::~Session() {
   Close();

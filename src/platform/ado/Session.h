@@ -11,7 +11,7 @@
 // session itself. A session that an error shows dead is closed at once.
 class Session {
  public:
-  explicit Session(ConnectionSettings settings);
+  Session(ConnectionSettings settings, const Dialect& dialect);
   ~Session();
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;

@@ -5,6 +5,17 @@
 
 #include "platform/ado/StatementWords.h"
 
+namespace {
+
+// A value of a connection string, into which Qt's driver puts user and password as they stand.
+QString Enclosed(const QString& value) {
+  if (value == value.trimmed() && !value.contains(u';') && !value.startsWith(u'{')) return value;
+  QString text = value;
+  return u'{' + text.replace(QLatin1Char('}'), QLatin1String("}}")) + u'}';
+}
+
+}  // namespace
+
 bool SqlServerDialect::Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const {
   if (settings.name.isEmpty()) {
     *reason = QStringLiteral("No database is named. Set Name in the database section of the settings file.");
@@ -14,11 +25,11 @@ bool SqlServerDialect::Prepare(QSqlDatabase& database, const ConnectionSettings&
   if (!settings.host.isEmpty()) {
     const QString port = settings.port == 0 ? QString() : u',' + QString::number(settings.port);
     source = QStringLiteral("DRIVER={ODBC Driver 18 for SQL Server};SERVER=%1%2;DATABASE=%3")
-                 .arg(settings.host, port, settings.name);
+                 .arg(settings.host, port, Enclosed(settings.name));
   }
   database.setDatabaseName(source);
-  database.setUserName(settings.user);
-  database.setPassword(settings.password);
+  database.setUserName(Enclosed(settings.user));
+  database.setPassword(Enclosed(settings.password));
   QString options = QStringLiteral("SQL_ATTR_LOGIN_TIMEOUT=10;SQL_ATTR_CONNECTION_TIMEOUT=300");
   if (!settings.options.isEmpty()) options += u';' + settings.options;
   database.setConnectOptions(options);
@@ -111,6 +122,7 @@ Dialect::Failure SqlServerDialect::Classify(const QSqlError& error) const {
       case 8115:
       case 8152:
         return Failure::Refused;
+      case -2:  // the time for a statement has run out
       case 1205:
       case 1222:
         return Failure::Busy;
@@ -125,11 +137,10 @@ Dialect::Failure SqlServerDialect::Classify(const QSqlError& error) const {
         break;
     }
   }
-  // Newer drivers write the SQLSTATE into the text: class 08 is the connection.
-  if (error.databaseText().contains(QLatin1String("08S01")) ||
-      error.databaseText().contains(QLatin1String("Communication link failure"))) {
-    return Failure::Lost;
-  }
+  // Newer drivers write the SQLSTATE into the text: class 08 is the connection, HYT00 the time of a statement.
+  const auto says = [&](const char* words) { return error.databaseText().contains(QLatin1String(words)); };
+  if (says("08S01") || says("Communication link failure")) return Failure::Lost;
+  if (says("HYT00") || says("Query timeout expired")) return Failure::Busy;
   return Failure::Other;
 }
 

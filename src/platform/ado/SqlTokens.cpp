@@ -132,8 +132,10 @@ QString WhyRefused(const QString& sql, int allowed) {
     if (token.kind == SqlToken::Comment) return QStringLiteral("The statement holds a comment.");
     if (token.kind == SqlToken::Unclosed) return QStringLiteral("The statement holds a literal that is not closed.");
     // Some engines read text behind these with other rules than this tokenizer: it would end at another place.
-    if (token.kind == SqlToken::Symbol && (token.text == QLatin1String("`") || token.text == QLatin1String("$"))) {
-      return QStringLiteral("The statement holds the character %1 outside of a literal.").arg(token.text);
+    for (const QChar sign : {u'`', u'$'}) {
+      const bool ends = token.kind == SqlToken::Symbol || token.kind == SqlToken::Number;
+      if (!ends || !token.text.contains(sign)) continue;
+      return QStringLiteral("The statement holds the character %1 outside of a literal.").arg(sign);
     }
     if (token.kind == SqlToken::Literal && i > 0 &&
         tokens[i - 1].text.compare(QLatin1String("E"), Qt::CaseInsensitive) == 0) {

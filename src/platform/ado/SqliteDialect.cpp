@@ -81,13 +81,7 @@ QString SqliteDialect::SessionCheck() const {
 }
 
 QString SqliteDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
-  StatementWords::Tokens tokens = Tokenize(statement);
-  StatementWords::PlainLiterals(tokens);
-  StatementWords::PlainNames(tokens);
-  StatementWords::DropOwner(tokens, settings.ownerPrefix);
-  StatementWords::LimitForTop(tokens);
-  StatementWords::FullVerbs(tokens);
-  return Join(tokens);
+  return Join(StatementWords::InCommonSql(statement, settings.ownerPrefix));
 }
 
 Dialect::Failure SqliteDialect::Classify(const QSqlError& error) const {

@@ -15,9 +15,13 @@ bool IsSymbol(const SqlToken& token, char sign) {
 
 // A list of what begins a new clause or ends an operand.
 bool EndsOperand(const SqlToken& token) {
-  static constexpr std::array words{"AND",  "OR",   "ORDER", "GROUP", "HAVING", "LIMIT",  "UNION",
-                                    "THEN", "WHEN", "ELSE",  "END",   "ESCAPE", "COLLATE"};
+  static constexpr std::array words{"AND",  "OR",   "ORDER", "GROUP",  "HAVING",  "LIMIT", "UNION", "THEN",
+                                    "WHEN", "ELSE", "END",   "ESCAPE", "COLLATE", "LIKE",  "ILIKE"};
   return std::any_of(words.begin(), words.end(), [&](const char* word) { return Is(token, word); });
+}
+
+bool IsName(const SqlToken& token) {
+  return token.kind == SqlToken::QuotedName || (token.kind == SqlToken::Word && !EndsOperand(token));
 }
 
 void InsertAt(Tokens& tokens, size_t index, std::initializer_list<SqlToken> added) {
@@ -29,17 +33,34 @@ void Erase(Tokens& tokens, size_t from, size_t end) {
                tokens.begin() + static_cast<Tokens::difference_type>(end));
 }
 
-// Gives the place behind the words.
+// Kept apart from what stands before and behind. Gives the place behind the words.
 size_t InsertWords(Tokens& tokens, size_t index, const QString& words) {
-  const Tokens added = Tokenize(words);
+  Tokens added = Tokenize(words);
+  const size_t end = index + added.size();
+  const auto apart = [](const SqlToken& token) {
+    return token.kind == SqlToken::Blank || token.kind == SqlToken::Symbol || token.kind == SqlToken::Semicolon;
+  };
+  const bool behind = index < tokens.size() && !apart(tokens[index]);
+  const bool before = index > 0 && tokens[index - 1].kind != SqlToken::Blank;
+  if (behind) added.push_back(Space);
+  if (before) added.insert(added.begin(), Space);
   tokens.insert(tokens.begin() + static_cast<Tokens::difference_type>(index), added.begin(), added.end());
-  return index + added.size();
+  return end + (before ? 1 : 0);
 }
 
 // A plain word needs no quotes anywhere.
 bool IsPlainName(const QString& name) {
   const Tokens tokens = Tokenize(name);
   return tokens.size() == 1 && tokens.front().kind == SqlToken::Word;
+}
+
+// [NAME] without its brackets.
+SqlToken PlainName(const SqlToken& bracketed) {
+  QString name = bracketed.text.mid(1, bracketed.text.size() - 2);
+  name.replace(QLatin1String("]]"), QLatin1String("]"));
+  if (IsPlainName(name)) return {SqlToken::Word, name};
+  name.replace(QLatin1Char('"'), QLatin1String("\"\""));
+  return {SqlToken::QuotedName, u'"' + name + u'"'};
 }
 
 // Index just behind the last token of the operand that begins at `index`.
@@ -68,6 +89,21 @@ size_t EndOfLevel(const Tokens& tokens, size_t index) {
   return tokens.size();
 }
 
+// TOP n of the SELECT at the index, to the end of its level as LIMIT n. False when it has none.
+bool MoveTop(Tokens& tokens, size_t select) {
+  size_t top = NextOf(tokens, select);
+  if (top < tokens.size() && (Is(tokens[top], "DISTINCT") || Is(tokens[top], "ALL"))) top = NextOf(tokens, top);
+  if (top >= tokens.size() || !Is(tokens[top], "TOP")) return false;
+  const size_t count = NextOf(tokens, top);
+  if (count >= tokens.size() || tokens[count].kind != SqlToken::Number) return false;
+  const QString number = tokens[count].text;
+  Erase(tokens, top, NextOf(tokens, count));
+  size_t end = EndOfLevel(tokens, top);
+  while (end > top && tokens[end - 1].kind == SqlToken::Blank) --end;
+  InsertWords(tokens, end, QLatin1String("LIMIT ") + number);
+  return true;
+}
+
 }  // namespace
 
 bool Is(const SqlToken& token, const char* word) {
@@ -84,6 +120,16 @@ size_t FirstOf(const Tokens& tokens) {
   return tokens.empty() || tokens.front().kind != SqlToken::Blank ? 0 : NextOf(tokens, 0);
 }
 
+Tokens InCommonSql(const QString& statement, const QString& ownerPrefix) {
+  Tokens tokens = Tokenize(statement);
+  PlainLiterals(tokens);
+  PlainNames(tokens);
+  DropOwner(tokens, ownerPrefix);
+  LimitForTop(tokens);
+  FullVerbs(tokens);
+  return tokens;
+}
+
 void PlainLiterals(Tokens& tokens) {
   for (size_t i = 0; i < tokens.size(); ++i) {
     if (tokens[i].kind != SqlToken::NationalLiteral) continue;
@@ -94,21 +140,18 @@ void PlainLiterals(Tokens& tokens) {
 }
 
 void PlainNames(Tokens& tokens) {
+  const auto isWord = [](const SqlToken& token) {
+    return token.kind == SqlToken::Word || token.kind == SqlToken::Number;
+  };
   for (size_t i = 0; i < tokens.size(); ++i) {
     if (tokens[i].kind != SqlToken::QuotedName || !tokens[i].text.startsWith(u'[')) continue;
-    QString name = tokens[i].text.mid(1, tokens[i].text.size() - 2);
-    name.replace(QLatin1String("]]"), QLatin1String("]"));
-    if (!IsPlainName(name)) {
-      name.replace(QLatin1Char('"'), QLatin1String("\"\""));
-      tokens[i].text = u'"' + name + u'"';
-      continue;
-    }
-    tokens[i] = {SqlToken::Word, name};
-    const auto runsTogether = [](const SqlToken& neighbour) {
-      return neighbour.kind == SqlToken::Word || neighbour.kind == SqlToken::Number;
+    tokens[i] = PlainName(tokens[i]);
+    const bool plain = tokens[i].kind == SqlToken::Word;
+    const auto runsTogether = [&](const SqlToken& neighbour) {
+      return plain ? isWord(neighbour) : neighbour.kind == SqlToken::QuotedName;
     };
     // A name N before a literal would turn it into N'...'.
-    if (i + 1 < tokens.size() && (runsTogether(tokens[i + 1]) || tokens[i + 1].kind == SqlToken::Literal)) {
+    if (i + 1 < tokens.size() && (runsTogether(tokens[i + 1]) || (plain && tokens[i + 1].kind == SqlToken::Literal))) {
       InsertAt(tokens, i + 1, {Space});
     }
     if (i > 0 && runsTogether(tokens[i - 1])) InsertAt(tokens, i++, {Space});
@@ -121,29 +164,23 @@ void DropOwner(Tokens& tokens, const QString& ownerPrefix) {
   const auto same = [](const SqlToken& left, const SqlToken& right) {
     return left.kind == right.kind && left.text.compare(right.text, Qt::CaseInsensitive) == 0;
   };
-  for (size_t i = 0; i + owner.size() < tokens.size(); ++i) {
+  const auto standsAt = [&](size_t i) {
+    if (i + owner.size() >= tokens.size()) return false;
     const bool qualified = i > 0 && IsSymbol(tokens[i - 1], '.');
     const SqlToken& name = tokens[i + owner.size()];
-    if (qualified || (name.kind != SqlToken::Word && name.kind != SqlToken::QuotedName)) continue;
-    if (std::equal(owner.begin(), owner.end(), tokens.begin() + static_cast<Tokens::difference_type>(i), same)) {
-      Erase(tokens, i, i + owner.size());
-    }
+    if (qualified || (name.kind != SqlToken::Word && name.kind != SqlToken::QuotedName)) return false;
+    return std::equal(owner.begin(), owner.end(), tokens.begin() + static_cast<Tokens::difference_type>(i), same);
+  };
+  for (size_t i = 0; i < tokens.size(); ++i) {
+    while (standsAt(i)) Erase(tokens, i, i + owner.size());
   }
 }
 
 void LimitForTop(Tokens& tokens) {
   for (size_t i = 0; i < tokens.size(); ++i) {
     if (!Is(tokens[i], "SELECT")) continue;
-    size_t top = NextOf(tokens, i);
-    if (top < tokens.size() && (Is(tokens[top], "DISTINCT") || Is(tokens[top], "ALL"))) top = NextOf(tokens, top);
-    if (top >= tokens.size() || !Is(tokens[top], "TOP")) continue;
-    const size_t count = NextOf(tokens, top);
-    if (count >= tokens.size() || tokens[count].kind != SqlToken::Number) continue;
-    const SqlToken number = tokens[count];
-    Erase(tokens, top, NextOf(tokens, count));
-    size_t end = EndOfLevel(tokens, top);
-    while (end > top && tokens[end - 1].kind == SqlToken::Blank) --end;
-    InsertAt(tokens, end, {Space, {SqlToken::Word, QStringLiteral("LIMIT")}, Space, number});
+    while (MoveTop(tokens, i)) {
+    }
   }
 }
 
@@ -157,7 +194,7 @@ QString WithTop(const QString& select, int n) {
     next = NextOf(tokens, verb);
   }
   if (next < tokens.size() && Is(tokens[next], "TOP")) return select;
-  InsertWords(tokens, verb + 1, QStringLiteral(" TOP %1 ").arg(n));
+  InsertWords(tokens, verb + 1, QStringLiteral("TOP %1").arg(n));
   return Join(tokens);
 }
 
@@ -166,12 +203,8 @@ void FullVerbs(Tokens& tokens) {
   if (verb >= tokens.size()) return;
   const size_t object = NextOf(tokens, verb);
   if (object >= tokens.size()) return;
-  if (Is(tokens[verb], "DELETE") && !Is(tokens[object], "FROM")) {
-    InsertAt(tokens, object, {{SqlToken::Word, QStringLiteral("FROM")}, Space});
-  }
-  if (Is(tokens[verb], "INSERT") && !Is(tokens[object], "INTO")) {
-    InsertAt(tokens, object, {{SqlToken::Word, QStringLiteral("INTO")}, Space});
-  }
+  if (Is(tokens[verb], "DELETE") && !Is(tokens[object], "FROM")) InsertWords(tokens, object, QStringLiteral("FROM"));
+  if (Is(tokens[verb], "INSERT") && !Is(tokens[object], "INTO")) InsertWords(tokens, object, QStringLiteral("INTO"));
 }
 
 void UpperTableNames(Tokens& tokens) {
@@ -189,13 +222,14 @@ void Patterns(Tokens& tokens, const QString& operation, const QString& collation
     size_t end = EndOfOperand(tokens, NextOf(tokens, i));
     size_t next = NextOf(tokens, end - 1);
     if (next < tokens.size() && Is(tokens[next], "COLLATE")) {
-      end = std::min(NextOf(tokens, next) + 1, tokens.size());
+      const size_t name = NextOf(tokens, next);
+      end = name < tokens.size() && IsName(tokens[name]) ? name + 1 : next + 1;
     } else if (!collation.isEmpty()) {
-      end = InsertWords(tokens, end, QLatin1String(" COLLATE ") + collation);
+      end = InsertWords(tokens, end, QLatin1String("COLLATE ") + collation);
     }
     next = NextOf(tokens, end - 1);
     if (next >= tokens.size() || !Is(tokens[next], "ESCAPE")) {
-      InsertWords(tokens, end, QLatin1String(" ESCAPE '") + escape + u'\'');
+      InsertWords(tokens, end, QLatin1String("ESCAPE '") + escape + u'\'');
     }
   }
 }

@@ -13,6 +13,8 @@ bool Is(const SqlToken& token, const char* word);  // a word, letter case does n
 size_t NextOf(const Tokens& tokens, size_t index);
 size_t FirstOf(const Tokens& tokens);
 
+// The tokens of a statement, carried by the next five steps to what all engines but SQL Server understand.
+Tokens InCommonSql(const QString& statement, const QString& ownerPrefix);
 // N'x' becomes 'x', kept apart from a literal before it.
 void PlainLiterals(Tokens& tokens);
 // [NAME] becomes NAME, or "a name" where it is no plain word.

@@ -53,10 +53,15 @@ void CodeComboBox::Clear() {
   Show({});
 }
 
+void CodeComboBox::SetHint(const QString& hint) {
+  hint_ = hint;
+  Show(shown_);
+}
+
 // A text that is no entry of the list; assistive technology reads the chosen entry alone.
 void CodeComboBox::Show(const QString& text) {
   shown_ = text;
-  setAccessibleDescription(text);
+  setAccessibleDescription(text.isEmpty() ? hint_ : text);
   update();
 }
 

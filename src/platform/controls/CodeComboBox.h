@@ -42,6 +42,9 @@ class CodeComboBox : public QComboBox {
 
   void showPopup() override;
 
+  // What assistive technology says of the field besides its name and its entry.
+  void SetHint(const QString& hint);
+
  Q_SIGNALS:
   // The user picked an entry, the one already chosen included. Choosing by code emits nothing.
   void Click();
@@ -62,5 +65,6 @@ class CodeComboBox : public QComboBox {
   bool opening_ = false;
   int noneIndex_ = -1;
   QString none_ = QStringLiteral("(none)");
+  QString hint_;
   QString shown_;  // the text on show while no entry is chosen
 };

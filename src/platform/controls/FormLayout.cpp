@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFontMetrics>
 #include <QGridLayout>
 #include <QMainWindow>
@@ -10,6 +11,7 @@
 #include <QStyle>
 #include <QStyleOptionFrame>
 
+#include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 
@@ -65,7 +67,17 @@ void LendName(QWidget* field, const QString& caption) {
     const auto* button = qobject_cast<QAbstractButton*>(part);
     const bool speaksForItself = button != nullptr && !button->text().isEmpty();
     if (!speaksForItself && part->accessibleName().isEmpty()) part->setAccessibleName(caption);
+    // "Yes" alone says nothing to somebody who does not see the row.
+    if (qobject_cast<QRadioButton*>(part) != nullptr) part->setAccessibleDescription(caption);
   }
+}
+
+// Rows are equally high whatever stands in them, so that forms side by side keep step: as high as the highest of the
+// fields with one line.
+int RowHeight(const QWidget* field) {
+  QComboBox list;
+  list.setFont(field->font());
+  return list.sizeHint().height();
 }
 
 QHBoxLayout* Line(QWidget* field, QWidget* behind) {
@@ -93,9 +105,9 @@ QString PlainCaption(const QString& caption) {
 
 int FieldWidth(const QWidget* field, int characters) {
   const QFontMetrics metrics = field->fontMetrics();
-  const int one = characters <= CapitalsOnly ? metrics.horizontalAdvance(u'M') : metrics.averageCharWidth();
+  const int capitals = metrics.horizontalAdvance(u'M') * std::min(characters, CapitalsOnly);
   const int frame = field->style()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, field);
-  return one * characters + 2 * frame + 12;
+  return std::max(capitals, metrics.averageCharWidth() * characters) + 2 * frame + 12;
 }
 
 QLabel* Label(QWidget* parent, const QString& name, const QString& caption) {
@@ -140,10 +152,10 @@ QMenu* Menu(QWidget* window, const QString& name, const QString& caption) {
 }
 
 Rows::Rows(QWidget* parent) : layout_(parent != nullptr ? new QGridLayout(parent) : new QGridLayout) {
-  if (parent != nullptr)
-    layout_->setContentsMargins(Margin, Margin, Margin, Margin);
-  else
-    layout_->setContentsMargins(0, 0, 0, 0);
+  // A part of a page stands where the other parts of the page stand; only what has an edge keeps away from it.
+  const bool hasEdge = parent != nullptr && (parent->isWindow() || qobject_cast<QGroupBox*>(parent) != nullptr);
+  const int margin = hasEdge ? Margin : 0;
+  layout_->setContentsMargins(margin, margin, margin, margin);
   layout_->setHorizontalSpacing(Across);
   layout_->setVerticalSpacing(Down);
   layout_->setColumnMinimumWidth(Gap, 0);
@@ -176,9 +188,15 @@ void Rows::Place(QLabel* label, QWidget* field, QWidget* behind, int column) {
   const QString caption = PlainCaption(label->text());
   label->setBuddy(field);
   LendName(field, caption);
+  if (auto* const button = qobject_cast<QAbstractButton*>(behind); button != nullptr && button->toolTip().isEmpty())
+    button->setAccessibleDescription(caption);
   const bool tall = IsTall(field);
   // The first line of a tall field and its label stand on one line.
-  if (tall) label->setContentsMargins(0, 4, 0, 0);
+  if (tall)
+    label->setContentsMargins(0, 4, 0, 0);
+  else
+    for (QWidget* part : {static_cast<QWidget*>(label), field, behind})
+      if (part != nullptr) part->setMinimumHeight(RowHeight(field));
   layout_->addWidget(label, row_, column, tall ? Qt::AlignLeft | Qt::AlignTop : Qt::AlignLeft | Qt::AlignVCenter);
   const int end = Columns;
   layout_->addLayout(Line(field, behind), row_, column + 1, 1, end - column - 1);
@@ -201,6 +219,23 @@ void Rows::Stretch() {
   layout_->setRowStretch(++row_, 1);
 }
 
+void Require(std::initializer_list<QWidget*> fields) {
+  const QString hint = QStringLiteral("Required");
+  for (QWidget* field : fields) {
+    if (auto* const list = qobject_cast<CodeComboBox*>(field))
+      list->SetHint(hint);
+    else
+      field->setAccessibleDescription(hint);
+    for (QLabel* label : field->window()->findChildren<QLabel*>()) {
+      const QWidget* const buddy = label->buddy();
+      if (buddy == nullptr || (buddy != field && !buddy->isAncestorOf(field))) continue;
+      QFont bold = label->font();
+      bold.setBold(true);
+      label->setFont(bold);
+    }
+  }
+}
+
 QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> buttons) {
   auto* row = new QHBoxLayout;
   row->setSpacing(Across);
@@ -214,28 +249,23 @@ QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> buttons) {
   return row;
 }
 
+QWidget* Together(QWidget* parent, const QString& name, std::initializer_list<QWidget*> controls) {
+  auto* const field = new QWidget(parent);
+  field->setObjectName(name);
+  auto* const row = new QHBoxLayout(field);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(Across);
+  for (QWidget* control : controls) row->addWidget(control);
+  row->addStretch();
+  return field;
+}
+
 QVBoxLayout* Column(QWidget* parent, std::initializer_list<QWidget*> widgets) {
   auto* column = parent != nullptr ? new QVBoxLayout(parent) : new QVBoxLayout;
   column->setContentsMargins(Margin, Margin, Margin, Margin);
   column->setSpacing(Across);
   for (QWidget* widget : widgets) column->addWidget(widget);
   return column;
-}
-
-void TabOrder(std::initializer_list<QWidget*> widgets) {
-  QWidget* before = nullptr;
-  const auto next = [&before](QWidget* widget) {
-    if (before != nullptr) QWidget::setTabOrder(before, widget);
-    before = widget;
-  };
-  for (QWidget* widget : widgets) {
-    if (widget == nullptr) continue;
-    if (widget->focusPolicy() != Qt::NoFocus) {
-      next(widget);
-      continue;
-    }
-    for (QWidget* part : Parts(widget)) next(part);
-  }
 }
 
 }  // namespace Form

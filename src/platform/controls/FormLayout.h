@@ -48,14 +48,16 @@ class Rows {
 
 // Buttons in one row, at the right end; nullptr is a gap that takes the room.
 QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> buttons);
+// Controls side by side that are one field of a form.
+QWidget* Together(QWidget* parent, const QString& name, std::initializer_list<QWidget*> controls);
 // Widgets stacked with the window's margins.
 QVBoxLayout* Column(QWidget* parent, std::initializer_list<QWidget*> widgets = {});
+// Fields that a record cannot be without: their labels are bold, and assistive technology says so.
+void Require(std::initializer_list<QWidget*> fields);
 // Width of a field for that many characters, in pixels of its font.
 int FieldWidth(const QWidget* field, int characters);
 // Tab order of all that stands in the form's layouts, as it is read: rows from the top, from the left, frame by frame.
 void ReadingOrder(QWidget* form);
-// Tab order in the order of the list.
-void TabOrder(std::initializer_list<QWidget*> widgets);
 // The caption without its mnemonic mark.
 QString PlainCaption(const QString& caption);
 

@@ -10,6 +10,7 @@
 #include "platform/controls/GridFinder.h"
 #include "platform/controls/GridHeading.h"
 #include "platform/controls/GridModel.h"
+#include "platform/controls/GridStyle.h"
 
 namespace {
 constexpr int DefaultTwips = 960;
@@ -44,6 +45,8 @@ Grid::Grid(QWidget* parent, const QString& name, int columns)
     edit_ = Edit{row, col, old};
   });
   SetCols(columns);
+  setStyle(GridStyle::Instance());
+  heading_->setStyle(GridStyle::Instance());
 }
 
 void Grid::SetUpHeaders() {
@@ -60,9 +63,12 @@ void Grid::SetUpHeaders() {
   connect(heading, &QHeaderView::sectionClicked, this, &Grid::HeadingClicked);
   connect(heading, &QHeaderView::sectionResized, this, [this](int col, int, int width) {
     if (stretching_ || width == 0) return;
+    if (heading_->IsPressed()) {
+      KeepWidths();
+      columns_[At(col)].byHand = columns_[At(col)].drawn = true;
+    }
     columns_[At(col)].pixels = width;
-    columns_[At(col)].byHand = heading_->IsPressed();
-    StretchLast();
+    ShareRoom();
   });
   connect(heading_, &GridHeading::Released, this, &Grid::RememberWidths);
 }
@@ -147,7 +153,10 @@ QStringView Grid::View(int row, int col) const {
 }
 
 void Grid::SetText(int row, int col, const QString& text) {
-  if (row != 0) return model_->SetCell(row, col, text);
+  if (row != 0) {
+    model_->SetCell(row, col, text);
+    return MeasureTexts(row, row);
+  }
   model_->SetHeading(col, text);
   FitHeading(col);
 }
@@ -157,6 +166,7 @@ int Grid::AddRow(const QStringList& cellsFromColumn1, int at) {
   const int row = at >= 1 && at < Rows() ? at : Rows();
   const QScopedValueRollback quiet(quiet_, true);
   model_->Insert(row, Views(cellsFromColumn1));
+  MeasureTexts(row, row);
   if (row_ >= row) ++row_;
   ShowCurrent(false);
   return row;
@@ -186,6 +196,8 @@ void Grid::EndLoad() {
   loading_ = false;
   const QScopedValueRollback quiet(quiet_, true);
   model_->Announce();
+  for (Column& column : columns_) column.texts = 0;
+  MeasureTexts(1, Rows() - 1);
   ShowCurrent(false);
 }
 

@@ -53,8 +53,8 @@ class Grid : public QTableView {
   int FindRow(const std::vector<std::pair<int, QString>>& cells, int from = 1) const;
 
   void SetHeading(int col, const QString& caption) { SetText(0, col, caption); }
-  // Width in twips (1440 an inch); the column is never narrower than its heading. The last visible column takes the
-  // room that is left.
+  // Width in twips (1440 an inch); the column is never narrower than its heading. Where there is room beside all
+  // columns, those whose texts are cut get of it what they lack, and the last visible column takes what is left.
   void SetColWidth(int col, int twips);
   int ColWidth(int col) const;  // in twips, as it was set
   void HideCol(int col, bool hidden);
@@ -129,8 +129,10 @@ class Grid : public QTableView {
  private:
   struct Column {
     int twips = 0;
-    int pixels = 0;       // without what the last column takes besides
+    int pixels = 0;       // without its share of the room that is left
+    int texts = 0;        // pixels of the widest of the texts that were looked at
     bool byHand = false;  // a person has drawn it since the last release of the mouse
+    bool drawn = false;   // a person has drawn it, now or in an earlier window
   };
   struct Edit {
     int row = 0, col = 0;
@@ -156,7 +158,10 @@ class Grid : public QTableView {
   void ShowSorted();
   void FitHeading(int col);
   void FitAllHeadings();
-  void StretchLast();
+  void MeasureTexts(int first, int last);
+  void KeepWidths();
+  void ShareRoom();
+  int Needs(int col) const;
   QString WidthKey(int col) const;
   void RecallWidth(int col);
   void RememberWidths();

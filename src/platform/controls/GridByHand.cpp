@@ -276,7 +276,7 @@ void Grid::changeEvent(QEvent* event) {
 
 void Grid::resizeEvent(QResizeEvent* event) {
   QTableView::resizeEvent(event);
-  StretchLast();
+  ShareRoom();
   // The current row does not slip out of sight with the lower edge.
   const QModelIndex current = row_ == 0 ? QModelIndex() : currentIndex();
   const QRect cell = visualRect(current);

@@ -15,7 +15,7 @@
 
 namespace {
 // Below these widths (pixels) what is said elsewhere too gives way to the text.
-constexpr int RoomForArrows = 300, RoomForCount = 420;
+constexpr int RoomForCount = 240, RoomForArrows = 300, RoomForWords = 420;
 }  // namespace
 
 GridFinder::GridFinder(Grid* grid, GridHeading* heading)
@@ -25,7 +25,7 @@ GridFinder::GridFinder(Grid* grid, GridHeading* heading)
       text_(new TextBox(this, QStringLiteral("qt_grid_find"))),
       previous_(Tool(QStringLiteral("qt_grid_previous"), Qt::UpArrow, tr("Previous match (Shift+F3)"))),
       next_(Tool(QStringLiteral("qt_grid_next"), Qt::DownArrow, tr("Next match (F3)"))),
-      onlyMatches_(new QCheckBox(tr("Matching rows only"), this)),
+      onlyMatches_(new QCheckBox(this)),
       count_(new QLabel(this)),
       close_(Tool(QStringLiteral("qt_grid_close"), Qt::NoArrow, tr("Close (Escape)"))) {
   setObjectName(QStringLiteral("qt_grid_bar"));
@@ -35,13 +35,15 @@ GridFinder::GridFinder(Grid* grid, GridHeading* heading)
   text_->setAccessibleName(tr("Find in the rows"));
   text_->setMinimumWidth(60);
   onlyMatches_->setObjectName(QStringLiteral("qt_grid_only"));
+  onlyMatches_->setAccessibleName(tr("Matching rows only"));
+  onlyMatches_->setToolTip(tr("Matching rows only (Ctrl+Shift+F)"));
   count_->setObjectName(QStringLiteral("qt_grid_count"));
   close_->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(4, 2, 4, 2);
   row->setSpacing(4);
   row->addWidget(text_, 1);
-  for (QWidget* widget : std::initializer_list<QWidget*>{previous_, next_, onlyMatches_, count_, close_})
+  for (QWidget* widget : std::initializer_list<QWidget*>{count_, previous_, next_, onlyMatches_, close_})
     row->addWidget(widget);
 
   connect(text_, &TextBox::Change, this, &GridFinder::TextChanged);
@@ -183,7 +185,8 @@ void GridFinder::keyPressEvent(QKeyEvent* event) {
 
 void GridFinder::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  count_->setVisible(width() >= RoomForCount);
   previous_->setVisible(width() >= RoomForArrows);
   next_->setVisible(width() >= RoomForArrows);
-  count_->setVisible(width() >= RoomForCount);
+  onlyMatches_->setText(width() >= RoomForWords ? onlyMatches_->accessibleName() : QString());
 }

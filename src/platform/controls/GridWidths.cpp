@@ -10,7 +10,8 @@
 
 namespace {
 constexpr int TwipsAnInch = 1440;
-constexpr int NarrowestByHand = 16, WidestByHand = 4000;  // pixels
+constexpr int NarrowestByHand = 16, WidestByHand = 4000, WidestByItself = 480;  // pixels
+constexpr int RowsLookedAt = 100, LettersLookedAt = 120;
 
 std::size_t At(int index) {
   return static_cast<std::size_t>(index);
@@ -36,7 +37,7 @@ void Grid::FitHeading(int col) {
   if (!model_->Heading(col).isEmpty())
     column.pixels = std::max(column.pixels, horizontalHeader()->sectionSizeHint(col));
   RecallWidth(col);
-  StretchLast();
+  ShareRoom();
 }
 
 void Grid::FitAllHeadings() {
@@ -51,26 +52,60 @@ void Grid::HideCol(int col, bool hidden) {
     setColumnHidden(col, hidden);
   }
   if (!filter_.isEmpty()) SetFilter(filter_);
-  StretchLast();
+  ShareRoom();
 }
 
 bool Grid::ColHidden(int col) const {
   return isColumnHidden(col);
 }
 
-void Grid::StretchLast() {
+// Of the first rows only: enough to know what a column holds, at no cost that could be felt.
+void Grid::MeasureTexts(int first, int last) {
+  if (loading_ || first > RowsLookedAt) return;
+  const QFontMetrics metrics = fontMetrics();
+  const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+  bool wider = false;
+  for (int col = 1; col < Cols(); ++col) {
+    int& widest = columns_[At(col)].texts;
+    const int before = widest;
+    for (int row = first; row <= std::min(last, RowsLookedAt); ++row) {
+      const QString text = View(row, col).left(LettersLookedAt).toString();
+      if (!text.isEmpty()) widest = std::max(widest, metrics.horizontalAdvance(text) + margins);
+    }
+    wider = wider || widest != before;
+  }
+  if (wider) ShareRoom();
+}
+
+// While a person draws one column the others stay as they are on screen.
+void Grid::KeepWidths() {
+  const std::vector<int> visible = VisibleCols();
+  for (const int col : visible)
+    if (col != visible.back()) columns_[At(col)].pixels = columnWidth(col);
+}
+
+int Grid::Needs(int col) const {
+  const Column& column = columns_[At(col)];
+  if (column.drawn) return column.pixels;
+  return std::min(column.pixels, std::max(column.texts, horizontalHeader()->sectionSizeHint(col)));
+}
+
+void Grid::ShareRoom() {
   if (stretching_) return;
   const QScopedValueRollback stretching(stretching_, true);
-  int last = -1, others = 0;
+  const std::vector<int> visible = VisibleCols();
+  const int last = visible.empty() ? 0 : visible.back();
+  // The last column needs no more than it holds; it takes what is left in any case.
+  int room = viewport()->width();
+  for (int col = 0; col < Cols(); ++col)
+    if (!isColumnHidden(col)) room -= col == last ? Needs(col) : columns_[At(col)].pixels;
   for (int col = 0; col < Cols(); ++col) {
     if (isColumnHidden(col)) continue;
-    if (last >= 0) others += columns_[At(last)].pixels;
-    last = col;
-  }
-  for (int col = 0; col < Cols(); ++col) {
-    if (isColumnHidden(col)) continue;
-    const int room = col == last ? viewport()->width() - others : 0;
-    setColumnWidth(col, std::max(columns_[At(col)].pixels, room));
+    const Column& column = columns_[At(col)];
+    const int lacks = col == 0 || column.drawn ? 0 : std::min(column.texts, WidestByItself) - column.pixels;
+    const int share = std::max(0, col == last ? room : std::min(lacks, room));
+    room -= share;
+    setColumnWidth(col, (col == last ? Needs(col) : column.pixels) + share);
   }
 }
 
@@ -87,7 +122,9 @@ void Grid::RecallWidth(int col) {
   const QString key = WidthKey(col);
   if (key.isEmpty()) return;
   const int width = QSettings().value(key).toInt();
-  if (width > 0) columns_[At(col)].pixels = std::clamp(width, NarrowestByHand, WidestByHand);
+  if (width <= 0) return;
+  columns_[At(col)].pixels = std::clamp(width, NarrowestByHand, WidestByHand);
+  columns_[At(col)].drawn = true;
 }
 
 void Grid::RememberWidths() {
@@ -101,5 +138,5 @@ void Grid::RememberWidths() {
 void Grid::showEvent(QShowEvent* event) {
   QTableView::showEvent(event);
   for (int col = 1; col < Cols(); ++col) RecallWidth(col);
-  StretchLast();
+  ShareRoom();
 }

@@ -6,9 +6,12 @@
 #include <vector>
 
 class QButtonGroup;
+class QHBoxLayout;
+class QLabel;
 
 // A control array of option buttons, element i named "name(i)", that exclude each other. All may be unset. Single
-// option buttons with names of their own are groups too (second constructor).
+// option buttons with names of their own are groups too (second constructor). Tab enters at the element that is set;
+// arrow keys go on from there.
 class OptionGroup : public QObject {
   Q_OBJECT
 
@@ -28,15 +31,22 @@ class OptionGroup : public QObject {
   void Unset() { Select(-1); }
   void SetEnabled(bool enabled);
   void SetVisible(bool visible);
-  // The buttons in one row, to be put into a form layout.
-  QWidget* Row();
+  // The buttons in one row, to be put into a form layout, named where the screen speaks of it.
+  QWidget* Row(const QString& name = {});
+  // The same with the captions beside the buttons, each a label of its own.
+  QWidget* RowWith(std::initializer_list<QLabel*> captions);
 
  Q_SIGNALS:
   // The user clicked element `index`, the one already set included.
   void Click(int index);
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void Adopt(QWidget* parent, const QString& name, const QString& caption);
+  QHBoxLayout* MakeRow();
+  void SetTabStop();
 
   std::vector<QRadioButton*> buttons_;
   QButtonGroup* group_ = nullptr;

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QMainWindow>
+#include <QRadioButton>
 #include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
@@ -37,7 +38,9 @@ class Reader {
 
  private:
   void Take(QWidget* widget) {
-    if (!widget->isWindow() && (widget->focusPolicy() & Qt::TabFocus) != 0) order_.push_back(widget);
+    // Of a group of options Tab enters one, and it is not always the same one.
+    const bool isStop = (widget->focusPolicy() & Qt::TabFocus) != 0 || qobject_cast<QRadioButton*>(widget) != nullptr;
+    if (!widget->isWindow() && isStop) order_.push_back(widget);
   }
 
   void Read(QLayout* layout) {

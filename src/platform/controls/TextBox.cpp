@@ -7,6 +7,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QStyleOptionFrame>
 #include <limits>
 
 #include "platform/controls/FormLayout.h"
@@ -78,6 +79,12 @@ void TextBox::SetLeaveCheck(std::function<bool()> check) {
 
 void TextBox::SetEnterAction(std::function<void()> action) {
   enterAction_ = std::move(action);
+}
+
+// A box that shows only looks like the window behind it.
+void TextBox::initStyleOption(QStyleOptionFrame* option) const {
+  QLineEdit::initStyleOption(option);
+  if (isReadOnly()) option->palette.setBrush(QPalette::Base, option->palette.window());
 }
 
 QSize TextBox::sizeHint() const {

@@ -55,6 +55,7 @@ class TextBox : public QLineEdit {
   void GotFocus();
 
  protected:
+  void initStyleOption(QStyleOptionFrame* option) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;

@@ -25,7 +25,7 @@ bool Load(const QString& path, IniText& text, QString* reason) {
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly))
     return fail(QStringLiteral("The file '%1' cannot be read: %2.").arg(path, file.errorString()));
-  const QByteArray bytes = file.read(LargestFile + 1);
+  const QByteArray bytes = file.read(qMin(file.size(), LargestFile));
   if (file.error() != QFileDevice::NoError)
     return fail(QStringLiteral("The file '%1' cannot be read: %2.").arg(path, file.errorString()));
   if (!text.Decode(bytes)) return fail(QStringLiteral("The file '%1' is not a text file.").arg(path));
@@ -40,6 +40,12 @@ bool Store(const QString& path, const QByteArray& bytes, QString* reason) {
   if (stored) return true;
   if (reason) *reason = QStringLiteral("The file '%1' cannot be written: %2.").arg(path, file.errorString());
   return false;
+}
+
+// Never in the middle of a character.
+QString Cut(const QString& value, int length) {
+  const bool half = value.size() > length && length > 0 && value[length - 1].isHighSurrogate();
+  return value.left(half ? length - 1 : length);
 }
 
 bool HasControl(const QString& text) {
@@ -63,7 +69,7 @@ QString WhyUnwritable(const QString& section, const QString& key, const QString&
 QString ReadValue(const QString& path, const QString& section, const QString& key, int maxLength) {
   IniText text;
   if (!Load(path, text, nullptr)) return {};
-  return text.Value(section, key).left(qMax(0, maxLength));
+  return Cut(text.Value(section, key), qMax(0, maxLength));
 }
 
 bool IsReadable(const QString& path, QString* reason) {

@@ -34,11 +34,19 @@ QString Quoted(const QString& value) {
   return value != value.trimmed() || IsQuoted(value) ? '"' + value + '"' : value;
 }
 
+// Names that SameName finds equal are one here.
+QString Folded(const QString& name) {
+  QString folded;
+  for (const char32_t letter : name.toUcs4()) folded += QChar::fromUcs4(QChar::toCaseFolded(letter));
+  return folded;
+}
+
 struct UniqueNames {
   void Add(QStringView name) {
     const QString text = name.toString();
-    if (seen.contains(text.toCaseFolded())) return;
-    seen.insert(text.toCaseFolded());
+    const QString folded = Folded(text);
+    if (seen.contains(folded)) return;
+    seen.insert(folded);
     list << text;
   }
 
@@ -49,21 +57,19 @@ struct UniqueNames {
 }  // namespace
 
 bool IniText::Decode(const QByteArray& bytes) {
-  const auto decode = [&](QStringConverter::Encoding encoding, qsizetype markSize) {
+  // The decoder takes off one mark; a second one belongs to the text.
+  const auto decode = [&](QStringConverter::Encoding encoding) {
     QStringDecoder decoder(encoding, QStringConverter::Flag::Stateless);
-    text_ = decoder.decode(QByteArrayView(bytes).sliced(markSize));
+    text_ = decoder.decode(bytes);
     return !decoder.hasError();
   };
-  if (bytes.startsWith("\xFF\xFE")) {
-    encoding_ = Encoding::Utf16Little;
-    decode(QStringConverter::Utf16LE, 2);
-  } else if (bytes.startsWith("\xFE\xFF")) {
-    encoding_ = Encoding::Utf16Big;
-    decode(QStringConverter::Utf16BE, 2);
-  } else if (bytes.startsWith("\xEF\xBB\xBF") && decode(QStringConverter::Utf8, 3)) {
-    encoding_ = Encoding::Utf8WithMark;
-  } else if (decode(QStringConverter::Utf8, 0)) {
-    encoding_ = Encoding::Utf8;
+  if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF")) {
+    const bool little = bytes.startsWith("\xFF");
+    encoding_ = little ? Encoding::Utf16Little : Encoding::Utf16Big;
+    // The decoder is content with half a letter at the end.
+    if (bytes.size() % 2 != 0 || !decode(little ? QStringConverter::Utf16LE : QStringConverter::Utf16BE)) return false;
+  } else if (decode(QStringConverter::Utf8)) {
+    encoding_ = bytes.startsWith("\xEF\xBB\xBF") ? Encoding::Utf8WithMark : Encoding::Utf8;
   } else {
     encoding_ = Encoding::Latin1;
     text_ = QString::fromLatin1(bytes);
@@ -72,6 +78,9 @@ bool IniText::Decode(const QByteArray& bytes) {
 }
 
 bool IniText::Encode(QByteArray& bytes) const {
+  // No encoding but UTF-16 can write half of a character.
+  const bool halves = encoding_ == Encoding::Utf16Little || encoding_ == Encoding::Utf16Big;
+  if (!halves && !text_.isValidUtf16()) return false;
   switch (encoding_) {
     case Encoding::Utf8:
       bytes = text_.toUtf8();
@@ -87,7 +96,10 @@ bool IniText::Encode(QByteArray& bytes) const {
       return true;
     case Encoding::Latin1:
       bytes = text_.toLatin1();
-      return QString::fromLatin1(bytes) == text_;
+      if (QString::fromLatin1(bytes) != text_) return false;
+      // When the last byte that spoke against UTF-8 is gone, the others would be read as UTF-8.
+      if (bytes.isValidUtf8()) bytes = text_.toUtf8();
+      return true;
   }
   return false;
 }
@@ -157,7 +169,10 @@ QString IniText::Value(const QString& section, const QString& key) const {
 void IniText::SetValue(const QString& section, const QString& key, const QString& value) {
   const Place place = Find(section, key);
   if (place.entry.kind == Kind::Entry) {
-    text_.replace(place.entry.value, place.entry.stop - place.entry.value, Quoted(value));
+    // Blanks that stand before the old value would be the new one if that is empty.
+    const bool blanks = text_[place.entry.value - 1] != '=';
+    const QString written = value.isEmpty() && blanks ? QStringLiteral("\"\"") : Quoted(value);
+    text_.replace(place.entry.value, place.entry.stop - place.entry.value, written);
     return;
   }
   const QString end = LineEnd();

@@ -9,7 +9,7 @@
 // a million empty lines costs no more than its size. Works in memory only.
 class IniText {
  public:
-  // False when the bytes are no text: they hold a character U+0000.
+  // False when the bytes are no text: they hold a character U+0000, or half of one of UTF-16.
   bool Decode(const QByteArray& bytes);
   // In the encoding that Decode found, UTF-8 for a new text. False when that encoding lacks a character.
   bool Encode(QByteArray& bytes) const;

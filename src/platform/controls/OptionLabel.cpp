@@ -1,4 +1,4 @@
-#include "interop/OptionLabel.h"
+#include "platform/controls/OptionLabel.h"
 
 #include <QMouseEvent>
 #include <QRadioButton>
@@ -9,6 +9,7 @@ OptionLabel::OptionLabel(QWidget* parent, const QString& name, const QString& ca
     : QLabel(caption, parent), button_(button) {
   setObjectName(name);
   setTextFormat(Qt::PlainText);
+  setBuddy(button);
   button->setAccessibleName(Form::PlainCaption(caption));
 }
 

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QProxyStyle>
+
+// The application's style with more air at both ends of a cell and of a heading: a number at the right end of its
+// column would else touch the text of the next one.
+class GridStyle : public QProxyStyle {
+  Q_OBJECT
+
+ public:
+  // One for all grids.
+  static QStyle* Instance();
+
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+  QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                         const QWidget* widget) const override;
+  QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override;
+};
