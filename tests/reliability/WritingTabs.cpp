@@ -243,7 +243,7 @@ std::vector<WritingScreen> WritingTabs() {
                          {"txt5dILSCode", "PICKUP_LOCATION_ILS"},
                          {"txt5dDeliverySystemCode", "DELIVERY_SYSTEM_CODE"}},
               .open = Tab(Shell::DeliveryTab, "grd5dTable", "sstab5Delivery", 3),
-              .keys = {{"txt5dCode", "PICKUP_LOCATION"}},
+              .keys = {{"txt5dCode", "PICKUP_LOCATION", Trimmed::EndsAndUpper}},
               .grid = "grd5dTable",
               .marks = {{1, "txt5dLibrarySymbol"}, {2, "txt5dCode"}}}),
   };
