@@ -6,6 +6,7 @@
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "platform/controls/TextInput.h"
 
 namespace {
 
@@ -14,7 +15,7 @@ std::function<void()> Trimmer(Box* box, Trim trim) {
   return [box, trim] {
     if (trim == Trim::None) return;
     const QString text = box->Trimmed();
-    box->SetText(trim == Trim::BothUpper ? text.toUpper() : text);
+    box->SetText(trim == Trim::BothUpper ? TextInput::Upper(text) : text);
   };
 }
 
@@ -33,9 +34,11 @@ FieldList& FieldList::Add(MemoBox* box, int column, Trim trim) {
 }
 
 FieldList& FieldList::Add(OptionGroup* pair, int column, const QString& no) {
-  fields_.push_back({nullptr, column,
-                     [pair, no] { return pair->IsSet(0) ? QString("Y") : pair->IsSet(1) ? no : QString(); },
-                     [pair](const QString& text) { pair->Select(text == "Y" ? 0 : 1); }, [] {}, [pair] { pair->Unset(); }});
+  fields_.push_back(
+      {nullptr, column, [pair, no] { return pair->IsSet(0)   ? QString("Y")
+                                            : pair->IsSet(1) ? no
+                                                             : QString(); },
+       [pair](const QString& text) { pair->Select(text == "Y" ? 0 : 1); }, [] {}, [pair] { pair->Unset(); }});
   return *this;
 }
 

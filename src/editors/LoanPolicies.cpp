@@ -9,6 +9,7 @@
 #include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "editors/frmLoans.h"
+#include "platform/controls/TextInput.h"
 
 namespace {
 
@@ -180,7 +181,7 @@ QStringList LoanPolicies::Typed() const {
   QStringList typed{txt6LoanCode->Trimmed()};
   for (const PolicyField& field : fields_) {
     const QString text = field.box->Trimmed();
-    typed.append(field.box == txt6aDescription ? text.toUpper() : text);
+    typed.append(field.box == txt6aDescription ? TextInput::Upper(text) : text);
   }
   return typed;
 }
@@ -201,7 +202,7 @@ bool LoanPolicies::PeriodsAreDigits() {
 QString LoanPolicies::AsSql(const PolicyField& field, const QString& emptyText) const {
   const QString text = field.box->Trimmed();
   if (field.IsPeriod()) return Sql::NumberOr(text, "NULL");
-  return Sql::NationalOr(field.box == txt6aDescription ? text.toUpper() : text, emptyText);
+  return Sql::NationalOr(field.box == txt6aDescription ? TextInput::Upper(text) : text, emptyText);
 }
 
 // --- Add, Update, Delete, Clear ---

@@ -5,6 +5,7 @@
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
+#include "platform/controls/TextInput.h"
 
 frmNCIPStatusCodes::frmNCIPStatusCodes(QWidget* parent)
     : NCIPListScreen("frmNCIPStatusCodes", "Ostana - NCIP Status Codes",
@@ -33,10 +34,10 @@ void frmNCIPStatusCodes::BuildControls() {
 
 // The whole text, wherever it was changed; the caret stays behind the letter it was behind, which may have become two.
 void frmNCIPStatusCodes::txtNCIPStatusCode_Change() {
-  const QString upper = txtNCIPStatusCode->Text().toUpper();
+  const QString upper = TextInput::Upper(txtNCIPStatusCode->Text());
   if (upper == txtNCIPStatusCode->Text()) return;
   const QString before = txtNCIPStatusCode->Text().left(txtNCIPStatusCode->cursorPosition());
-  const int caret = static_cast<int>(before.toUpper().size());
+  const int caret = static_cast<int>(TextInput::Upper(before).size());
   txtNCIPStatusCode->SetText(upper);
   txtNCIPStatusCode->setCursorPosition(caret);
 }

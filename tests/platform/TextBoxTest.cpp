@@ -303,6 +303,16 @@ TEST_F(TextBoxTest, GotFocusComesFromControlsNotFromMessageBoxes) {
   EXPECT_EQ(got.count(), 1);
 }
 
+// Qt takes it and the sign behind it for one letter; stored, that would be another text.
+TEST_F(TextBoxTest, CapitalsLeaveHalfOfAPairAlone) {
+  Make();
+  const QString half = QString("a") + QChar(0xd9aa) + "x";
+  box->SetText(half);
+  EXPECT_EQ(box->TrimUpperInPlace(), QString("A") + QChar(0xd9aa) + "X");
+  box->SetText(QString::fromUcs4(U"stra\u00dfe \U00010428"));
+  EXPECT_EQ(box->TrimUpperInPlace(), QString::fromUcs4(U"STRASSE \U00010400"));
+}
+
 TEST_F(TextBoxTest, IsAsWideAsItsLimitCallsFor) {
   const TextBox code(nullptr, "a", 3), name(nullptr, "b", 40), address(nullptr, "c", 100), note(nullptr, "d", 500);
   EXPECT_LT(code.sizeHint().width() * 3, name.sizeHint().width());

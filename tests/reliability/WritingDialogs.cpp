@@ -48,7 +48,7 @@ std::vector<WritingScreen> Reference() {
               .table = "ID_CURRENCY_CODE",
               .fields = {{"txtDescription", "CURRENCY_CODE_DESC"}, {"txtCountry", "CURRENCY_COUNTRY"}},
               .open = Dialog("frmCurrencyCodes", "grdCurrencyCode"),
-              .keys = {{"txtCurrencyCode", "CURRENCY_CODE"}},
+              .keys = {{"txtCurrencyCode", "CURRENCY_CODE", Trimmed::EndsAndUpper}},
               .grid = "grdCurrencyCode",
               .marks = {{1, "txtCurrencyCode"}}});
   // The base is moved in the grid: two rows change together.

@@ -224,6 +224,26 @@ std::vector<WritingScreen> FiveScreens() {
   };
   contact.severalUnits = true;
 
+  // Without its symbol an outside system has nothing else either.
+  WritingScreen statistical = updated({.name = "LibraryStatistical",
+                                       .place = "frmLibraryStatisticalInfo",
+                                       .fields = {{"txtDoclineSymbol", "DOCLINE_SYMBOL"},
+                                                  {"txtFD", "FD_SYMBOL"},
+                                                  {"txtNewZealand", "NLNZ_SYMBOL"},
+                                                  {"txtAgent", "AGENT_SYMBOL"},
+                                                  {"txtVORNSymbol", "VORN_SYMBOL"}}});
+  statistical.ownColumns +=
+      QStringList{"VORN_USER_ID", "VORN_PASSWORD", "VORN_SERVICE", "VORN_USE_IFM", "VORN_IFM_MAX_COST"};
+
+  WritingScreen rapid = updated(
+      {.name = "LibraryRapid",
+       .place = "frmLibraryStatisticalInfo",
+       .fields = {{"txtRapid", "RAPID_CODE"},
+                  {"txtRapidBranchName", "RAPID_BRANCH_NAME"},
+                  {"txtRapidUserName", "RAPID_USER_NAME"},
+                  {"txtRapidPassword", "RAPID_PASSWORD", Trimmed::Ends, Trimmed::Ends, "txtRapidConfirmPassword"}}});
+  rapid.ownColumns += "RAPID_ALLOW_LOCAL";
+
   return {
       registration,
       contact,
@@ -239,17 +259,15 @@ std::vector<WritingScreen> FiveScreens() {
                           {"txtPhone", "BILL_PHONE", Trimmed::No},
                           {"txtFax", "BILL_FAX", Trimmed::No},
                           {"txtCCName", "CREDIT_CARD_NAME", Trimmed::No},
+                          {"txtCCExpirationDate", "CREDIT_CARD_EXP", Trimmed::No},
+                          {"txtCCCode", "CREDIT_CARD_CODE", Trimmed::No},
                           {"txtAccountNumber", "LIBRARY_ACCOUNT", Trimmed::No}}}),
       updated({.name = "LibraryLogin",
                .place = "frmLibraryLoginInfo",
                .fields = {{"txtUserID", "USER_LOGIN"},
                           {"txtPassword", "USER_PASSWORD", Trimmed::Ends, Trimmed::Ends, "txtConfirmPassword"}}}),
-      updated({.name = "LibraryStatistical",
-               .place = "frmLibraryStatisticalInfo",
-               .fields = {{"txtDoclineSymbol", "DOCLINE_SYMBOL"},
-                          {"txtFD", "FD_SYMBOL"},
-                          {"txtNewZealand", "NLNZ_SYMBOL"},
-                          {"txtAgent", "AGENT_SYMBOL"}}}),
+      statistical,
+      rapid,
   };
 }
 

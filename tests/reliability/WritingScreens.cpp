@@ -83,13 +83,6 @@ const std::vector<WritingScreen>& WritingScreens() {
   return screens;
 }
 
-std::vector<WritingScreen> ScreensWithText() {
-  std::vector<WritingScreen> screens;
-  for (const WritingScreen& screen : WritingScreens())
-    if (screen.write && !screen.fields.empty()) screens.push_back(screen);
-  return screens;
-}
-
 const std::vector<ScreenAction>& ScreenActions() {
   static const std::vector<ScreenAction> actions = [] {
     std::vector<ScreenAction> all;

@@ -65,8 +65,6 @@ struct WritingScreen {
 };
 
 const std::vector<WritingScreen>& WritingScreens();
-// Those of them that change a free text.
-std::vector<WritingScreen> ScreensWithText();
 
 inline void PrintTo(const WritingScreen& screen, std::ostream* out) {
   *out << screen.name;

@@ -63,7 +63,7 @@ WritingScreen Methods(const char* name, const char* place, const char* table, co
 WritingScreen Rate(const char* name, const char* caption, const char* table, const char* key, const char* number) {
   return Edited(
       {.name = name,
-       .place = "tab-10-invoicing-0",
+       .place = "tab-07-invoicing-0",
        .table = table,
        .open = TabWithChoice(Shell::InvoicingTab, "cmb7RateTable", caption, "grd7Table", "sstab7Invoicing", 0),
        .change = Number(number),
@@ -78,7 +78,7 @@ std::vector<WritingScreen> Invoicing() {
   };
   return {
       Edited({.name = "CopyrightRates",
-              .place = "tab-10-invoicing-0",
+              .place = "tab-07-invoicing-0",
               .table = "ID_COPYRIGHT_CMP",
               .fields = {{"txt7Description", "COPYRIGHT_CMP_DESC", Trimmed::EndsAndUpper, Trimmed::Ends}},
               .open = rateTable("Copyright Comply"),
@@ -92,7 +92,7 @@ std::vector<WritingScreen> Invoicing() {
       Rate("RejectRates", "Reject Code Rates", "ID_RATE_REJECT", "EXCEPTION_CODE", "txt7aFlatFee"),
       Rate("ServiceRates", "Service Level Rates", "ID_RATE_SERVICE", "SERVICE_LEVEL", "txt7aFlatFee"),
       Edited({.name = "AliasRates",
-              .place = "tab-10-invoicing-0",
+              .place = "tab-07-invoicing-0",
               .table = "ID_RATE_ALIAS",
               .open = rateTable("Billing Rate Alias"),
               .change = Another("cmb7Alias"),
@@ -105,7 +105,7 @@ std::vector<WritingScreen> Invoicing() {
               .grid = "grd7Table",
               .marks = {{2, "cmb7aBillingRate"}, {4, "cmb7RequestingLibrary"}}}),
       Edited({.name = "BillingRates",
-              .place = "tab-10-invoicing-1",
+              .place = "tab-07-invoicing-1",
               .table = "ID_BILLING_RATE",
               .fields = {{"txt7BillingDescription", "BILLING_RATE_DESC"}},
               .open = Tab(Shell::InvoicingTab, "grd7BillingRate", "sstab7Invoicing", 1),
@@ -121,7 +121,7 @@ std::vector<WritingScreen> Exceptions() {
   };
   return {
       Edited({.name = "ExceptionCodes",
-              .place = "tab-09-exceptions-0",
+              .place = "tab-08-exceptions-0",
               .table = "ID_EXCEPTION_CODE",
               .fields = {{"txt8Description", "EXCEPTION_CODE_DESC"}},
               .open = tab("grd8Table", 0),
@@ -129,7 +129,7 @@ std::vector<WritingScreen> Exceptions() {
               .grid = "grd8Table",
               .marks = {{1, "txt8Code"}}}),
       Edited({.name = "ValidExceptions",
-              .place = "tab-09-exceptions-1",
+              .place = "tab-08-exceptions-1",
               .table = "ID_EXCEPTION_PROCESS",
               .fields = {{"txt8Message1", "MESSAGE"}},
               .open = tab("grd8Document", 1),
@@ -139,7 +139,7 @@ std::vector<WritingScreen> Exceptions() {
               .marks = {{1, "cmb8DocumentSupply", true}, {2, "cmb8ProcessType", true}}}),
       // A pair with one note at most, which is edited here.
       OnlyUpdated({.name = "ValidExceptionNote",
-                   .place = "tab-09-exceptions-1",
+                   .place = "tab-08-exceptions-1",
                    .table = "ID_EXCEPTION_PROCESS",
                    .fields = {{"txt8Message1", "MESSAGE"}, {"txtExceptionNote", "EXCEPTION_NOTE"}},
                    .open =
@@ -150,7 +150,7 @@ std::vector<WritingScreen> Exceptions() {
                        }}),
       NeverUpdated(
           {.name = "ExceptionGroups",
-           .place = "tab-09-exceptions-2",
+           .place = "tab-08-exceptions-2",
            .table = "ID_ACCESS_EXCEPTION",
            .open = TabWithChoice(Shell::ExceptionsTab, "cmb8AccessGroup", "ADM", "grd8dTable", "sstab8Exception", 2),
            .choose =
@@ -159,7 +159,7 @@ std::vector<WritingScreen> Exceptions() {
            .marks = {{1, "cmb8dException", true}}}),
       // Its buttons are off; the menu is on.
       {.name = "IsoRejects",
-       .place = "tab-09-exceptions-3",
+       .place = "tab-08-exceptions-3",
        .table = "ID_EXCEPTION_ISO",
        .open =
            [tab](ReliabilityDesk& desk) {
@@ -222,28 +222,28 @@ std::vector<WritingScreen> WritingTabs() {
               .grid = "grd4AutoReject",
               .marks = {{1, "txt4Code"}}}),
       OnlyUpdated({.name = "RequestType",
-                   .place = "tab-05-request-type",
+                   .place = "tab-09-request-type",
                    .table = "ID_REQUEST_TYPE",
                    .fields = {{"txt9Description", "REQUEST_TYPE_DESC"}},
                    .open = Tab(Shell::RequestTypeTab, "grd9RequestType")}),
-      Audit("AuditLocations", "tab-06-audit-codes-0", "ID_STAT_LOCATION", "STAT_LOCATION", "txt10aCode",
+      Audit("AuditLocations", "tab-10-audit-codes-0", "ID_STAT_LOCATION", "STAT_LOCATION", "txt10aCode",
             "STAT_LOCATION_DESC", "txt10aDescription", "grd10aTable", 0),
-      Audit("AuditFunctions", "tab-06-audit-codes-1", "ID_STAT_FUNCTION", "STAT_FUNCTION", "txt10bCode",
+      Audit("AuditFunctions", "tab-10-audit-codes-1", "ID_STAT_FUNCTION", "STAT_FUNCTION", "txt10bCode",
             "STAT_FUNCTION_DESC", "txt10bDescription", "grd10bTable", 1),
-      Methods("DeliveryMethods", "tab-07-delivery-messaging-0", "ID_DELIV_METHOD", "DELIV_METHOD", "txt5aCode",
+      Methods("DeliveryMethods", "tab-05-delivery-messaging-0", "ID_DELIV_METHOD", "DELIV_METHOD", "txt5aCode",
               "DELIV_METHOD_DESC", "txt5aDescription", "grd5aTable", 0),
-      Methods("MessagingMethods", "tab-07-delivery-messaging-1", "ID_MSG_METHOD", "MSG_METHOD", "txt5bCode",
+      Methods("MessagingMethods", "tab-05-delivery-messaging-1", "ID_MSG_METHOD", "MSG_METHOD", "txt5bCode",
               "MSG_METHOD_DESC", "txt5bDescription", "grd5bTable", 1),
-      Methods("RequestMethods", "tab-07-delivery-messaging-2", "ID_REQ_METHOD", "REQ_METHOD", "txt5cCode",
+      Methods("RequestMethods", "tab-05-delivery-messaging-2", "ID_REQ_METHOD", "REQ_METHOD", "txt5cCode",
               "REQ_METHOD_DESC", "txt5cDescription", "grd5cTable", 2),
       Edited({.name = "PickupLocations",
-              .place = "tab-07-delivery-messaging-3",
+              .place = "tab-05-delivery-messaging-3",
               .table = "ID_PICKUP_LOCATION",
               .fields = {{"txt5dDescription", "PICKUP_LOCATION_DESC"},
                          {"txt5dILSCode", "PICKUP_LOCATION_ILS"},
                          {"txt5dDeliverySystemCode", "DELIVERY_SYSTEM_CODE"}},
               .open = Tab(Shell::DeliveryTab, "grd5dTable", "sstab5Delivery", 3),
-              .keys = {{"txt5dCode", "PICKUP_LOCATION"}},
+              .keys = {{"txt5dCode", "PICKUP_LOCATION", Trimmed::EndsAndUpper}},
               .grid = "grd5dTable",
               .marks = {{1, "txt5dLibrarySymbol"}, {2, "txt5dCode"}}}),
   };

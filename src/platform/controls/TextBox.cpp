@@ -53,7 +53,7 @@ QString TextBox::TrimInPlace() {
 }
 
 QString TextBox::TrimUpperInPlace() {
-  const QString upper = text().trimmed().toUpper();
+  const QString upper = TextInput::Upper(text().trimmed());
   if (upper != text()) SetText(upper);
   return upper;
 }

@@ -53,6 +53,17 @@ QString Lines(const QString& foreign) {
   return WithPlainLineEnds(foreign);
 }
 
+QString Upper(const QString& text) {
+  if (text.isValidUtf16()) return text.toUpper();
+  QString upper;
+  for (qsizetype at = 0; at < text.size();) {
+    const bool pair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+    upper += pair || !text[at].isSurrogate() ? text.mid(at, pair ? 2 : 1).toUpper() : QString(text[at]);
+    at += pair ? 2 : 1;
+  }
+  return upper;
+}
+
 QString Fitting(const QString& text, qsizetype room) {
   if (text.size() <= room) return text;
   if (room <= 0) return {};

@@ -16,6 +16,10 @@ QString OneLine(const QString& foreign);
 // Foreign text for a box of several lines: every line end becomes "\n", tabs stay, other control characters go.
 QString Lines(const QString& foreign);
 
+// In capitals. Half of a surrogate pair stays what it is, so that nothing takes it for a letter later on: Qt makes one
+// of it and of what stands behind it.
+QString Upper(const QString& text);
+
 // The beginning of the text that fits into that many UTF-16 units, never half a surrogate pair.
 QString Fitting(const QString& text, qsizetype room);
 
