@@ -240,8 +240,11 @@ TEST_P(HostileTextTest, ComesBackAsTyped) {
   for (const QString& counter : Subject().counters) others.removeAll(counter);
   EXPECT_EQ(others.join(' ').toStdString(), Subject().alsoWrites.toStdString());
   // Otherwise the case would have seen refusals only. Of the short codes of new records many are taken already, and of
-  // a few texts chance may refuse most.
-  EXPECT_GT(stored, Adds() || sent < 300 ? 0 : sent / 4) << stored << " of " << sent;
+  // a few records chance may refuse all.
+  const bool enough = sent >= 20 * int(fields);
+  if (enough) {
+    EXPECT_GT(stored, Adds() || sent < 300 ? 0 : sent / 4) << stored << " of " << sent;
+  }
   RecordProperty("texts", sent);
   RecordProperty("stored", stored);
 }

@@ -235,6 +235,7 @@ std::vector<Sent> OfActions() {
       {"LibraryBilling", "Update", 1, "update LIBRARY", 1},
       {"LibraryLogin", "Update", 2, "read LIBRARY, update LIBRARY", 1},
       {"LibraryStatistical", "Update", 1, "update LIBRARY", 1},
+      {"LibraryRapid", "Update", 1, "update LIBRARY", 1},
       {"NCIPServer", "Update", 1, "update NCIP_CONNECT"},
       {"NCIPServer", "Add", 1, "insert NCIP_CONNECT"},
       {"NCIPServer", "Delete", 1, "delete NCIP_CONNECT"},
