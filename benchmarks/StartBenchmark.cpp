@@ -15,11 +15,6 @@
 
 namespace {
 
-struct Start {
-  double ready = 0;     // milliseconds from before the process was made until its window was painted
-  double password = 0;  // milliseconds of the password check in it
-};
-
 // The number behind `word` in what a process told; ends the benchmark where it is missing.
 long long Told(const QByteArray& output, const QByteArray& word) {
   for (const QByteArray& line : output.split('\n'))
@@ -28,20 +23,22 @@ long long Told(const QByteArray& output, const QByteArray& word) {
   std::exit(1);
 }
 
-Start Run(const QString& program, const QStringList& arguments, bool withPassword) {
+// What the process told behind `word`.
+long long Run(const QString& program, const QStringList& arguments, const QByteArray& word) {
   QProcess process;
   process.setProcessChannelMode(QProcess::MergedChannels);
-  const long long begin = SharedClock();
   process.start(program, arguments);
   if (!process.waitForFinished(60'000)) {
     std::fprintf(stderr, "%s does not end\n", qPrintable(program));
     std::exit(1);
   }
-  const QByteArray output = process.readAll();
-  Start start;
-  start.ready = double(Told(output, "ready") - begin) / 1e6;
-  if (withPassword) start.password = double(Told(output, "password")) / 1e6;
-  return start;
+  return Told(process.readAll(), word);
+}
+
+// Milliseconds from before the process was made until its window was painted.
+double UntilReady(const QString& program, const QStringList& arguments) {
+  const long long begin = SharedClock();
+  return double(Run(program, arguments, "ready") - begin) / 1e6;
 }
 
 bool MakeSite(const QTemporaryDir& folder) {
@@ -70,16 +67,17 @@ int main(int argc, char** argv) {
   const QString beside = QCoreApplication::applicationDirPath() + '/';
   std::vector<double> empty, framed, started, password, toEmpty, toFramed;
   for (int round = 0; round <= rounds; ++round) {
-    const double bare = Run(beside + "empty-window", {}, false).ready;
-    const double frame = Run(beside + "empty-window", {"--frame"}, false).ready;
-    const Start program = Run(beside + "started-program", {"", "admin", "secret"}, true);
+    const double bare = UntilReady(beside + "empty-window", {});
+    const double frame = UntilReady(beside + "empty-window", {"--frame"});
+    const double check = double(Run(beside + "started-program", {"--password"}, "password")) / 1e6;
+    const double program = UntilReady(beside + "started-program", {"", "admin", "secret"}) - check;
     if (round == 0) continue;
     empty.push_back(bare);
     framed.push_back(frame);
-    started.push_back(program.ready - program.password);
-    password.push_back(program.password);
-    toEmpty.push_back(started.back() / bare);
-    toFramed.push_back(started.back() / frame);
+    started.push_back(program);
+    password.push_back(check);
+    toEmpty.push_back(program / bare);
+    toFramed.push_back(program / frame);
   }
   std::printf("medians of %d rounds\n", rounds);
   std::printf("empty window painted              %7.1f ms\n", Median(empty));

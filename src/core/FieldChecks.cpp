@@ -1,6 +1,5 @@
 #include "core/FieldChecks.h"
 
-#include <QHostAddress>
 #include <QUrl>
 #include <algorithm>
 
@@ -59,9 +58,11 @@ bool IsFourNumbers(const QString& host) {
 }
 
 bool IsIPv6(const QString& host) {
-  QHostAddress address;
-  return host.contains(':') && !host.contains('%') && address.setAddress(host) &&
-         address.protocol() == QAbstractSocket::IPv6Protocol;
+  // In brackets a later version of the protocol could stand as well: "v7.".
+  if (!host.contains(':') || host.contains('%') || host.startsWith('v', Qt::CaseInsensitive)) return false;
+  QUrl url;
+  url.setHost('[' + host + ']', QUrl::DecodedMode);
+  return url.isValid() && !url.host().isEmpty();
 }
 
 bool CheckHost(const QString& host, QString& reason) {

@@ -76,7 +76,8 @@ TEST(NetworkAddress, IPv6PassesBareAndInBrackets) {
 
 TEST(NetworkAddress, BrokenIPv6IsRefused) {
   ExpectRefused(FieldChecks::IsNetworkAddress, {"1::2::3", "[::1", "[::1]x", "[::1]:", "[::1]:x", "[::1]:65536", "[]",
-                                                "[1.2.3.4]", "[host]:1", "fe80::1%eth0", "2001:db8::g", "::1]"});
+                                                "[1.2.3.4]", "[host]:1", "fe80::1%eth0", "2001:db8::g", "::1]",
+                                                "[v7.::1]", "[[::1]]", "[::1 ]", "1:2:3:4:5:6:7:8:9", "::1/64"});
 }
 
 TEST(NetworkAddress, HostNamesPass) {
