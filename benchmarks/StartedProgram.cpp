@@ -36,10 +36,7 @@ int main(int argc, char** argv) {
   SetPrompts(&terminal);
   RegisterDialogs();
   frmTabulon window(commandLine);
-  RegisterTabs(window);
-  window.Form_Initialize();
-  window.show();
-  window.Form_Activate();
+  OpenMainScreen(window);
   QApplication::processEvents();
   if (!window.Page(frmTabulon::CodeTablesTab)) return 1;
   TellReady();

@@ -118,3 +118,10 @@ void RegisterDialogs() {
   RegisterScreen<frmNCIPUnitLibraryMapping>("frmNCIPUnitLibraryMapping");
   RegisterScreen<frmNCIPProfile>("frmNCIPProfile");
 }
+
+void OpenMainScreen(frmTabulon& shell) {
+  RegisterTabs(shell);
+  shell.Form_Initialize();
+  shell.show();
+  shell.Form_Activate();
+}

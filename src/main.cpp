@@ -54,9 +54,6 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIntValue("OSTANA_UNATTENDED") == 1) SetPrompts(&terminal);
   RegisterDialogs();
   frmTabulon window(commandLine);
-  RegisterTabs(window);
-  window.Form_Initialize();
-  window.show();
-  window.Form_Activate();
+  OpenMainScreen(window);
   return QApplication::exec();
 }

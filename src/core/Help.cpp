@@ -8,6 +8,7 @@
 #include <QShortcut>
 #include <QUrl>
 
+#include "core/Icons.h"
 #include "core/Messages.h"
 #include "platform/controls/FormLayout.h"
 
@@ -72,7 +73,7 @@ void OpenByF1(QWidget& window, std::function<QString()> page) {
 void AddEntry(QMenu& menu, QWidget& window, std::function<QString()> page) {
   // The key is only told: it is the window's shortcut already.
   QAction* const entry = Form::MenuEntry(&menu, "mnuHelpGuide", "&Guide\tF1");
-  entry->setIcon(QIcon(":/icons/help.svg"));
+  entry->setIcon(OwnIcon("help"));
   QObject::connect(entry, &QAction::triggered, &window, [&window, page] { OpenHelp(page(), &window); });
   menu.addSeparator();
 }

@@ -10,6 +10,7 @@
 #include "core/PasswordCipher.h"
 #include "platform/ado/Dialect.h"
 #include "platform/files/IniFile.h"
+#include "platform/files/IniText.h"
 
 namespace {
 
@@ -28,11 +29,11 @@ constexpr std::array<EngineName, 4> EngineNames{{{"SQLITE", Engine::Sqlite},
 // Reads the settings of one section and keeps the first complaint.
 class SectionReader {
  public:
-  SectionReader(const QString& file, const QString& section, QString& error)
-      : file_(file), section_(section), error_(error) {}
+  SectionReader(const IniText& text, const QString& file, const QString& section, QString& error)
+      : text_(text), file_(file), section_(section), error_(error) {}
 
   QString Text(const QString& key, const QString& otherwise = {}) const {
-    const QString value = IniFile::ReadValue(file_, section_, key, LongestSetting);
+    const QString value = IniFile::Value(text_, section_, key, LongestSetting);
     return value.trimmed().isEmpty() ? otherwise : value;
   }
 
@@ -65,6 +66,7 @@ class SectionReader {
   }
 
  private:
+  const IniText& text_;
   const QString& file_;
   QString section_;
   QString& error_;
@@ -83,7 +85,7 @@ QString BelowApplicationPath(const QString& name, const QString& applicationPath
   return name.isEmpty() ? QString() : QDir::cleanPath(QDir(applicationPath).absoluteFilePath(name));
 }
 
-bool FindSettingsFile(SiteSettings& settings, QString& error) {
+bool ReadSettingsFile(SiteSettings& settings, IniText& text, QString& error) {
   settings.applicationPath = FindApplicationPath();
   settings.settingsFile = Files::FindIgnoringCase(settings.applicationPath, SettingsName);
   if (!QFileInfo::exists(settings.settingsFile)) {
@@ -94,15 +96,16 @@ bool FindSettingsFile(SiteSettings& settings, QString& error) {
     return false;
   }
   QString reason;
-  if (IniFile::IsReadable(settings.settingsFile, &reason)) return true;
+  if (IniFile::Read(settings.settingsFile, text, &reason)) return true;
   error = QStringLiteral("The settings file cannot be used.  %1  Put a copy of a sound settings file in its place.")
               .arg(reason);
   return false;
 }
 
-std::optional<QString> FindDatabaseSection(const QString& site, const QString& file, QString& error) {
+std::optional<QString> FindDatabaseSection(const QString& site, const IniText& text, const QString& file,
+                                           QString& error) {
   const QString common = QStringLiteral("Database");
-  const QStringList sections = IniFile::Sections(file);
+  const QStringList sections = text.Sections();
   const QString own = common + ' ' + site;
   if (!site.isEmpty() && sections.contains(own, Qt::CaseInsensitive)) return own;
   if (sections.contains(common, Qt::CaseInsensitive)) return common;
@@ -186,11 +189,12 @@ QString KeyFileOf(const QString& settingsFile) {
 bool LoadSiteSettings(const QString& site, SiteSettings& settings, QString& error) {
   error.clear();
   SiteSettings read;
-  if (!FindSettingsFile(read, error)) return false;
-  const std::optional<QString> database = FindDatabaseSection(site, read.settingsFile, error);
+  IniText text;
+  if (!ReadSettingsFile(read, text, error)) return false;
+  const std::optional<QString> database = FindDatabaseSection(site, text, read.settingsFile, error);
   if (!database) return false;
-  ReadDatabase(SectionReader(read.settingsFile, *database, error), read);
-  ReadSystem(SectionReader(read.settingsFile, "System", error), read);
+  ReadDatabase(SectionReader(text, read.settingsFile, *database, error), read);
+  ReadSystem(SectionReader(text, read.settingsFile, "System", error), read);
   if (!error.isEmpty()) return false;
   settings = read;
   return true;

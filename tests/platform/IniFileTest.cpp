@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 
 #include "platform/FileSizeLimit.h"
+#include "platform/files/IniText.h"
 
 namespace {
 
@@ -39,6 +40,11 @@ class IniFileTest : public testing::Test {
  private:
   QTemporaryDir directory_;
 };
+
+bool IsReadable(const QString& path, QString* reason) {
+  IniText text;
+  return IniFile::Read(path, text, reason);
+}
 
 QByteArray Utf16(const QString& text, bool bigEndian) {
   QByteArray bytes = bigEndian ? "\xFE\xFF" : "\xFF\xFE";
@@ -131,7 +137,7 @@ TEST_F(IniFileTest, RandomBytesAreNoTextFile) {
     QByteArray bytes(65536, '\0');
     for (char& byte : bytes) byte = char(random.bounded(256));
     QString reason;
-    EXPECT_FALSE(IniFile::IsReadable(Store(bytes), &reason));
+    EXPECT_FALSE(IsReadable(Store(bytes), &reason));
     EXPECT_EQ(reason, "The file '" + Path() + "' is not a text file.");
     EXPECT_TRUE(IniFile::ReadValue(Path(), "A", "Key").isEmpty());
     EXPECT_FALSE(IniFile::WriteValue(Path(), "A", "Key", "1", &reason));
@@ -145,7 +151,7 @@ TEST_F(IniFileTest, FileOf50MegabytesIsRefused) {
   ASSERT_TRUE(file.resize(50 * 1024 * 1024));
   file.close();
   QString reason;
-  EXPECT_FALSE(IniFile::IsReadable(Path(), &reason));
+  EXPECT_FALSE(IsReadable(Path(), &reason));
   EXPECT_EQ(reason, "The file '" + Path() + "' is larger than 16 MB and cannot be a settings file.");
   EXPECT_TRUE(IniFile::ReadValue(Path(), "A", "Key").isEmpty());
 }
@@ -154,7 +160,7 @@ TEST_F(IniFileTest, LargestFileIsRead) {
   QByteArray bytes = "[A]\nKey=1\n";
   bytes.resize(16 * 1024 * 1024, ' ');
   EXPECT_EQ(IniFile::ReadValue(Store(bytes), "A", "Key"), "1");
-  EXPECT_FALSE(IniFile::IsReadable(Store(bytes + ' '), nullptr));
+  EXPECT_FALSE(IsReadable(Store(bytes + ' '), nullptr));
 }
 
 TEST_F(IniFileTest, OneLineWithoutEndIsRead) {
@@ -170,11 +176,11 @@ TEST_F(IniFileTest, MillionsOfEmptyLinesAreRead) {
 
 TEST_F(IniFileTest, AbsentFileAndDirectoryAreNotReadable) {
   QString reason;
-  EXPECT_FALSE(IniFile::IsReadable(Path("absent.ini"), &reason));
+  EXPECT_FALSE(IsReadable(Path("absent.ini"), &reason));
   EXPECT_EQ(reason, "The file '" + Path("absent.ini") + "' does not exist.");
-  EXPECT_FALSE(IniFile::IsReadable(QFileInfo(Path()).path(), &reason));
+  EXPECT_FALSE(IsReadable(QFileInfo(Path()).path(), &reason));
   EXPECT_TRUE(reason.endsWith("is not a file."));
-  EXPECT_TRUE(IniFile::IsReadable(Store(""), &reason));
+  EXPECT_TRUE(IsReadable(Store(""), &reason));
 }
 
 TEST_F(IniFileTest, WritingChangesTheValueOnly) {

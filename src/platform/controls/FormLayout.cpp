@@ -192,11 +192,14 @@ void Rows::Place(QLabel* label, QWidget* field, QWidget* behind, int column) {
     button->setAccessibleDescription(caption);
   const bool tall = IsTall(field);
   // The first line of a tall field and its label stand on one line.
-  if (tall)
+  if (tall) {
     label->setContentsMargins(0, 4, 0, 0);
-  else
+  } else {
+    // A list is made to learn it, so it is asked once for a form.
+    if (rowHeight_ == 0) rowHeight_ = RowHeight(field);
     for (QWidget* part : {static_cast<QWidget*>(label), field, behind})
-      if (part != nullptr) part->setMinimumHeight(RowHeight(field));
+      if (part != nullptr) part->setMinimumHeight(rowHeight_);
+  }
   layout_->addWidget(label, row_, column, tall ? Qt::AlignLeft | Qt::AlignTop : Qt::AlignLeft | Qt::AlignVCenter);
   const int end = Columns;
   layout_->addLayout(Line(field, behind), row_, column + 1, 1, end - column - 1);

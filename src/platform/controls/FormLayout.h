@@ -44,6 +44,7 @@ class Rows {
   void Place(QLabel* label, QWidget* field, QWidget* behind, int column);
   QGridLayout* layout_;
   int row_ = -1;
+  int rowHeight_ = 0;  // pixels; 0 until the first row
 };
 
 // Buttons in one row, at the right end; nullptr is a gap that takes the room.

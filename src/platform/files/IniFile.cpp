@@ -12,26 +12,6 @@ namespace {
 
 constexpr qint64 LargestFile = 16 * 1024 * 1024;  // bytes
 
-bool Load(const QString& path, IniText& text, QString* reason) {
-  const auto fail = [&](const QString& why) {
-    if (reason) *reason = why;
-    return false;
-  };
-  const QFileInfo info(path);
-  if (!info.exists()) return fail(QStringLiteral("The file '%1' does not exist.").arg(path));
-  if (!info.isFile()) return fail(QStringLiteral("'%1' is not a file.").arg(path));
-  if (info.size() > LargestFile)
-    return fail(QStringLiteral("The file '%1' is larger than 16 MB and cannot be a settings file.").arg(path));
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly))
-    return fail(QStringLiteral("The file '%1' cannot be read: %2.").arg(path, file.errorString()));
-  const QByteArray bytes = file.read(qMin(file.size(), LargestFile));
-  if (file.error() != QFileDevice::NoError)
-    return fail(QStringLiteral("The file '%1' cannot be read: %2.").arg(path, file.errorString()));
-  if (!text.Decode(bytes)) return fail(QStringLiteral("The file '%1' is not a text file.").arg(path));
-  return true;
-}
-
 bool Store(const QString& path, const QByteArray& bytes, QString* reason) {
   QSaveFile file(path);
   // Committing alone does not notice that the last buffer found no room.
@@ -66,25 +46,43 @@ QString WhyUnwritable(const QString& section, const QString& key, const QString&
 
 }  // namespace
 
-QString ReadValue(const QString& path, const QString& section, const QString& key, int maxLength) {
-  IniText text;
-  if (!Load(path, text, nullptr)) return {};
-  return Cut(text.Value(section, key), qMax(0, maxLength));
+bool Read(const QString& path, IniText& text, QString* reason) {
+  const auto fail = [&](const QString& why) {
+    if (reason) *reason = why;
+    return false;
+  };
+  const QFileInfo info(path);
+  if (!info.exists()) return fail(QStringLiteral("The file '%1' does not exist.").arg(path));
+  if (!info.isFile()) return fail(QStringLiteral("'%1' is not a file.").arg(path));
+  if (info.size() > LargestFile)
+    return fail(QStringLiteral("The file '%1' is larger than 16 MB and cannot be a settings file.").arg(path));
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly))
+    return fail(QStringLiteral("The file '%1' cannot be read: %2.").arg(path, file.errorString()));
+  const QByteArray bytes = file.read(qMin(file.size(), LargestFile));
+  if (file.error() != QFileDevice::NoError)
+    return fail(QStringLiteral("The file '%1' cannot be read: %2.").arg(path, file.errorString()));
+  if (!text.Decode(bytes)) return fail(QStringLiteral("The file '%1' is not a text file.").arg(path));
+  return true;
 }
 
-bool IsReadable(const QString& path, QString* reason) {
+QString ReadValue(const QString& path, const QString& section, const QString& key, int maxLength) {
   IniText text;
-  return Load(path, text, reason);
+  return Read(path, text, nullptr) ? Value(text, section, key, maxLength) : QString();
+}
+
+QString Value(const IniText& text, const QString& section, const QString& key, int maxLength) {
+  return Cut(text.Value(section, key), qMax(0, maxLength));
 }
 
 QStringList Sections(const QString& path) {
   IniText text;
-  return Load(path, text, nullptr) ? text.Sections() : QStringList();
+  return Read(path, text, nullptr) ? text.Sections() : QStringList();
 }
 
 QStringList Keys(const QString& path, const QString& section) {
   IniText text;
-  return Load(path, text, nullptr) ? text.Keys(section) : QStringList();
+  return Read(path, text, nullptr) ? text.Keys(section) : QStringList();
 }
 
 bool WriteValue(const QString& path, const QString& section, const QString& key, const QString& value,
@@ -95,7 +93,7 @@ bool WriteValue(const QString& path, const QString& section, const QString& key,
     return false;
   }
   IniText text;
-  if (QFileInfo::exists(path) && !Load(path, text, reason)) return false;
+  if (QFileInfo::exists(path) && !Read(path, text, reason)) return false;
   text.SetValue(section, key, value);
   QByteArray bytes;
   if (!text.Encode(bytes)) {

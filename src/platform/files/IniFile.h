@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+class IniText;
+
 // The system's INI files: sections in brackets, "key=value" lines, ";" or "#" at the start of a line opens a comment.
 // Section and key are found without regard to letter case; blanks around both and around a value are dropped, unless
 // the value is enclosed in double quotes, which are then dropped themselves. UTF-8, UTF-16 with a byte order mark, or
@@ -14,8 +16,11 @@ inline constexpr int LongestValue = 500;  // characters
 // The value, cut to maxLength characters; empty when file, section or key is missing. A value of blanks only is kept.
 QString ReadValue(const QString& path, const QString& section, const QString& key, int maxLength = LongestValue);
 
-// False with a reason for the user when the file is absent, too large or not text.
-bool IsReadable(const QString& path, QString* reason);
+// The whole file, for who wants many values of one moment. False with a reason for the user when it is absent, too
+// large or not text.
+bool Read(const QString& path, IniText& text, QString* reason);
+// The value in a text that was read, cut like that of ReadValue.
+QString Value(const IniText& text, const QString& section, const QString& key, int maxLength = LongestValue);
 
 QStringList Sections(const QString& path);
 QStringList Keys(const QString& path, const QString& section);
