@@ -20,8 +20,8 @@
 #include "editors/AutoRejects.h"
 #include "editors/CodeTables.h"
 #include "editors/CoverPages.h"
-#include "editors/Departments.h"
 #include "editors/Delivery.h"
+#include "editors/Departments.h"
 #include "editors/Exceptions.h"
 #include "editors/Invoicing.h"
 #include "editors/LoansTab.h"
@@ -108,8 +108,8 @@ void RegisterDialogs() {
   RegisterScreen<frmLibrarySequence>("frmLibrarySequence");
   RegisterScreen<frmDeliveryEmailTemplate>("frmDeliveryEmailTemplate");
   RegisterScreen<frmLibraryAnnotationTemplate>("frmLibraryAnnotationTemplate");
-  for (const QString name : {"frmRequestArticle", "frmRequestBook", "frmQueryRequests", "frmPatronRegistration",
-                             "frmSupplierRegistration"})
+  for (const QString name :
+       {"frmRequestArticle", "frmRequestBook", "frmQueryRequests", "frmPatronRegistration", "frmSupplierRegistration"})
     RegisterScreen(name, [name](QWidget* owner) { return std::make_unique<ForeignForm>(name, owner); });
   RegisterScreen<frmISO18626Connect>("frmISO18626Connect");
   RegisterScreen<frmNCIPServerConnection>("frmNCIPServerConnection");

@@ -1,6 +1,6 @@
 #include <QApplication>
-#include <cstdio>
 #include <QTimer>
+#include <cstdio>
 
 #include "Screens.h"
 #include "core/CommandLine.h"

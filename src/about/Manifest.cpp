@@ -16,6 +16,8 @@ QString RightsLine() {
   return "Copyright " + date + ". All rights reserved.";
 }
 
-QString VendorKey(const QString& version) { return "SOFTWARE\\Ostana\\" + version; }
+QString VendorKey(const QString& version) {
+  return "SOFTWARE\\Ostana\\" + version;
+}
 
 }  // namespace Manifest

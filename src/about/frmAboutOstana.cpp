@@ -13,9 +13,8 @@
 frmAboutOstana::frmAboutOstana(QWidget* parent) : Screen("frmAboutOstana", "About Ostana", parent) {
   BuildControls();
   connect(cmdOtherInfo, &QPushButton::clicked, this, &frmAboutOstana::cmdOtherInfo_Click);
-  connect(cmdSysInfo, &QPushButton::clicked, this, [this] {
-    Procedure("frmAboutOstana.cmdSysInfo_Click", this).Run([this] { StartSysInfo(); });
-  });
+  connect(cmdSysInfo, &QPushButton::clicked, this,
+          [this] { Procedure("frmAboutOstana.cmdSysInfo_Click", this).Run([this] { StartSysInfo(); }); });
   connect(cmdOK, &QPushButton::clicked, this, [this] { Unload(); });
 }
 
@@ -37,8 +36,8 @@ void frmAboutOstana::BuildControls() {
   Form::Rows rows(table);
   rows.Add(lblVersion, lblVersionValue);
   rows.Add(lblEdition, lblEditionValue);
-  QVBoxLayout* const column = Form::Column(this, {title, lblContact, lblInstitution, table, lblSupport, lblCopyright,
-                                                  lblDisclaimer, txtMoreInfo});
+  QVBoxLayout* const column = Form::Column(
+      this, {title, lblContact, lblInstitution, table, lblSupport, lblCopyright, lblDisclaimer, txtMoreInfo});
   column->addStretch();
   column->addLayout(Form::ButtonRow({cmdOtherInfo, cmdSysInfo, nullptr, cmdOK}));
   resize(520, 360);
@@ -76,16 +75,17 @@ void frmAboutOstana::Form_Load() {
 void frmAboutOstana::cmdOtherInfo_Click() {
   const bool show = txtMoreInfo->isHidden();
   if (show && txtMoreInfo->Text().isEmpty())
-    txtMoreInfo->SetText("Images of delivered pages are read and written with imaging library components that are "
-                         "licensed from their makers. Their rights remain with them.");
+    txtMoreInfo->SetText(
+        "Images of delivered pages are read and written with imaging library components that are "
+        "licensed from their makers. Their rights remain with them.");
   txtMoreInfo->setVisible(show);
   cmdOtherInfo->setText(show ? "&Less Info." : "&More Info.");
 }
 
 void frmAboutOstana::StartSysInfo() {
   QString path;
-  bool found = Registry::GetKeyValue(Registry::Root::LocalMachine, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH",
-                                     path);
+  bool found =
+      Registry::GetKeyValue(Registry::Root::LocalMachine, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", path);
   if (!found && Registry::GetKeyValue(Registry::Root::LocalMachine, "SOFTWARE\\Microsoft\\Shared Tools Location",
                                       "MSINFO", path)) {
     path += "\\MSINFO32.EXE";

@@ -17,7 +17,7 @@ enum class Trim { None, Both, BothUpper };
 
 struct BoundField {
   QWidget* control;
-  int column;                                  // of the grid
+  int column;  // of the grid
   std::function<QString()> get;
   std::function<void(const QString&)> set;
   std::function<void()> trim;

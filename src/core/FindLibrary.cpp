@@ -26,8 +26,9 @@ class SessionKept {
     gclsOF->SetCallingFunction(calling_);
     // On the way out of a failure its message is still to be told.
     const QScopedValueRollback inForce(gstrErrorMessage);
-    Procedure("FindLibrary").Step(
-        [this] { gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), function_); });
+    Procedure("FindLibrary").Step([this] {
+      gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), function_);
+    });
   }
   SessionKept(const SessionKept&) = delete;
   SessionKept& operator=(const SessionKept&) = delete;
@@ -62,9 +63,9 @@ FoundLibrary FindLibrary(QWidget* form, int refusedStyle) {
 }
 
 QString LibrarySymbolOf(qint32 id) {
-  return FirstValue("SELECT   LIBRARY_SYMBOL FROM " + Sql::Table("ID_LIBRARY") +
-                        " WHERE    LIBRARY_ID = " + Sql::Number(id),
-                    SelectLibraryFailed);
+  return FirstValue(
+      "SELECT   LIBRARY_SYMBOL FROM " + Sql::Table("ID_LIBRARY") + " WHERE    LIBRARY_ID = " + Sql::Number(id),
+      SelectLibraryFailed);
 }
 
 qint32 LibraryIdOfExactSymbol(const QString& symbol, const QString& failureLine) {

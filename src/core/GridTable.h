@@ -12,14 +12,14 @@ class Recordset;
 
 struct GridColumn {
   QString heading;
-  int width = 0;       // twips; 0 leaves the width as it is
+  int width = 0;  // twips; 0 leaves the width as it is
   bool hidden = false;
 };
 
 struct GridLayout {
   QString key;
-  QString grid;                      // object name
-  std::vector<GridColumn> columns;   // column 0, the marker, included
+  QString grid;                     // object name
+  std::vector<GridColumn> columns;  // column 0, the marker, included
 };
 
 // Rows of one grid. Field names by grid column from column 1 on; a name that ends in "+" takes the working language's
@@ -39,7 +39,8 @@ const GridRows* FindGridRows(const QString& key);
 void ShapeGrid(Grid& grid, const GridLayout& layout);
 // Empties the grid and fills it; the failure line stands in gstrErrorMessage meanwhile.
 void FillGrid(Grid& grid, const GridRows& rows);
-// The cells of an open recordset, by field name from column 1 on; rows are added in one load. The grid is emptied first.
+// The cells of an open recordset, by field name from column 1 on; rows are added in one load. The grid is emptied
+// first.
 void FillGridFrom(Grid& grid, Recordset& rows, const std::vector<QString>& fields);
 // The same for a statement put together by the caller, with the cells of each row.
 void FillGrid(Grid& grid, const QString& statement, const QString& failureLine,

@@ -14,7 +14,7 @@ void ID_WriteStartupLogEntry(const QString& application, const QString& qualifie
 bool ID_WriteClassFailedLog(const QString& message, const QString& detail, const QString& level, QString& qualifier);
 
 // Levels "L" entry, "S" continuation, "C" critical with version line and rotation above 100000 bytes.
-void WriteLogLines(const QString& application, const QString& qualifier, const QString& message,
-                   const QString& detail, const QString& level);
+void WriteLogLines(const QString& application, const QString& qualifier, const QString& message, const QString& detail,
+                   const QString& level);
 
 inline constexpr qint64 LogRotationSize = 100000;  // bytes on disk; a file of exactly this size is kept

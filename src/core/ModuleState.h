@@ -26,39 +26,39 @@ class OnFirstUse {
   std::shared_ptr<T> instance_;
 };
 
-inline OnFirstUse<OstanaFunctions> gclsOF;       // the common services
-inline OnFirstUse<Recordset> grsTable;           // the recordset that the main form's screens share
+inline OnFirstUse<OstanaFunctions> gclsOF;  // the common services
+inline OnFirstUse<Recordset> grsTable;      // the recordset that the main form's screens share
 
-inline QString gstrErrorMessage;                 // failure message in force, set before a risky statement
-inline QString gstrDecimalSeparator = ".";       // of the machine's locale, "." or ","
-inline char16_t gintDecimalSeparatorKey = 46;    // its character code, 46 or 44
-inline QStringList gcolLanguageCode;             // language codes, in the order of their descriptions
-inline QStringList gcolLanguageDesc;             // their descriptions, index by index
-inline QString gstrDefaultLanguageCode;          // the code marked as default; empty when none is
+inline QString gstrErrorMessage;               // failure message in force, set before a risky statement
+inline QString gstrDecimalSeparator = ".";     // of the machine's locale, "." or ","
+inline char16_t gintDecimalSeparatorKey = 46;  // its character code, 46 or 44
+inline QStringList gcolLanguageCode;           // language codes, in the order of their descriptions
+inline QStringList gcolLanguageDesc;           // their descriptions, index by index
+inline QString gstrDefaultLanguageCode;        // the code marked as default; empty when none is
 
-inline bool gbSkipGridEvents = false;            // code moves a grid's selection; grid events ignore the move
-inline bool gbSkipActivate = false;              // the next Form_Activate does nothing but clear it
-inline bool gbRecordModified = false;            // a field of the current tab has changed
-inline bool gbFillingFields = false;             // code fills fields; change handlers leave gbRecordModified alone
-inline bool gbTabGuardArmed = false;             // the question before leaving a changed record may be asked
-inline QString gstrButtonMode;                   // EnableButtons' letter of the current tab or code table
+inline bool gbSkipGridEvents = false;  // code moves a grid's selection; grid events ignore the move
+inline bool gbSkipActivate = false;    // the next Form_Activate does nothing but clear it
+inline bool gbRecordModified = false;  // a field of the current tab has changed
+inline bool gbFillingFields = false;   // code fills fields; change handlers leave gbRecordModified alone
+inline bool gbTabGuardArmed = false;   // the question before leaving a changed record may be asked
+inline QString gstrButtonMode;         // EnableButtons' letter of the current tab or code table
 
 // Hand-over between screens.
-inline bool gbLibraryActive = false;             // the library read last may be given requests
-inline bool gbVetoUnload = false;                // the unload guard stopped a hand-over
-inline bool gbCloseAfterRequest = false;         // set by request forms of other applications
-inline bool gbUseLoadBalancing = false;          // "UseLoadBalancing" of the settings
-inline bool gbAddSupplier = false;               // input of frmSupplierRegistration
-inline QString gstrSupplierCode;                 // input of frmSupplierRegistration
-inline QString gstrCoverRequestType;             // request type of the notice e-mail dialogs
-inline qint32 glngNCIPLibraryId = 0;             // owner of the NCIP connection and the unit mapping
-inline qint32 glngFoundLibraryId = 0;            // library found by the contact screen's look-up
-inline QString gstrNotesExceptionCode;           // pair whose notes frmAddExceptionNotes edits: exception code
-inline QString gstrNotesProcessType;             // and process type
-inline bool gbSaveExceptionNotes = false;        // its note list differs from the table
-inline bool gbSettingsChanged = false;           // the profile list differs from its table
-inline QString gstrISO18626ConnectionId;         // hand-over of the connection picker, both ways
-inline bool gbISO18626SelectionMode = true;      // the connection screen is opened as a picker
+inline bool gbLibraryActive = false;         // the library read last may be given requests
+inline bool gbVetoUnload = false;            // the unload guard stopped a hand-over
+inline bool gbCloseAfterRequest = false;     // set by request forms of other applications
+inline bool gbUseLoadBalancing = false;      // "UseLoadBalancing" of the settings
+inline bool gbAddSupplier = false;           // input of frmSupplierRegistration
+inline QString gstrSupplierCode;             // input of frmSupplierRegistration
+inline QString gstrCoverRequestType;         // request type of the notice e-mail dialogs
+inline qint32 glngNCIPLibraryId = 0;         // owner of the NCIP connection and the unit mapping
+inline qint32 glngFoundLibraryId = 0;        // library found by the contact screen's look-up
+inline QString gstrNotesExceptionCode;       // pair whose notes frmAddExceptionNotes edits: exception code
+inline QString gstrNotesProcessType;         // and process type
+inline bool gbSaveExceptionNotes = false;    // its note list differs from the table
+inline bool gbSettingsChanged = false;       // the profile list differs from its table
+inline QString gstrISO18626ConnectionId;     // hand-over of the connection picker, both ways
+inline bool gbISO18626SelectionMode = true;  // the connection screen is opened as a picker
 
 // True while code moves a grid's selection; the former value comes back on leaving.
 class SkipGridEvents {

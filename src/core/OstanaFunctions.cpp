@@ -224,8 +224,7 @@ bool OstanaFunctions::OpenConnection() {
     d_->connection->Open();
     return true;
   } catch (const AdoError& error) {
-    const QString text =
-        QStringLiteral("The database '%1' cannot be opened: %2  The settings are those of '%3'.");
+    const QString text = QStringLiteral("The database '%1' cannot be opened: %2  The settings are those of '%3'.");
     return d_->Refuse(text.arg(d_->settings.connection.name, error.Description(), d_->settings.settingsFile));
   }
 }

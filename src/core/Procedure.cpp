@@ -33,7 +33,9 @@ bool Procedure::Run(const std::function<void()>& body) {
   return Guard(body, form_ != nullptr);
 }
 
-bool Procedure::Step(const std::function<void()>& statement) { return Guard(statement, false); }
+bool Procedure::Step(const std::function<void()>& statement) {
+  return Guard(statement, false);
+}
 
 bool Procedure::Guard(const std::function<void()>& body, bool show) {
   const std::optional<AdoError> error = Try(body);

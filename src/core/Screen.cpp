@@ -112,5 +112,9 @@ void Screen::keyPressEvent(QKeyEvent* event) {
   QDialog::keyPressEvent(event);
 }
 
-Hourglass::Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
-Hourglass::~Hourglass() { QApplication::restoreOverrideCursor(); }
+Hourglass::Hourglass() {
+  QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+Hourglass::~Hourglass() {
+  QApplication::restoreOverrideCursor();
+}

@@ -27,7 +27,9 @@ std::vector<Chain>& Chains() {
 
 }  // namespace
 
-void RegisterScreen(const QString& formName, ScreenMaker maker) { Makers()[formName] = std::move(maker); }
+void RegisterScreen(const QString& formName, ScreenMaker maker) {
+  Makers()[formName] = std::move(maker);
+}
 
 std::unique_ptr<Screen> MakeScreen(const QString& formName, QWidget* owner) {
   const auto found = Makers().find(formName);

@@ -6,21 +6,33 @@
 
 namespace Sql {
 
-QString Table(const QString& name) { return gclsOF->OwnerPrefix() + name; }
+QString Table(const QString& name) {
+  return gclsOF->OwnerPrefix() + name;
+}
 
-QString Plain(const QString& text) { return "'" + gclsOF->SqlEscape(text) + "'"; }
+QString Plain(const QString& text) {
+  return "'" + gclsOF->SqlEscape(text) + "'";
+}
 
-QString National(const QString& text) { return "N'" + gclsOF->SqlEscape(text) + "'"; }
+QString National(const QString& text) {
+  return "N'" + gclsOF->SqlEscape(text) + "'";
+}
 
-QString PlainOr(const QString& text, const QString& nullWord) { return text.isEmpty() ? nullWord : Plain(text); }
+QString PlainOr(const QString& text, const QString& nullWord) {
+  return text.isEmpty() ? nullWord : Plain(text);
+}
 
-QString NationalOr(const QString& text, const QString& nullWord) { return text.isEmpty() ? nullWord : National(text); }
+QString NationalOr(const QString& text, const QString& nullWord) {
+  return text.isEmpty() ? nullWord : National(text);
+}
 
 QString NumberOr(const QString& text, const QString& nullWord) {
   return text.trimmed().isEmpty() ? nullWord : WithPoint(text.trimmed());
 }
 
-QString Number(qint64 value) { return QString::number(value); }
+QString Number(qint64 value) {
+  return QString::number(value);
+}
 
 QString WithPoint(const QString& text) {
   QString result = text;
@@ -79,9 +91,13 @@ qint64 ExecuteInTransaction(const QString& sql, const QString& failureLine) {
   return affected;
 }
 
-QString Value(const Recordset& rows, const QString& column) { return gclsOF->FieldValue(rows.Fields(column)); }
+QString Value(const Recordset& rows, const QString& column) {
+  return gclsOF->FieldValue(rows.Fields(column));
+}
 
-QString Value(const Recordset& rows, int position) { return gclsOF->FieldValue(rows.Fields(position)); }
+QString Value(const Recordset& rows, int position) {
+  return gclsOF->FieldValue(rows.Fields(position));
+}
 
 void FillCombo(CodeComboBox& box, const QString& none, const QString& sql, const QString& failureLine,
                int descriptionField, int codeField) {

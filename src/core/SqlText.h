@@ -10,15 +10,15 @@
 // enters it only through these functions, so that none is forgotten by the escape.
 namespace Sql {
 
-QString Table(const QString& name);                    // owner prefix and name
-QString Plain(const QString& text);                    // '...'
-QString National(const QString& text);                 // N'...'
+QString Table(const QString& name);     // owner prefix and name
+QString Plain(const QString& text);     // '...'
+QString National(const QString& text);  // N'...'
 // Empty text gives the word in the letters its statement uses: "NULL" or "Null".
 QString PlainOr(const QString& text, const QString& nullWord);
 QString NationalOr(const QString& text, const QString& nullWord);
 QString NumberOr(const QString& text, const QString& nullWord);  // bare, "," turned into "."
 QString Number(qint64 value);
-QString WithPoint(const QString& text);                // "," turned into ".", otherwise as it stands
+QString WithPoint(const QString& text);  // "," turned into ".", otherwise as it stands
 
 // The columns and values of the language columns of an INSERT, both with a leading ", " each: the column prefix
 // "DEPARTMENT_DESC_" gives ", DEPARTMENT_DESC_FRE" and ", " + value for every row of gcolLanguageCode. Both are empty

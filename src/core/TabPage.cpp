@@ -24,7 +24,9 @@ void TabPage::LoadGrid() {
   if (Grid* const grid = CurrentGrid()) FillGrid(*grid, *rows);
 }
 
-int TabPage::Tell(const QString& text, int style) { return ShowMessage(text, style, shell_.Caption(), {}, &shell_); }
+int TabPage::Tell(const QString& text, int style) {
+  return ShowMessage(text, style, shell_.Caption(), {}, &shell_);
+}
 
 bool TabPage::Refuse(const QString& text, int style, QWidget* focus) {
   Tell(text, style);

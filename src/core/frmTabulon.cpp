@@ -16,11 +16,17 @@
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 
-void frmTabulon::SetTab(int index, TabRow row) { rows_.at(static_cast<size_t>(index)) = std::move(row); }
+void frmTabulon::SetTab(int index, TabRow row) {
+  rows_.at(static_cast<size_t>(index)) = std::move(row);
+}
 
-int frmTabulon::Tab() const { return tab_; }
+int frmTabulon::Tab() const {
+  return tab_;
+}
 
-void frmTabulon::SetTab(int index) { sstabtables_->setCurrentIndex(index); }
+void frmTabulon::SetTab(int index) {
+  sstabtables_->setCurrentIndex(index);
+}
 
 void frmTabulon::TabChanged(int index) {
   const int previous = tab_;
@@ -28,7 +34,9 @@ void frmTabulon::TabChanged(int index) {
   if (!movingBack_) sstabtables_Click(previous);
 }
 
-bool frmTabulon::UpdateIsPossible() const { return update_.button->isVisibleTo(this) && update_.button->isEnabled(); }
+bool frmTabulon::UpdateIsPossible() const {
+  return update_.button->isVisibleTo(this) && update_.button->isEnabled();
+}
 
 void frmTabulon::sstabtables_Click(int previousTab) {
   Procedure procedure("frmTabulon.sstabtables_Click");
@@ -146,14 +154,22 @@ void frmTabulon::RunOperation(const QString& logName, int tab, std::function<boo
   gbSkipGridEvents = false;
 }
 
-void frmTabulon::cmdAdd_Click() { RunOperation("frmTabulon.cmdAdd_Click", Tab(), &TabRow::add); }
+void frmTabulon::cmdAdd_Click() {
+  RunOperation("frmTabulon.cmdAdd_Click", Tab(), &TabRow::add);
+}
 // The record that waits is the owner's, also while another tab is on screen that was not set up.
 void frmTabulon::cmdUpdate_Click() {
   RunOperation("frmTabulon.cmdUpdate_Click", recordTab_, &TabRow::update);
 }
-void frmTabulon::cmdDelete_Click() { RunOperation("frmTabulon.cmdDelete_Click", Tab(), &TabRow::remove); }
-void frmTabulon::cmdClear_Click() { RunOperation("frmTabulon.cmdClear_Click", Tab(), &TabRow::clear); }
-void frmTabulon::cmdClose_Click() { close(); }
+void frmTabulon::cmdDelete_Click() {
+  RunOperation("frmTabulon.cmdDelete_Click", Tab(), &TabRow::remove);
+}
+void frmTabulon::cmdClear_Click() {
+  RunOperation("frmTabulon.cmdClear_Click", Tab(), &TabRow::clear);
+}
+void frmTabulon::cmdClose_Click() {
+  close();
+}
 
 void frmTabulon::closeEvent(QCloseEvent* event) {
   event->ignore();

@@ -37,7 +37,10 @@ TabRow MakeTab(void (Page::*entry)(), std::type_identity_t<bool (Page::*)()> add
     return [operation](TabPage& page) { return (static_cast<Page&>(page).*operation)(); };
   };
   return {[](frmTabulon& shell) { return static_cast<TabPage*>(new Page(shell)); },
-          [entry](TabPage& page) { (static_cast<Page&>(page).*entry)(); }, bind(add), bind(update), bind(remove),
+          [entry](TabPage& page) { (static_cast<Page&>(page).*entry)(); },
+          bind(add),
+          bind(update),
+          bind(remove),
           bind(clear)};
 }
 
@@ -48,8 +51,20 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
 
  public:
   static constexpr int TabCount = 12;
-  enum TabIndex { CodeTablesTab, CoverPagesTab, DepartmentsTab, PrintersTab, AutoRejectsTab, DeliveryTab, LoansTab,
-                  InvoicingTab, ExceptionsTab, RequestTypeTab, AuditTab, MiscellaneousTab };
+  enum TabIndex {
+    CodeTablesTab,
+    CoverPagesTab,
+    DepartmentsTab,
+    PrintersTab,
+    AutoRejectsTab,
+    DeliveryTab,
+    LoansTab,
+    InvoicingTab,
+    ExceptionsTab,
+    RequestTypeTab,
+    AuditTab,
+    MiscellaneousTab
+  };
 
   // `commandLine`: the quoted arguments as the launcher gives them.
   explicit frmTabulon(QString commandLine, QWidget* parent = nullptr);
@@ -126,9 +141,9 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   QPushButton* cmdClose_ = nullptr;
   QMenu* mnuOptions_ = nullptr;
   QLabel* status_ = nullptr;
-  int tab_ = 0;                // the tab on screen
-  int recordTab_ = 0;          // owns the record: the tab on screen, or the one left with a record that was not stored
-  bool mbFormLoaded = false;   // Form_Load has gone all the way through
-  bool mbGuardActed = false;   // the answer was Yes: the next leaving of an unsaved record returns in silence
+  int tab_ = 0;               // the tab on screen
+  int recordTab_ = 0;         // owns the record: the tab on screen, or the one left with a record that was not stored
+  bool mbFormLoaded = false;  // Form_Load has gone all the way through
+  bool mbGuardActed = false;  // the answer was Yes: the next leaving of an unsaved record returns in silence
   bool movingBack_ = false;
 };

@@ -61,8 +61,7 @@ void frmTabulon::BuildControls() {
   cmdClose_ = Form::Button(central, "cmdClose", "&Close");
   auto* const column = new QVBoxLayout(central);
   column->addWidget(sstabtables_, 1);
-  column->addLayout(
-      Form::ButtonRow({nullptr, add_.button, update_.button, delete_.button, clear_.button, cmdClose_}));
+  column->addLayout(Form::ButtonRow({nullptr, add_.button, update_.button, delete_.button, clear_.button, cmdClose_}));
 
   connect(add_.button, &QPushButton::clicked, this, &frmTabulon::cmdAdd_Click);
   connect(update_.button, &QPushButton::clicked, this, &frmTabulon::cmdUpdate_Click);
@@ -86,10 +85,10 @@ void frmTabulon::BuildMenu() {
     return action;
   };
   add_.entry = entry("mnuOptionsAdd", "&Add", "frmTabulon.mnuOptionsAdd_Click", &frmTabulon::cmdAdd_Click);
-  update_.entry = entry("mnuOptionsUpdate", "&Update", "frmTabulon.mnuOptionsUpdate_Click",
-                        &frmTabulon::cmdUpdate_Click);
-  delete_.entry = entry("mnuOptionsDelete", "&Delete", "frmTabulon.mnuOptionsDelete_Click",
-                        &frmTabulon::cmdDelete_Click);
+  update_.entry =
+      entry("mnuOptionsUpdate", "&Update", "frmTabulon.mnuOptionsUpdate_Click", &frmTabulon::cmdUpdate_Click);
+  delete_.entry =
+      entry("mnuOptionsDelete", "&Delete", "frmTabulon.mnuOptionsDelete_Click", &frmTabulon::cmdDelete_Click);
   // The log name of Clear is that of another procedure; the log readers know it so.
   clear_.entry = entry("mnuOptionsClear", "Clea&r", "cmb4Tables_Click", &frmTabulon::cmdClear_Click);
 
@@ -131,9 +130,7 @@ void frmTabulon::ShowStatus() {
   if (gclsOF->CanAdd()) rights.append("Add");
   if (gclsOF->CanUpdate()) rights.append("Update");
   if (gclsOF->CanDelete()) rights.append("Delete");
-  const auto database = Procedure::Try([] { gclsOF->Connection(); })
-                            ? QString()
-                            : gclsOF->Connection().Settings().name;
+  const auto database = Procedure::Try([] { gclsOF->Connection(); }) ? QString() : gclsOF->Connection().Settings().name;
   const QString language = gclsOF->LanguageSuffix().isEmpty() ? QString("default") : gclsOF->LanguageSuffix().mid(1);
   status_->setText(QString("User: %1     Database: %2     Language: %3     Rights: %4")
                        .arg(gclsOF->UserId(), database, language, rights.isEmpty() ? "none" : rights.join(", ")));

@@ -20,10 +20,14 @@ namespace {
 const QString FailureTitle = "Ostana - System Maintenance";
 const QString ClassFailed = "Failed to Load the Application Class Settings.  Terminating.....";
 
-QString TrueOrFalse(bool value) { return value ? "True" : "False"; }
+QString TrueOrFalse(bool value) {
+  return value ? "True" : "False";
+}
 
 // An underscore at the start or a length of four lets a working language pass.
-bool LanguagePasses(const QString& language) { return language.startsWith(QLatin1Char('_')) || language.size() == 4; }
+bool LanguagePasses(const QString& language) {
+  return language.startsWith(QLatin1Char('_')) || language.size() == 4;
+}
 
 }  // namespace
 
@@ -61,16 +65,15 @@ void frmTabulon::Form_Load() {
 
 bool frmTabulon::LoadSettings() {
   bool loaded = false;
-  const std::optional<AdoError> unusable = Procedure::Try([&] {
-    loaded = gclsOF->LoadApplicationSettings("Tabulon", arguments_[1], arguments_[2], arguments_[3]);
-  });
+  const std::optional<AdoError> unusable = Procedure::Try(
+      [&] { loaded = gclsOF->LoadApplicationSettings("Tabulon", arguments_[1], arguments_[2], arguments_[3]); });
   if (unusable) {
     // The one path that logs without the common services.
     QString qualifier;
-    ID_WriteClassFailedLog(ClassFailed,
-                           "Error: " + unusable->NumberText() + "  " + unusable->Description() +
-                               " Source: " + unusable->Source(),
-                           "L", qualifier);
+    ID_WriteClassFailedLog(
+        ClassFailed,
+        "Error: " + unusable->NumberText() + "  " + unusable->Description() + " Source: " + unusable->Source(), "L",
+        qualifier);
     ShowMessage(ClassFailed + "\n\nPlease check the application log file for more details.", MessageStyle::Stop,
                 Caption());
   } else if (!loaded) {
@@ -108,18 +111,18 @@ bool frmTabulon::RefuseSecondCopy() {
 }
 
 void frmTabulon::NameTabs() {
-  const QStringList captions = {"Code Tables", "Cover Pages",        "Departments", "Printers",
+  const QStringList captions = {"Code Tables",  "Cover Pages",        "Departments", "Printers",
                                 "Auto Rejects", "Delivery/Messaging", "Loans",       "Invoicing",
-                                "Exceptions",  "Request Type",       "Audit Codes", "Miscellaneous"};
+                                "Exceptions",   "Request Type",       "Audit Codes", "Miscellaneous"};
   for (int index = 0; index < TabCount; ++index) sstabtables_->setTabText(index, captions[index]);
 }
 
 void frmTabulon::FinishLoad() {
   const bool canAdd = gclsOF->CanAdd(), canUpdate = gclsOF->CanUpdate(), canDelete = gclsOF->CanDelete();
   if (gclsOF->Tracing())
-    gclsOF->WriteLog("ADD: " + TrueOrFalse(canAdd) + " , Update: " + TrueOrFalse(canUpdate) +
-                         " , Delete: " + TrueOrFalse(canDelete),
-                     {}, "L");
+    gclsOF->WriteLog(
+        "ADD: " + TrueOrFalse(canAdd) + " , Update: " + TrueOrFalse(canUpdate) + " , Delete: " + TrueOrFalse(canDelete),
+        {}, "L");
   buttonState();
   if (canAdd || canUpdate || canDelete) {
     if (gstrWebServiceName.isEmpty() && !ReadWebServiceSettings()) return;

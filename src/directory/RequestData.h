@@ -37,7 +37,7 @@ inline OnFirstUse<clsRequestInfo> gclsRequestInfo;
 inline OnFirstUse<clsAddRequest> gclsAddRequest;
 
 // Texts that go with them, set by the request forms.
-inline QString gstrRequestType;          // REQUEST_TYPE of the request
-inline QString gstrRequestNotes1;        // short free text for NOTES1
-inline QString gstrRequestNote;          // the request note
-inline bool gbRequestAdded = false;      // a request was written
+inline QString gstrRequestType;      // REQUEST_TYPE of the request
+inline QString gstrRequestNotes1;    // short free text for NOTES1
+inline QString gstrRequestNote;      // the request note
+inline bool gbRequestAdded = false;  // a request was written

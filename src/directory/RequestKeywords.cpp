@@ -12,7 +12,7 @@ namespace {
 
 const QString Null = "NULL";
 constexpr int CallNumberLength = 25;  // characters
-constexpr int LongestKeyword = 200;    // characters, width of the column
+constexpr int LongestKeyword = 200;   // characters, width of the column
 
 // Upper case, without "NULL" (also inside a word) and apostrophes; hyphens, commas and full stops part words.
 QString Normalised(const QStringList& texts) {
@@ -49,8 +49,7 @@ void UpdateKeywordTables(const QString& requestNumber, const clsRequestInfo& inf
                 Normalised({info.Title, info.SeriesTitle, info.TitleOfJournal, info.TitleOfArticle}), requestNumber);
     InsertWords("ID_KEYWORD_AUTHOR", Normalised({info.Author, info.AuthorOfArticle}), requestNumber);
     const QString callNumber = info.CallNumber.toUpper().remove(Null);
-    if (callNumber.size() > 1)
-      InsertKeyword("ID_KEYWORD_CALL_NO", callNumber.left(CallNumberLength), requestNumber);
+    if (callNumber.size() > 1) InsertKeyword("ID_KEYWORD_CALL_NO", callNumber.left(CallNumberLength), requestNumber);
   });
   if (!error) return;
   ShowMessage(Texts::NotifySupport, MessageStyle::Stop);

@@ -24,22 +24,26 @@ void TemplateTarget::ShowState() {
   remove_->setEnabled(!systemDefault_);
 }
 
-qint32 TemplateTarget::LibraryId() const { return systemDefault_ ? 0 : gclsOF->LibraryId(); }
+qint32 TemplateTarget::LibraryId() const {
+  return systemDefault_ ? 0 : gclsOF->LibraryId();
+}
 
-QString TemplateTarget::PatronId() const { return systemDefault_ ? QString() : gclsOF->PatronId(); }
+QString TemplateTarget::PatronId() const {
+  return systemDefault_ ? QString() : gclsOF->PatronId();
+}
 
 QString TemplateTarget::Institution() const {
   if (systemDefault_) return "System Default";
-  return FirstValue("SELECT   INSTITUTION_NAME FROM " + Sql::Table("ID_LIBRARY") + " WHERE    LIBRARY_ID = " +
-                        Sql::Number(LibraryId()),
+  return FirstValue("SELECT   INSTITUTION_NAME FROM " + Sql::Table("ID_LIBRARY") +
+                        " WHERE    LIBRARY_ID = " + Sql::Number(LibraryId()),
                     "***** SQL error on ID_LIBRARY  (Select) *****");
 }
 
 QString TemplateTarget::PatronName() const {
   if (PatronId().isEmpty()) return {};
   QString name;
-  ForEachRow("SELECT   PATRON_NAME, PATRON_SURNAME FROM " + Sql::Table("ID_PATRON") + " WHERE    LIBRARY_ID = " +
-                 Sql::Number(LibraryId()) + " AND PATRON_ID = " + Sql::National(PatronId()),
+  ForEachRow("SELECT   PATRON_NAME, PATRON_SURNAME FROM " + Sql::Table("ID_PATRON") +
+                 " WHERE    LIBRARY_ID = " + Sql::Number(LibraryId()) + " AND PATRON_ID = " + Sql::National(PatronId()),
              "***** SQL error on ID_PATRON  (Select) *****",
              [&name](Recordset& rows) { name = (Value(rows, 0) + " " + Value(rows, 1)).trimmed(); });
   return name;

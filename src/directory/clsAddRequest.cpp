@@ -33,7 +33,9 @@ class Insert {
   QStringList columns_, values_;
 };
 
-QString Piece(const QString& text) { return Sql::NationalOr(text.trimmed(), "NULL"); }
+QString Piece(const QString& text) {
+  return Sql::NationalOr(text.trimmed(), "NULL");
+}
 
 // Cut by characters: half of a letter outside the basic plane is not left behind.
 QString Limited(const QString& text, int limit) {
@@ -43,7 +45,9 @@ QString Limited(const QString& text, int limit) {
 }
 
 // The short text and the note share the one column there is for them.
-QString Notes() { return Limited(QStringList{gstrRequestNotes1.trimmed(), gstrRequestNote.trimmed()}.join("\n"), 1000); }
+QString Notes() {
+  return Limited(QStringList{gstrRequestNotes1.trimmed(), gstrRequestNote.trimmed()}.join("\n"), 1000);
+}
 
 // The year is the first run of four digits of the publication date.
 QString Year(const QString& publicationDate) {
@@ -58,8 +62,8 @@ QString SubmittedOn(const clsRequestInfo& info) {
 }
 
 struct Numbers {
-  QString request;   // "REG" and eight digits
-  QString sortKey;   // the digits as a number
+  QString request;  // "REG" and eight digits
+  QString sortKey;  // the digits as a number
 };
 
 void AddHead(Insert& insert, const Numbers& numbers) {
@@ -148,8 +152,8 @@ struct Methods {
 
 Methods MethodsOfLibrary() {
   Methods methods;
-  ForEachRow("SELECT MSG_METHOD, DELIV_METHOD_COPY FROM " + Sql::Table("ID_LIBRARY") + " WHERE LIBRARY_ID = " +
-                 Sql::Number(gclsOF->LibraryId()),
+  ForEachRow("SELECT MSG_METHOD, DELIV_METHOD_COPY FROM " + Sql::Table("ID_LIBRARY") +
+                 " WHERE LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId()),
              "***** SQL error on ID_LIBRARY (Select) *****", [&methods](Recordset& rows) {
                methods.message = Piece(Value(rows, 0));
                methods.delivery = Piece(Value(rows, 1));
@@ -209,7 +213,7 @@ bool clsAddRequest::UpdateOstanaTables() {
     numbers.sortKey = QString::number(numbers.request.right(8).toInt());
     const Methods methods = MethodsOfLibrary();
     const bool fromForms = CmdOkCliked && info.CmdOkCliked;
-    WriteRequest(!fromForms                     ? BareForm(info, numbers)
+    WriteRequest(!fromForms                    ? BareForm(info, numbers)
                  : info.PublicationType == "B" ? BookForm(info, numbers)
                                                : ArticleForm(info, numbers),
                  numbers, methods);

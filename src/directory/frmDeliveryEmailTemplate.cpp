@@ -7,8 +7,7 @@
 #include "core/SqlText.h"
 
 namespace {
-const QString Failed =
-    "A problem occurred while updating this record.  If the problem persists contact support.";
+const QString Failed = "A problem occurred while updating this record.  If the problem persists contact support.";
 }
 
 frmDeliveryEmailTemplate::frmDeliveryEmailTemplate(QWidget* parent)
@@ -55,7 +54,9 @@ void frmDeliveryEmailTemplate::Form_Load() {
   txtSubject->setFocus();
 }
 
-QString frmDeliveryEmailTemplate::Family() const { return rdForExternalURL->IsSet(0) ? "SED_" : "EMAIL_"; }
+QString frmDeliveryEmailTemplate::Family() const {
+  return rdForExternalURL->IsSet(0) ? "SED_" : "EMAIL_";
+}
 
 void frmDeliveryEmailTemplate::ClearBoxes() {
   txtSubject->SetText({});
@@ -73,8 +74,8 @@ QString frmDeliveryEmailTemplate::OfTarget() const {
 
 void frmDeliveryEmailTemplate::Load_TextBoxes() {
   Procedure("frmDeliveryEmailTemplate.Load_TextBoxes", this).Run([this] {
-    fraTemplate->setTitle(QString("Message") +
-                          (Family() == "SED_" ? " (Template for External URL)" : " (Template for Electronic Delivery)"));
+    fraTemplate->setTitle(QString("Message") + (Family() == "SED_" ? " (Template for External URL)"
+                                                                   : " (Template for Electronic Delivery)"));
     ClearBoxes();
     mbRowRead = false;
     txtInstitution->SetText(target_.Institution());
@@ -100,12 +101,12 @@ bool frmDeliveryEmailTemplate::RowExists() const {
 
 QString frmDeliveryEmailTemplate::UpdateStatement() const {
   const QString patron = target_.PatronId();
-  return "UPDATE " + Sql::Table("ID_EMAIL_MESSAGE") + " SET " + Family() + "SKIP_HEADER_FOOTER = " +
-         (rdSkipHeaderAndFooter->IsSet(1) ? "N'N'" : "N'Y'") + ", " + Family() +
+  return "UPDATE " + Sql::Table("ID_EMAIL_MESSAGE") + " SET " + Family() +
+         "SKIP_HEADER_FOOTER = " + (rdSkipHeaderAndFooter->IsSet(1) ? "N'N'" : "N'Y'") + ", " + Family() +
          "MESSAGE_SUBJECT = " + Sql::NationalOr(txtSubject->Text(), "Null") + ", " + Family() +
          "MESSAGE_REQUEST = " + Sql::NationalOr(txtRequestInfo->Text(), "Null") + ", " + Family() +
-         "MESSAGE_BODY = " + Sql::NationalOr(txtBody->Text(), "Null") + " WHERE    LIBRARY_ID = " +
-         Sql::Number(target_.LibraryId()) + " " +
+         "MESSAGE_BODY = " + Sql::NationalOr(txtBody->Text(), "Null") +
+         " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) + " " +
          (patron.isEmpty() ? QString("AND      PATRON_ID IS NULL") : "AND      PATRON_ID = " + Sql::National(patron));
 }
 
@@ -143,9 +144,9 @@ void frmDeliveryEmailTemplate::cmdOK_Click() {
         statement = exists ? UpdateStatement() : InsertStatement();
         if (gclsOF->Tracing())
           gclsOF->WriteLog((exists ? "Update Statement: " : "Insert Statement: ") + statement, {}, "L");
-        const qint64 written = ExecuteInTransaction(
-            statement, exists ? "***** SQL Error on ID_EMAIL_MESSAGE (Update) *****"
-                              : "***** SQL Error on ID_EMAIL_MESSAGE (Insert) *****");
+        const qint64 written =
+            ExecuteInTransaction(statement, exists ? "***** SQL Error on ID_EMAIL_MESSAGE (Update) *****"
+                                                   : "***** SQL Error on ID_EMAIL_MESSAGE (Insert) *****");
         mbRowRead = written != 0;
         if (written == 0) {
           gclsOF->WriteLog("SQL statement: " + statement, {}, "L");

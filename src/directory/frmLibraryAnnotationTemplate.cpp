@@ -71,8 +71,8 @@ QString frmLibraryAnnotationTemplate::PatronClause() const {
 }
 
 QString frmLibraryAnnotationTemplate::SelectStatement() const {
-  return "SELECT   * FROM " + Sql::Table("ID_ANNOTATION") + " WHERE        LIBRARY_ID  = " +
-         Sql::Number(target_.LibraryId()) + " " + PatronClause();
+  return "SELECT   * FROM " + Sql::Table("ID_ANNOTATION") +
+         " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause();
 }
 
 void frmLibraryAnnotationTemplate::LoadTemplate() {
@@ -104,9 +104,9 @@ QString frmLibraryAnnotationTemplate::UpdateStatement() const {
   return "UPDATE " + Sql::Table("ID_ANNOTATION") + " SET LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
          (optUseAnnotation->IsSet(0) ? ",USE_ANNOTATION = N'Y' " : ",USE_ANNOTATION = N'N' ") +
          (text.isEmpty() ? QString(", ANNOTATION = NULL ") : ", ANNOTATION = " + Sql::National(text) + " ") +
-         ", TEXT_FONT_SIZE = " + cmbTextFontSize->Text() + ", TEXT_ORIENTATION = " +
-         Sql::National(cmbTextOrientation->Text()) + " WHERE        LIBRARY_ID  = " +
-         Sql::Number(target_.LibraryId()) + " " + PatronClause();
+         ", TEXT_FONT_SIZE = " + cmbTextFontSize->Text() +
+         ", TEXT_ORIENTATION = " + Sql::National(cmbTextOrientation->Text()) +
+         " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause();
 }
 
 QString frmLibraryAnnotationTemplate::InsertStatement() const {
@@ -160,8 +160,8 @@ void frmLibraryAnnotationTemplate::cmdOK_Click() {
 void frmLibraryAnnotationTemplate::cmdDelete_Click() {
   Procedure("frmLibraryAnnotationTemplate.cmdDelete_Click", this).OnFailure(SeriousFailure).Run([this] {
     if (Tell("Are you sure you wish to delete this record ?", MessageStyle::Question) != MessageAnswer::Yes) return;
-    ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_ANNOTATION") + " WHERE        LIBRARY_ID  = " +
-                             Sql::Number(target_.LibraryId()) + " " + PatronClause(),
+    ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_ANNOTATION") +
+                             " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause(),
                          "***** SQL error on ID_ID_ANNOTATION (Delete) *****");
     mbRowRead = false;
     Tell("Record deleted.", MessageStyle::Information);

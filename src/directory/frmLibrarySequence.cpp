@@ -84,8 +84,9 @@ void frmLibrarySequence::cmdSort_Click() {
 
 bool frmLibrarySequence::cmdSequence_Click() {
   return Procedure("frmSupplierRouting.cmdSequence", this)
-      .OnFailure("An error has occurred while attempting to sequence the Supplier(s).  If the error persists notify "
-                 "support.")
+      .OnFailure(
+          "An error has occurred while attempting to sequence the Supplier(s).  If the error persists notify "
+          "support.")
       .Run([this] {
         if (grdSupplierSequencing->Rows() < 2) {
           ShowMessage("There are no records to sequence.", MessageStyle::Warning, Caption(), {}, this);
@@ -94,9 +95,8 @@ bool frmLibrarySequence::cmdSequence_Click() {
         Transaction transaction(gclsOF->Connection());
         for (int row = 1; row < grdSupplierSequencing->Rows(); ++row)
           Execute("UPDATE " + Sql::Table("ID_SUPPLIER") + " SET      LIBRARY_SEQ = " + Sql::Number(row) +
-                      " WHERE    SUPPLIER_CODE = " +
-                      Sql::National(grdSupplierSequencing->Text(row, SupplierCode)) + " AND      LIBRARY_ID = " +
-                      Sql::Number(gclsOF->LibraryId()),
+                      " WHERE    SUPPLIER_CODE = " + Sql::National(grdSupplierSequencing->Text(row, SupplierCode)) +
+                      " AND      LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId()),
                   "***** SQL error on ID_SUPPLIER (Update) *****");
         transaction.Commit();
         ReadSuppliers();
@@ -106,9 +106,9 @@ bool frmLibrarySequence::cmdSequence_Click() {
 
 bool frmLibrarySequence::Form_QueryUnload() {
   if (!mbSequenceChanged) return false;
-  const int answer = ShowMessage(
-      "The sequence has been modified.\n\nWould you like update the sequence before exiting?", MessageStyle::Question,
-      Caption(), {}, this);
+  const int answer =
+      ShowMessage("The sequence has been modified.\n\nWould you like update the sequence before exiting?",
+                  MessageStyle::Question, Caption(), {}, this);
   // A save that failed keeps the screen and the order on it.
   return answer == MessageAnswer::Yes && !cmdSequence_Click();
 }

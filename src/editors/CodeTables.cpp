@@ -108,7 +108,9 @@ void CodeTables::cmb0Tables_Click() {
   txt0Code->setFocus();
 }
 
-QString CodeTables::TableName() const { return gstrTableNames.value(cmb0Tables->Index()); }
+QString CodeTables::TableName() const {
+  return gstrTableNames.value(cmb0Tables->Index());
+}
 
 void CodeTables::ConfigureGrid() {
   gstrButtonMode = "O";
@@ -135,8 +137,7 @@ void CodeTables::ReadTable() {
   gintCodeColumnType = code.Type();
   baseDescColumn_ = description.Name();
   gstrDescColumn = baseDescColumn_ + gclsOF->LanguageSuffix();
-  special_.webFlag =
-      QStringList{"PUBLICATION_TYPE", "SERVICE_LEVEL", "SERVICE_TYPE"}.contains(gstrCodeColumn);
+  special_.webFlag = QStringList{"PUBLICATION_TYPE", "SERVICE_LEVEL", "SERVICE_TYPE"}.contains(gstrCodeColumn);
   special_.deliveryType = gstrCodeColumn == "SERVICE_TYPE";
   special_.catalogLibrary = gstrCodeColumn == "CATALOG_CODE";
   special_.language = gstrCodeColumn == "LANGUAGE_CODE";
@@ -176,9 +177,9 @@ void CodeTables::LoadGrid() {
       const QString id = grd0TableDesc->Text(row, LibraryId);
       if (id.isEmpty()) continue;
       if (!symbols.contains(id))
-        symbols[id] = FirstValue("SELECT   LIBRARY_SYMBOL FROM " + Sql::Table("ID_LIBRARY") +
-                                     " WHERE    LIBRARY_ID = " + id,
-                                 "***** SQL error on ID_LIBRARY  (Select) *****");
+        symbols[id] =
+            FirstValue("SELECT   LIBRARY_SYMBOL FROM " + Sql::Table("ID_LIBRARY") + " WHERE    LIBRARY_ID = " + id,
+                       "***** SQL error on ID_LIBRARY  (Select) *****");
       grd0TableDesc->SetText(row, LibrarySymbol, symbols[id]);
     }
   }
@@ -238,9 +239,15 @@ int CodeTables::RowOfCode(const QString& code) const {
   return grd0TableDesc->FindRow(code, Code);
 }
 
-QString CodeTables::WebFlagValue() const { return opt0Display->IsSet(0) ? "'Y'" : "Null"; }
-QString CodeTables::DefaultFlagValue() const { return chk0DefaultLanguage->isChecked() ? "'Y'" : "Null"; }
-QString CodeTables::DeliveryTypeValue() const { return opt0DeliveryType->IsSet(0) ? "'C'" : "'L'"; }
+QString CodeTables::WebFlagValue() const {
+  return opt0Display->IsSet(0) ? "'Y'" : "Null";
+}
+QString CodeTables::DefaultFlagValue() const {
+  return chk0DefaultLanguage->isChecked() ? "'Y'" : "Null";
+}
+QString CodeTables::DeliveryTypeValue() const {
+  return opt0DeliveryType->IsSet(0) ? "'C'" : "'L'";
+}
 
 // --- Add ---
 
@@ -287,8 +294,7 @@ bool CodeTables::CodeIsValid(QString& code) {
 }
 
 bool CodeTables::IsDuplicate(const QString& code, qint32 libraryId) const {
-  if (special_.ackStatement)
-    return grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}}) > 0;
+  if (special_.ackStatement) return grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}}) > 0;
   return grd0TableDesc->FindRow(code, Code) > 0;
 }
 
@@ -309,9 +315,8 @@ QString CodeTables::InsertStatement(const QString& code, qint32 libraryId) const
     return into + "(ACK_CODE, LIBRARY_ID, " + baseDescColumn_ + languages.columns + ") VALUES(" + quoted + "," +
            Sql::Number(libraryId) + "," + description + languages.values + ")";
   if (special_.exception || special_.catalogLibrary)
-    return into + (special_.exception ? "(EXCEPTION_CODE, " : "(CATALOG_CODE, ") + baseDescColumn_ +
-           languages.columns + extraColumns + ") VALUES(" + quoted + "," + description + languages.values +
-           extraValues + ")";
+    return into + (special_.exception ? "(EXCEPTION_CODE, " : "(CATALOG_CODE, ") + baseDescColumn_ + languages.columns +
+           extraColumns + ") VALUES(" + quoted + "," + description + languages.values + extraValues + ")";
   const QString deliveryColumn = special_.deliveryType ? ", DELIVERY_TYPE" : "";
   const QString deliveryValue = special_.deliveryType ? ", " + DeliveryTypeValue() : "";
   return into + "(" + gstrCodeColumn + ", " + baseDescColumn_ + languages.columns + deliveryColumn + extraColumns +
@@ -321,9 +326,9 @@ QString CodeTables::InsertStatement(const QString& code, qint32 libraryId) const
 void CodeTables::ReloadAndSelect(const QString& code, qint32 libraryId) {
   shell().LoadDataInGrid();
   const SkipGridEvents skip;
-  grd0TableDesc->SetRowQuietly(
-      special_.ackStatement ? grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}})
-                            : grd0TableDesc->FindRow(code, Code));
+  grd0TableDesc->SetRowQuietly(special_.ackStatement
+                                   ? grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}})
+                                   : grd0TableDesc->FindRow(code, Code));
 }
 
 // --- Update ---
@@ -359,9 +364,10 @@ bool CodeTables::CodeTables_Update() {
       return;
     }
     if (special_.ackStatement && !gclsOF->FindLibraryId(symbol, libraryId)) {
-      Refuse("Please enter a Valid Library Symbol. (Make sure the Library Symbol entered exists as a registered "
-             "Library)",
-             MessageStyle::Warning, txt0LibrarySymbol);
+      Refuse(
+          "Please enter a Valid Library Symbol. (Make sure the Library Symbol entered exists as a registered "
+          "Library)",
+          MessageStyle::Warning, txt0LibrarySymbol);
       return;
     }
     ExecuteInTransaction(UpdateStatement(code, row, libraryId),
@@ -389,8 +395,9 @@ QString CodeTables::UpdateStatement(const QString& code, int row, qint32 library
   const QString update = "UPDATE " + Sql::Table(TableName()) + " ";
   const QString quoted = QuotedCode(code);
   if (special_.catalogLibrary)
-    return update + "SET  " + description + ", " + "         CATALOG_LIBRARY_ID = " +
-           (libraryId > 0 ? Sql::Number(libraryId) : QString("Null")) + " " + "WHERE    CATALOG_CODE = " + quoted;
+    return update + "SET  " + description + ", " +
+           "         CATALOG_LIBRARY_ID = " + (libraryId > 0 ? Sql::Number(libraryId) : QString("Null")) + " " +
+           "WHERE    CATALOG_CODE = " + quoted;
   if (special_.ackStatement)
     return update + "SET  " + description + ", " + "         LIBRARY_ID = " + Sql::Number(libraryId) + " " +
            "WHERE ACK_CODE = " + quoted + " AND LIBRARY_ID = " + grd0TableDesc->Text(row, LibraryId);
@@ -442,10 +449,9 @@ bool CodeTables::CodeTables_Delete() {
         }
         const QString from = QString("DELETE ") + "FROM " + Sql::Table(TableName()) + " ";
         // The code is quoted here even in a numeric column.
-        const QString where = special_.ackStatement
-                                  ? "WHERE ACK_CODE = " + Sql::Plain(code) +
-                                        " AND LIBRARY_ID= " + grd0TableDesc->Text(row, LibraryId)
-                                  : "WHERE " + gstrCodeColumn + " = " + Sql::Plain(code);
+        const QString where = special_.ackStatement ? "WHERE ACK_CODE = " + Sql::Plain(code) +
+                                                          " AND LIBRARY_ID= " + grd0TableDesc->Text(row, LibraryId)
+                                                    : "WHERE " + gstrCodeColumn + " = " + Sql::Plain(code);
         ExecuteInTransaction(from + where, "***** SQL error on " + TableName() + " (Delete) *****");
         shell().LoadDataInGrid();
         CodeTables_Clear();

@@ -11,8 +11,8 @@
 
 Miscellaneous::Miscellaneous(frmTabulon& shell) : TabPage(shell) {
   auto* const grid = new QGridLayout;
-  QPushButton* const buttons[] = {cmdPatronMessages,    cmdGeneralMessages, cmdISO18626Connection, cmdServiceCode,
-                                  cmdSuppliedItemType, cmd11LevelsOfService, cmd11Namespace,     cmd11CurrencyCode};
+  QPushButton* const buttons[] = {cmdPatronMessages,   cmdGeneralMessages,   cmdISO18626Connection, cmdServiceCode,
+                                  cmdSuppliedItemType, cmd11LevelsOfService, cmd11Namespace,        cmd11CurrencyCode};
   for (int index = 0; index < 8; ++index) {
     buttons[index]->setMinimumSize(buttons[index]->sizeHint() * 1.2);
     grid->addWidget(buttons[index], index / 2, index % 2);

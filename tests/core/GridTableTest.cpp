@@ -39,8 +39,9 @@ TEST_F(GridTableTest, NullInAShownColumnGivesAnEmptyCell) {
 
 TEST_F(GridTableTest, OneGridTakesSevenLayoutsOneAfterTheOther) {
   Grid grid(nullptr, "grd7Table");
-  const std::pair<QString, int> layouts[] = {{"7 copyright", 4}, {"7 delivery", 7}, {"7 supply", 7}, {"7 output", 7},
-                                             {"7 reject", 4},    {"7 service", 4},  {"7 alias", 6},  {"7 copyright", 4}};
+  const std::pair<QString, int> layouts[] = {{"7 copyright", 4}, {"7 delivery", 7}, {"7 supply", 7},
+                                             {"7 output", 7},    {"7 reject", 4},   {"7 service", 4},
+                                             {"7 alias", 6},     {"7 copyright", 4}};
   for (const auto& [key, columns] : layouts) {
     ShapeGrid(grid, *FindGridLayout(key));
     EXPECT_EQ(grid.Cols(), columns) << key.toStdString();
@@ -51,9 +52,30 @@ TEST_F(GridTableTest, OneGridTakesSevenLayoutsOneAfterTheOther) {
 }
 
 TEST_F(GridTableTest, EveryTabWithAGridHasItsLayout) {
-  for (const char* key : {"0", "1", "2", "3", "4", "5 a", "5 b", "5 c", "5 d", "7 copyright", "7 delivery", "7 supply",
-                          "7 output", "7 reject", "7 service", "7 alias", "7 billing rates", "8 exceptions",
-                          "8 process", "8 group", "8 iso", "9", "10 a", "10 b"})
+  for (const char* key : {"0",
+                          "1",
+                          "2",
+                          "3",
+                          "4",
+                          "5 a",
+                          "5 b",
+                          "5 c",
+                          "5 d",
+                          "7 copyright",
+                          "7 delivery",
+                          "7 supply",
+                          "7 output",
+                          "7 reject",
+                          "7 service",
+                          "7 alias",
+                          "7 billing rates",
+                          "8 exceptions",
+                          "8 process",
+                          "8 group",
+                          "8 iso",
+                          "9",
+                          "10 a",
+                          "10 b"})
     EXPECT_NE(FindGridLayout(key), nullptr) << key;
 }
 

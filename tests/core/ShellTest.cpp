@@ -29,9 +29,9 @@ class ShellTest : public Desk {
 TEST_F(ShellTest, TheTwelveTabsBearTheirNames) {
   Start();
   auto* const tabs = Find<QTabWidget>("sstabtables");
-  const QStringList names = {"Code Tables",        "Cover Pages", "Departments", "Printers",
-                             "Auto Rejects",       "Delivery/Messaging", "Loans", "Invoicing",
-                             "Exceptions",         "Request Type", "Audit Codes", "Miscellaneous"};
+  const QStringList names = {"Code Tables",  "Cover Pages",        "Departments", "Printers",
+                             "Auto Rejects", "Delivery/Messaging", "Loans",       "Invoicing",
+                             "Exceptions",   "Request Type",       "Audit Codes", "Miscellaneous"};
   ASSERT_EQ(tabs->count(), names.size());
   for (int index = 0; index < names.size(); ++index) EXPECT_EQ(tabs->tabText(index), names[index]);
 }
@@ -79,8 +79,9 @@ TEST_F(ShellTest, YesSavesTheRecordOfTheTabThatWasLeft) {
 TEST_F(ShellTest, YesWithAnUpdateThatFailsReturnsInSilenceAtTheNextTabClick) {
   PickCategories();
   Type("txt0Code", "??");
-  Prompt().Expect(Question, 36, MessageAnswer::Yes).Expect(
-      "This Code does not exist in the table.  Please select a Valid Code to Update.", 48);
+  Prompt()
+      .Expect(Question, 36, MessageAnswer::Yes)
+      .Expect("This Code does not exist in the table.  Please select a Valid Code to Update.", 48);
   SelectTab("sstabtables", 6);
   EXPECT_EQ(Shell().Tab(), 6);
   SelectTab("sstabtables", 11);

@@ -5,8 +5,8 @@
 #include <QFile>
 #include <QProcess>
 
-#include "core/ModuleState.h"
 #include "core/Logon.h"
+#include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/Screen.h"
 #include "platform/files/WideTextFile.h"

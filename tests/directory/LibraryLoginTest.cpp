@@ -309,9 +309,9 @@ TEST_F(LibraryLoginTest, TheTabKeyGoesInReadingOrder) {
     if (at->objectName() == "txtLibrarySymbol") break;
   }
   EXPECT_EQ(order, QStringList({"txtLibrarySymbol", "cmdSearch", "cmdAdvanced", "txtUserID", "txtPassword",
-                                "txtConfirmPassword", "cboLanguageCode", "optActiveYes",
-                                "chkLibraryPending", "cmdRegistration", "cmdContact", "cmdStatistics", "cmdBilling",
-                                "cmdArticle", "cmdBook", "cmdUpdate", "cmdClear", "cmdClose"}));
+                                "txtConfirmPassword", "cboLanguageCode", "optActiveYes", "chkLibraryPending",
+                                "cmdRegistration", "cmdContact", "cmdStatistics", "cmdBilling", "cmdArticle", "cmdBook",
+                                "cmdUpdate", "cmdClear", "cmdClose"}));
 }
 
 }  // namespace

@@ -92,9 +92,10 @@ TEST_F(LibrarySequenceTest, ASaveThatFailsOnExitKeepsTheScreenAndTheOldNumbers) 
   Another("ALTER TABLE ID_SUPPLIER RENAME TO ID_SUPPLIER_AWAY");
   Prompt()
       .Expect(Question, 36, MessageAnswer::Yes)
-      .Expect("An error has occurred while attempting to sequence the Supplier(s).  If the error persists notify "
-              "support.",
-              16);
+      .Expect(
+          "An error has occurred while attempting to sequence the Supplier(s).  If the error persists notify "
+          "support.",
+          16);
   Click("cmdClose");
   Another("ALTER TABLE ID_SUPPLIER_AWAY RENAME TO ID_SUPPLIER");
   EXPECT_TRUE(screen.isVisible());

@@ -12,8 +12,9 @@ class RequestTest : public Desk {
  protected:
   void SetUp() override {
     Desk::SetUp();
-    Another("INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME, MSG_METHOD, DELIV_METHOD_COPY) VALUES "
-            "(71, 'ONE', 'One', 'E', 'M')");
+    Another(
+        "INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME, MSG_METHOD, DELIV_METHOD_COPY) VALUES "
+        "(71, 'ONE', 'One', 'E', 'M')");
     Logon();
     gclsRequestInfo.Reset();
     gclsAddRequest.Reset();

@@ -68,8 +68,8 @@ TEST_F(CodeTablesTest, ANewRowIsStoredInEveryLanguageAndIsSelected) {
             "INSERT INTO ID_LIBRARY_CAT (LIBRARY_CAT, LIBRARY_CAT_DESC, LIBRARY_CAT_DESC_ENG, LIBRARY_CAT_DESC_FRE, "
             "LIBRARY_CAT_DESC_GER) VALUES('Q9', 'O''Neill \\ \"quoted\"; -- text', 'O''Neill \\ \"quoted\"; -- text', "
             "'O''Neill \\ \"quoted\"; -- text', 'O''Neill \\ \"quoted\"; -- text')");
-  for (const char* column : {"LIBRARY_CAT_DESC", "LIBRARY_CAT_DESC_ENG", "LIBRARY_CAT_DESC_FRE",
-                             "LIBRARY_CAT_DESC_GER"})
+  for (const char* column :
+       {"LIBRARY_CAT_DESC", "LIBRARY_CAT_DESC_ENG", "LIBRARY_CAT_DESC_FRE", "LIBRARY_CAT_DESC_GER"})
     EXPECT_EQ(Stored(column, "Q9"), "O'Neill \\ \"quoted\"; -- text") << column;
   EXPECT_EQ(Cell("grd0TableDesc", Row("grd0TableDesc"), 1), "Q9");
   EXPECT_FALSE(gbRecordModified);
@@ -82,8 +82,7 @@ TEST_F(CodeTablesTest, OnASiteOfOneLanguageNoLanguageColumnIsNamed) {
   Start();
   Pick("ID_LIBRARY_CAT");
   AddRow("Q9", "Quiet");
-  EXPECT_EQ(Writing(),
-            QStringList{"INSERT INTO ID_LIBRARY_CAT (LIBRARY_CAT, LIBRARY_CAT_DESC) VALUES('Q9', 'Quiet')"});
+  EXPECT_EQ(Writing(), QStringList{"INSERT INTO ID_LIBRARY_CAT (LIBRARY_CAT, LIBRARY_CAT_DESC) VALUES('Q9', 'Quiet')"});
 }
 
 TEST_F(CodeTablesTest, ADescriptionOfOneBlankIsStoredAsNull) {
@@ -197,13 +196,16 @@ TEST_F(CodeTablesTest, ARowInUseIsNotDeleted) {
   Start();
   Pick("ID_BILLING_TYPE");
   const QString code = Cell("grd0TableDesc", 1, 1);
-  Another("INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME, BILLING_TYPE) VALUES (77, 'XX77', "
-          "'X', '" + code + "')");
+  Another(
+      "INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME, BILLING_TYPE) VALUES (77, 'XX77', "
+      "'X', '" +
+      code + "')");
   Prompt()
       .Expect("Are you sure you wish to Delete this record?", 36, MessageAnswer::Yes)
-      .Expect("An error has occurred while attempting to delete the record.\n\nThe Code is referenced by another "
-              "table in the database.",
-              16);
+      .Expect(
+          "An error has occurred while attempting to delete the record.\n\nThe Code is referenced by another "
+          "table in the database.",
+          16);
   Click("cmdDelete");
   EXPECT_EQ(Count("ID_BILLING_TYPE", "BILLING_TYPE = '" + code + "'"), 1);
 }
@@ -232,9 +234,10 @@ TEST_F(CodeTablesTest, ADeleteThatFailsOtherwiseHasOtherWords) {
 
 TEST_F(CodeTablesTest, ANumericCodeTakesNeitherLettersNorAFraction) {
   Mode("ID_ISO_UNFILLED", "F");
-  Another("INSERT INTO ID_TABLES (TABLES, TABLES_DESC, VIEW_ONLY_FLAG) SELECT 'ID_ISO_UNFILLED', 'Zz Reasons', 'F' FROM "
-          "ID_TABLES WHERE NOT EXISTS (SELECT 1 FROM ID_TABLES WHERE TABLES = 'ID_ISO_UNFILLED') AND TABLES = "
-          "'ID_LIBRARY_CAT'");
+  Another(
+      "INSERT INTO ID_TABLES (TABLES, TABLES_DESC, VIEW_ONLY_FLAG) SELECT 'ID_ISO_UNFILLED', 'Zz Reasons', 'F' FROM "
+      "ID_TABLES WHERE NOT EXISTS (SELECT 1 FROM ID_TABLES WHERE TABLES = 'ID_ISO_UNFILLED') AND TABLES = "
+      "'ID_LIBRARY_CAT'");
   Start();
   Pick("ID_ISO_UNFILLED");
   Type("txt0Code", "abc");
@@ -323,8 +326,7 @@ TEST_F(LanguagesTest, TheDefaultCannotBeTakenAwayButASecondOneCanBeGiven) {
   Prompt().Expect("Record Updated", 64);
   Click("cmdUpdate");
   EXPECT_EQ(Count("ID_LANGUAGE_CODE", "LANGUAGE_CODE_DEFAULT = 'Y'"), 2);
-  EXPECT_TRUE(Writing().value(0).endsWith(
-      ",          LANGUAGE_CODE_DEFAULT = 'Y' WHERE    LANGUAGE_CODE = 'FRE'"));
+  EXPECT_TRUE(Writing().value(0).endsWith(",          LANGUAGE_CODE_DEFAULT = 'Y' WHERE    LANGUAGE_CODE = 'FRE'"));
 }
 
 TEST_F(LanguagesTest, WithoutASuffixTheListStandsOnTheDefaultAndTheSuffixStaysEmpty) {

@@ -42,8 +42,7 @@ class NCIPListsTest : public InteropDesk {
     return Rows("NCIP_STATUS || '=' || NCIP_ALLOW_ILL", "ID_NCIP_STATUS", "NCIP_STATUS", library);
   }
   QString UnitRows(qint32 library = Server) {
-    return Rows("NCIP_LIBRARY || '=' || UNIT_LIBRARY_ID", "ID_NCIP_LIBRARY", "NCIP_LIBRARY",
-                library);
+    return Rows("NCIP_LIBRARY || '=' || UNIT_LIBRARY_ID", "ID_NCIP_LIBRARY", "NCIP_LIBRARY", library);
   }
   using Desk::Rows;
   QString Rows(const QString& columns, const QString& table, const QString& order, qint32 library) {

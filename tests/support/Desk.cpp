@@ -18,10 +18,10 @@
 
 #include "Screens.h"
 #include "core/Clock.h"
-#include "core/ModuleState.h"
-#include "core/OstanaFunctions.h"
 #include "core/Languages.h"
+#include "core/ModuleState.h"
 #include "core/NumericFields.h"
+#include "core/OstanaFunctions.h"
 #include "core/ProcessEnd.h"
 #include "core/Screen.h"
 #include "core/Screens.h"
@@ -370,7 +370,9 @@ void Desk::Picture(const QString& name, QWidget* window) const {
 
 // --- Watching ---
 
-QStringList Desk::Statements() { return std::exchange(statements_, {}); }
+QStringList Desk::Statements() {
+  return std::exchange(statements_, {});
+}
 
 QStringList Desk::Writing() {
   QStringList writing;
@@ -393,7 +395,9 @@ int Desk::Count(const QString& table, const QString& where) {
   return Ask("SELECT COUNT(*) FROM " + table + (where.isEmpty() ? QString() : " WHERE " + where)).toInt();
 }
 
-void Desk::Another(const QString& sql) { database_->OtherClient().Execute(sql); }
+void Desk::Another(const QString& sql) {
+  database_->OtherClient().Execute(sql);
+}
 
 void Desk::TakeAway(const QString& flag) {
   Another("UPDATE ID_USER_FUNCTION SET " + flag + " = NULL WHERE USER_ID = 'admin'");

@@ -48,33 +48,33 @@ class Desk : public testing::Test {
   int ExitCode() const { return exitCode_.value_or(-1); }
 
   // --- Driving ---
-  QWidget* Window() const;                       // the dialog opened last, else the main screen
+  QWidget* Window() const;  // the dialog opened last, else the main screen
   template <class T>
   T* Find(const QString& name) const {
     T* const control = Window()->findChild<T*>(name);
     if (!control) ADD_FAILURE() << "There is no control " << name.toStdString();
     return control;
   }
-  void Click(const QString& button);             // button, check box or option: the name of the element
-  void Type(const QString& box, const QString& text);   // replaces the text by key strokes
-  void Append(const QString& box, const QString& text); // key strokes at the end of the text
+  void Click(const QString& button);                     // button, check box or option: the name of the element
+  void Type(const QString& box, const QString& text);    // replaces the text by key strokes
+  void Append(const QString& box, const QString& text);  // key strokes at the end of the text
   void Press(const QString& control, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
   void Paste(const QString& box, const QString& text);
   void Choose(const QString& combo, const QString& entry);  // as a user picks it; the signal comes even when unchanged
   void ChooseAt(const QString& combo, int index);
-  void SelectTab(const QString& tabs, int index);           // any tab control
-  void SelectRow(const QString& grid, int row);             // a click on the row
+  void SelectTab(const QString& tabs, int index);  // any tab control
+  void SelectRow(const QString& grid, int row);    // a click on the row
   void SelectRowOf(const QString& grid, const QString& text, int col = 1);
-  void SortBy(const QString& grid, int col);                // a click on the heading
-  void Trigger(const QString& action);                      // a menu entry
-  QString Text(const QString& control) const;               // of a box, combo box, label, button
+  void SortBy(const QString& grid, int col);   // a click on the heading
+  void Trigger(const QString& action);         // a menu entry
+  QString Text(const QString& control) const;  // of a box, combo box, label, button
   QString Cell(const QString& grid, int row, int col) const;
   int Rows(const QString& grid) const;
   int Row(const QString& grid) const;
   bool IsChecked(const QString& name) const;
   bool IsEnabled(const QString& name) const;
   bool IsShown(const QString& name) const;
-  QString Focus() const;                                    // object name of the control that has the focus
+  QString Focus() const;  // object name of the control that has the focus
 
   // Leaves a picture of the window, or of the one in front, in the folder "gallery" of the build.
   void Picture(const QString& name, QWidget* window = nullptr) const;

@@ -13,9 +13,12 @@ std::string Quoted(const QString& text, int style) {
 // What Escape answers: the choice that changes nothing.
 int Harmless(int style) {
   switch (style & MessageStyle::ButtonMask) {
-    case MessageStyle::YesNo: return MessageAnswer::No;
-    case MessageStyle::YesNoCancel: return MessageAnswer::Cancel;
-    default: return MessageAnswer::Ok;
+    case MessageStyle::YesNo:
+      return MessageAnswer::No;
+    case MessageStyle::YesNoCancel:
+      return MessageAnswer::Cancel;
+    default:
+      return MessageAnswer::Ok;
   }
 }
 
@@ -23,7 +26,9 @@ int Harmless(int style) {
 
 Script::Script() : before_(SetPrompts(this)) {}
 
-Script::~Script() { SetPrompts(before_); }
+Script::~Script() {
+  SetPrompts(before_);
+}
 
 Script& Script::Expect(const QString& text, int style, int answer) {
   lines_.push_back({text, style, answer, false, {}});
@@ -69,7 +74,9 @@ std::optional<QString> Script::OpenFile(const FileRequest& request) {
   return path;
 }
 
-std::optional<QString> Script::SaveFile(const FileRequest& request) { return OpenFile(request); }
+std::optional<QString> Script::SaveFile(const FileRequest& request) {
+  return OpenFile(request);
+}
 
 std::optional<QString> Script::ChoosePrinter(QWidget*) {
   if (printers_.empty()) {

@@ -8,6 +8,12 @@ int TerminalPrompts::ShowMessage(const MessageRequest& request) {
   return (request.style & MessageStyle::ButtonMask) == 0 ? MessageAnswer::Ok : MessageAnswer::Yes;
 }
 
-std::optional<QString> TerminalPrompts::OpenFile(const FileRequest&) { return {}; }
-std::optional<QString> TerminalPrompts::SaveFile(const FileRequest&) { return {}; }
-std::optional<QString> TerminalPrompts::ChoosePrinter(QWidget*) { return {}; }
+std::optional<QString> TerminalPrompts::OpenFile(const FileRequest&) {
+  return {};
+}
+std::optional<QString> TerminalPrompts::SaveFile(const FileRequest&) {
+  return {};
+}
+std::optional<QString> TerminalPrompts::ChoosePrinter(QWidget*) {
+  return {};
+}
