@@ -8,11 +8,11 @@
 #include <QTemporaryDir>
 #include <optional>
 
-#include "core/GridTable.h"
 #include "core/ModuleState.h"
 #include "core/SqlText.h"
 #include "platform/ado/Connection.h"
 #include "platform/controls/Grid.h"
+#include "shell/GridTable.h"
 
 namespace {
 

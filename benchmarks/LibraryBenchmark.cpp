@@ -14,11 +14,11 @@
 #include "Screens.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
 #include "core/SqlText.h"
 #include "platform/controls/TextBox.h"
 #include "platform/desktop/Prompts.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
 #include "tools/Command.h"
 
 namespace {

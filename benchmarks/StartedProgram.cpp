@@ -9,8 +9,8 @@
 #include "core/CommandLine.h"
 #include "core/ModuleState.h"
 #include "core/PasswordCipher.h"
-#include "core/frmTabulon.h"
 #include "platform/desktop/TerminalPrompts.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

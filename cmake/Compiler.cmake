@@ -4,6 +4,12 @@ if(CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
 endif()
 
+# A dozen test programs are linked after each change of a low room.
+find_program(MOLD mold)
+if(MOLD AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_BUILD_TYPE STREQUAL "Debug")
+  add_link_options(-fuse-ld=mold)
+endif()
+
 add_library(tabulon_flags INTERFACE)
 target_compile_definitions(tabulon_flags INTERFACE
   QT_DISABLE_DEPRECATED_BEFORE=0x060400 QT_NO_FOREACH QT_NO_KEYWORDS

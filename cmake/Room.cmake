@@ -30,7 +30,5 @@ function(tabulon_test name dir)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
   target_link_libraries(${name} PRIVATE ${ARGN} GTest::gtest Qt6::Test)
   target_precompile_headers(${name} REUSE_FROM windows_pch)
-  target_compile_definitions(${name} PRIVATE TABULON_SOURCE_DIR="${CMAKE_SOURCE_DIR}"
-                             TABULON_BINARY_DIR="${CMAKE_BINARY_DIR}")
   add_test(NAME ${name} COMMAND ${name})
 endfunction()

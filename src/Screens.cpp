@@ -3,9 +3,6 @@
 #include "about/frmAboutApp.h"
 #include "about/frmAboutOstana.h"
 #include "about/frmSplash.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
-#include "core/frmTabulon.h"
 #include "directory/ForeignForm.h"
 #include "directory/frmDeliveryEmailTemplate.h"
 #include "directory/frmLibraryAnnotationTemplate.h"
@@ -47,6 +44,9 @@
 #include "reference/frmNotifyPatronMessages.h"
 #include "reference/frmPickupLocationEmail.h"
 #include "reference/frmServiceCode.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
+#include "shell/frmTabulon.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,

@@ -4,8 +4,8 @@
 
 #include "Screens.h"
 #include "core/CommandLine.h"
-#include "core/frmTabulon.h"
 #include "platform/desktop/TerminalPrompts.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <QApplication>
 
 #include "about/Manifest.h"
-#include "core/Procedure.h"
+#include "shell/Procedure.h"
 
 frmAboutApp::frmAboutApp(QWidget* parent) : Screen("frmAboutApp", "About Tabulon", parent) {
   for (TextBox* box : {txtTitle, txtVersion, txtLegalCopyright}) {

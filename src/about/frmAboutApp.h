@@ -2,10 +2,10 @@
 
 #include <QPushButton>
 
-#include "core/Screen.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 // "About Tabulon": title, version, rights line and comments of this program.
 class frmAboutApp : public Screen {

@@ -4,11 +4,11 @@
 #include <QProcess>
 
 #include "about/Manifest.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "platform/desktop/Registry.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 frmAboutOstana::frmAboutOstana(QWidget* parent) : Screen("frmAboutOstana", "About Ostana", parent) {
   BuildControls();

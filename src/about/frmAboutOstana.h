@@ -3,9 +3,9 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/Screen.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/MemoBox.h"
+#include "shell/Screen.h"
 
 // "About Ostana": version, edition, contact and support data of the installed system.
 class frmAboutOstana : public Screen {

@@ -3,7 +3,7 @@
 #include <QPainter>
 
 #include "about/Manifest.h"
-#include "core/Procedure.h"
+#include "shell/Procedure.h"
 
 frmSplash::frmSplash(QWidget* parent) : Screen("frmSplash", "Ostana", parent) {
   setWindowFlag(Qt::FramelessWindowHint);

@@ -4,8 +4,8 @@
 #include <QLineEdit>
 #include <QTimer>
 
-#include "core/Screen.h"
 #include "platform/controls/FormLayout.h"
+#include "shell/Screen.h"
 
 // Shown at start when the launcher was not used; closes itself after four seconds.
 class frmSplash : public Screen {

@@ -1,14 +1,14 @@
 #include "core/Languages.h"
 
+#include "core/Failure.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 
 void LoadLanguageCodes(const QString& suffix) {
-  Procedure procedure("frmTabulon.LoadLanguageCode");
+  gstrErrorMessage.clear();
   const QString description = "LANGUAGE_CODE_DESC" + (suffix.isEmpty() ? gclsOF->LanguageSuffix() : suffix);
-  procedure.Step([&] {
+  const auto failure = Failure::Of([&] {
     QStringList codes, descriptions;
     QString defaultCode;
     ForEachRow("SELECT   LANGUAGE_CODE, LANGUAGE_CODE_DEFAULT, " + description + " FROM " +
@@ -22,4 +22,5 @@ void LoadLanguageCodes(const QString& suffix) {
     gcolLanguageDesc = descriptions;
     gstrDefaultLanguageCode = defaultCode;
   });
+  if (failure) Failure::Log("frmTabulon.LoadLanguageCode", gstrErrorMessage, *failure);
 }

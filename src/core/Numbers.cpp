@@ -1,8 +1,16 @@
+#include "core/Numbers.h"
+
+#include <QLocale>
 #include <QRegularExpression>
 #include <cmath>
 
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
+
+void SetDecimalSeparator() {
+  const bool comma = QLocale().toString(9.99, 'f', 2) == "9,99";
+  gstrDecimalSeparator = comma ? "," : ".";
+  gintDecimalSeparatorKey = comma ? u',' : u'.';
+}
 
 namespace Numbers {
 

@@ -14,8 +14,8 @@
 #include "core/StatementLog.h"
 #include "core/UserRights.h"
 #include "platform/ado/Dialect.h"
-#include "platform/desktop/SingleInstance.h"
 #include "platform/files/IniFile.h"
+#include "platform/files/SingleInstance.h"
 
 namespace {
 

@@ -2,7 +2,6 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "platform/controls/CodeComboBox.h"
 
 namespace Sql {
 
@@ -97,12 +96,4 @@ QString Value(const Recordset& rows, const QString& column) {
 
 QString Value(const Recordset& rows, int position) {
   return gclsOF->FieldValue(rows.Fields(position));
-}
-
-void FillCombo(CodeComboBox& box, const QString& none, const QString& sql, const QString& failureLine,
-               int descriptionField, int codeField) {
-  box.Clear();
-  if (!none.isEmpty()) box.AddNone(none);
-  ForEachRow(sql, failureLine,
-             [&](Recordset& rows) { box.Add(Value(rows, descriptionField), Value(rows, codeField)); });
 }

@@ -45,8 +45,3 @@ qint64 ExecuteInTransaction(const QString& sql, const QString& failureLine);
 // FieldValue of the common services: NULL as empty text.
 QString Value(const Recordset& rows, const QString& column);
 QString Value(const Recordset& rows, int position);
-
-class CodeComboBox;
-// "(none)" entry first when `none` is not empty, then a row an entry: description column, code column, by position.
-void FillCombo(CodeComboBox& box, const QString& none, const QString& sql, const QString& failureLine,
-               int descriptionField, int codeField);

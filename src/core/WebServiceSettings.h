@@ -17,6 +17,3 @@ struct WebServiceSettings {
   QString skipCustomerCodes = "~";
 };
 inline WebServiceSettings gWebService;
-
-// True when the run may go on. On False the process has been told to end.
-bool ReadWebServiceSettings();

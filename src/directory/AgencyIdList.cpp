@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QHBoxLayout>
 
-#include "core/Messages.h"
-#include "core/Procedure.h"
 #include "platform/controls/FormLayout.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace {
 

@@ -9,12 +9,12 @@
 #include <QMenu>
 #include <stdexcept>
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include "directory/DefaultCode.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "directory/CustomText.h"
 #include "platform/controls/CodeComboBox.h"
+#include "shell/Messages.h"
 
 void DefaultCode::Configure(const CustomText& texts) {
   code_ = texts.Value(facts_.key).toUpper();

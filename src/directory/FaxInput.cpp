@@ -3,11 +3,11 @@
 #include <QCheckBox>
 #include <algorithm>
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Messages.h"
 
 namespace {
 constexpr char16_t Backspace = 8, Enter = 13, NoKey = 0;

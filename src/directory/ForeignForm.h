@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Screen.h"
+#include "shell/Screen.h"
 
 // A form of another application of the system: frmRequestArticle, frmRequestBook, frmQueryRequests,
 // frmPatronRegistration, frmSupplierRegistration. This program shows it by name and holds nothing of it.

@@ -4,13 +4,13 @@
 #include <QLineEdit>
 
 #include "core/Clock.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "directory/ColumnValues.h"
 #include "directory/LibraryTextKeys.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 // --- Frames ---
 

@@ -3,13 +3,13 @@
 #include <QHash>
 #include <QMenu>
 
-#include "core/Screen.h"
 #include "directory/CustomText.h"
 #include "directory/LibraryScreenFacts.h"
 #include "platform/ado/Recordset.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 class ColumnValues;
 class DateBox;

@@ -1,13 +1,13 @@
 // Commands of a library screen: search, the siblings, requests, close.
 #include <QLineEdit>
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
-#include "core/Screens.h"
 #include "directory/LibraryScreen.h"
 #include "directory/LibrarySearch.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/Screens.h"
 
 // --- The symbol ---
 

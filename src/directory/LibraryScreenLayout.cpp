@@ -6,12 +6,12 @@
 #include <QMenuBar>
 #include <QVBoxLayout>
 
-#include "core/Help.h"
-#include "core/Procedure.h"
-#include "core/Screens.h"
 #include "directory/LibraryScreen.h"
 #include "platform/controls/DateBox.h"
 #include "platform/controls/OptionGroup.h"
+#include "shell/Help.h"
+#include "shell/Procedure.h"
+#include "shell/Screens.h"
 
 namespace {
 

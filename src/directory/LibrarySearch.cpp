@@ -1,11 +1,11 @@
 #include "directory/LibrarySearch.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
-#include "core/Screen.h"
 #include "core/SqlText.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/Screen.h"
 
 namespace {
 

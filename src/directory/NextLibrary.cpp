@@ -2,8 +2,8 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
+#include "shell/Procedure.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 
 #include <QApplication>
 
-#include "core/Messages.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "directory/RequestData.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace {
 

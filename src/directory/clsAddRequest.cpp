@@ -5,9 +5,9 @@
 
 #include "core/Clock.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "directory/RequestKeywords.h"
+#include "shell/Procedure.h"
 
 namespace {
 

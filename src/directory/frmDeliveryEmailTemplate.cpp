@@ -1,10 +1,10 @@
 #include "directory/frmDeliveryEmailTemplate.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace {
 const QString Failed = "A problem occurred while updating this record.  If the problem persists contact support.";

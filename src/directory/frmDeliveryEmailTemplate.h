@@ -3,12 +3,12 @@
 #include <QGroupBox>
 #include <QPushButton>
 
-#include "core/Screen.h"
 #include "directory/TemplateTarget.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 // The e-mail that goes with an electronic delivery: one row for a library, a patron or the system, with two families of
 // the same four columns.

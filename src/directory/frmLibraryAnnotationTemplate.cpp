@@ -1,10 +1,10 @@
 #include "directory/frmLibraryAnnotationTemplate.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace {
 

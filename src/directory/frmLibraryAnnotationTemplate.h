@@ -2,12 +2,12 @@
 
 #include <QPushButton>
 
-#include "core/Screen.h"
 #include "directory/TemplateTarget.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 // The text stamped on a delivered page: whether, what, how large, where. One row for a library, a patron or the system.
 class frmLibraryAnnotationTemplate : public Screen {

@@ -1,12 +1,13 @@
 #include "directory/frmLibraryBillingInfo.h"
 
 #include "core/Clock.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "directory/ColumnValues.h"
+#include "shell/Lists.h"
+#include "shell/Messages.h"
+#include "shell/NumericFields.h"
+#include "shell/Procedure.h"
 
 namespace {
 

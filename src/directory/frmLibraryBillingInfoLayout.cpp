@@ -1,9 +1,9 @@
 // Controls of the billing screen and the custom texts that rename them.
 #include <QHBoxLayout>
 
-#include "core/NumericFields.h"
-#include "core/Screens.h"
 #include "directory/frmLibraryBillingInfo.h"
+#include "shell/NumericFields.h"
+#include "shell/Screens.h"
 
 namespace {
 

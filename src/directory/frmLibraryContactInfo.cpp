@@ -1,13 +1,13 @@
 #include "directory/frmLibraryContactInfo.h"
 
 #include "core/Clock.h"
-#include "core/FindLibrary.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
-#include "core/Screens.h"
 #include "directory/ColumnValues.h"
+#include "shell/FindLibrary.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/Screens.h"
 
 namespace {
 

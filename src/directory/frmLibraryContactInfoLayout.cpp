@@ -2,8 +2,8 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 
-#include "core/Screens.h"
 #include "directory/frmLibraryContactInfo.h"
+#include "shell/Screens.h"
 
 namespace {
 

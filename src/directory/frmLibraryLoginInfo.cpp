@@ -2,11 +2,12 @@
 
 #include <QBoxLayout>
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
+#include "shell/Lists.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace {
 

@@ -1,15 +1,16 @@
 #include "directory/frmLibraryRegistration.h"
 
 #include "core/Clock.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
-#include "core/Screens.h"
 #include "directory/ColumnValues.h"
 #include "directory/FaxInput.h"
 #include "directory/NextLibrary.h"
 #include "directory/TimeZones.h"
+#include "shell/Lists.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/Screens.h"
 
 namespace {
 

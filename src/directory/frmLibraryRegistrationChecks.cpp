@@ -1,10 +1,10 @@
 // What the registration screen tests before it writes: the shapes of addresses, then which of them the chosen methods
 // need.
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "directory/FaxInput.h"
 #include "directory/frmLibraryRegistration.h"
+#include "shell/Messages.h"
 
 // An address that a method needs and what is told when it is missing.
 struct frmLibraryRegistration::RequiredAddress {

@@ -1,11 +1,11 @@
 #include "directory/frmLibrarySearch.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "directory/LibrarySearch.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace {
 

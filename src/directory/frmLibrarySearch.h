@@ -2,11 +2,11 @@
 
 #include <span>
 
-#include "core/Screen.h"
 #include "directory/CustomText.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 // The advanced search for a library: by contact or postal code alone, or by institution and library name together.
 // The current library of the common services is the answer, on OK and on Cancel alike.

@@ -1,11 +1,11 @@
 #include "directory/frmLibrarySequence.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "directory/CustomText.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 frmLibrarySequence::frmLibrarySequence(QWidget* parent)
     : Screen("frmLibrarySequence", "Ostana -  Library Supplier Sequencing", parent) {

@@ -2,9 +2,9 @@
 
 #include <QPushButton>
 
-#include "core/Screen.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
+#include "shell/Screen.h"
 
 // The order in which the suppliers of the current library are tried. Moving rows changes nothing in the database until
 // the sequence is saved, which numbers the rows from 1.

@@ -2,12 +2,13 @@
 
 #include <QLocale>
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
 #include "directory/ColumnValues.h"
 #include "directory/LibrarySearch.h"
+#include "shell/Lists.h"
+#include "shell/Messages.h"
+#include "shell/NumericFields.h"
 
 namespace {
 

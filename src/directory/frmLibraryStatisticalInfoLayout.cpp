@@ -1,9 +1,9 @@
 // Controls of the statistical screen.
 #include <QHBoxLayout>
 
-#include "core/NumericFields.h"
 #include "directory/frmLibraryStatisticalInfo.h"
 #include "platform/controls/OptionLabel.h"
+#include "shell/NumericFields.h"
 
 namespace {
 

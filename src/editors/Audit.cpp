@@ -2,13 +2,13 @@
 
 #include <QSignalBlocker>
 
-#include "core/Editing.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
+#include "shell/Editing.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 Audit::Audit(frmTabulon& shell)
     : TabPage(shell),

@@ -2,11 +2,11 @@
 
 #include <QTabWidget>
 
-#include "core/TabPage.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "shell/TabPage.h"
 
 // Tab "Audit Codes": the codes that label the stages of the request status audit, with a sub-tab for the places and one
 // for the functions. Rows are never deleted here.

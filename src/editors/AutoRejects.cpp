@@ -4,16 +4,17 @@
 #include <QFileInfo>
 #include <algorithm>
 
-#include "core/Editing.h"
-#include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
 #include "platform/files/IniFile.h"
+#include "shell/Editing.h"
+#include "shell/GridTable.h"
+#include "shell/Lists.h"
+#include "shell/Messages.h"
+#include "shell/NumericFields.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

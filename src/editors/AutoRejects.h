@@ -1,10 +1,10 @@
 #pragma once
 
-#include "core/TabPage.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/TabPage.h"
 
 // Tab "Auto Rejects": the lists by which a request is rejected automatically when a field of it holds a listed value.
 // Which lists a site has is told by section "Tables" of the settings file; each is a table of its own.

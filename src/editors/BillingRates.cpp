@@ -1,11 +1,11 @@
 #include "editors/BillingRates.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 BillingRates::BillingRates(frmTabulon& shell, QWidget* codeOfRateTables)
     : TabPage(shell), codeOfRateTables_(codeOfRateTables) {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "core/Editing.h"
-#include "core/TabPage.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Editing.h"
+#include "shell/TabPage.h"
 
 // Sub-tab "Billing Rate Codes": the billing rates that the rate tables price.
 class BillingRates : public TabPage {

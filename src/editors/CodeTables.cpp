@@ -2,19 +2,19 @@
 
 #include <algorithm>
 
-#include "core/Editing.h"
-#include "core/FindLibrary.h"
-#include "core/GridTable.h"
 #include "core/Languages.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
-#include "core/Screen.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
 #include "platform/ado/Recordset.h"
+#include "shell/Editing.h"
+#include "shell/FindLibrary.h"
+#include "shell/GridTable.h"
+#include "shell/Messages.h"
+#include "shell/NumericFields.h"
+#include "shell/Procedure.h"
+#include "shell/Screen.h"
+#include "shell/frmTabulon.h"
 
 CodeTables::CodeTables(frmTabulon& shell) : TabPage(shell) {
   BuildControls();

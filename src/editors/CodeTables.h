@@ -4,12 +4,12 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/TabPage.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "shell/TabPage.h"
 
 class Recordset;
 

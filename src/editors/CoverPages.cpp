@@ -1,14 +1,14 @@
 #include "editors/CoverPages.h"
 
-#include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
-#include "core/Screens.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
 #include "platform/ado/Recordset.h"
+#include "shell/GridTable.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/Screens.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 const QString NoRecord = "You need select a record to Update";

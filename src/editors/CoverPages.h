@@ -2,12 +2,12 @@
 
 #include <QPushButton>
 
-#include "core/Editing.h"
-#include "core/TabPage.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Editing.h"
+#include "shell/TabPage.h"
 
 // Tab "Cover Pages": the texts printed on the cover sheet of each request type. There is one row for each type, so rows
 // are only updated. Four buttons open the notice e-mail dialogs of the selected type.

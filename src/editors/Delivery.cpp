@@ -4,12 +4,12 @@
 #include <utility>
 
 #include "core/ModuleState.h"
-#include "core/Procedure.h"
-#include "core/frmTabulon.h"
 #include "editors/MethodPage.h"
 #include "editors/MethodTables.h"
 #include "editors/PickupLocations.h"
 #include "platform/controls/FormLayout.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 Delivery::Delivery(frmTabulon& shell)
     : TabPage(shell),

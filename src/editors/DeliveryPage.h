@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/TabPage.h"
+#include "shell/TabPage.h"
 
 // One sub-tab of "Delivery/Messaging": a page with a grid, fields and operations of its own. The tab hands the shell's
 // buttons on to the page in front. Operations answer true when they went through.

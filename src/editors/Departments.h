@@ -2,12 +2,12 @@
 
 #include <QPushButton>
 
-#include "core/Editing.h"
-#include "core/TabPage.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Editing.h"
+#include "shell/TabPage.h"
 
 // Tab "Departments": the departments of each library, with their addresses and the names used towards an NCIP server.
 class Departments : public TabPage {

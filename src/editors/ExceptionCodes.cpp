@@ -1,13 +1,13 @@
 #include "editors/ExceptionCodes.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "core/WebServiceSettings.h"
-#include "core/frmTabulon.h"
+#include "shell/Messages.h"
+#include "shell/NumericFields.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

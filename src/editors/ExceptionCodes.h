@@ -3,12 +3,12 @@
 #include <QLabel>
 #include <optional>
 
-#include "core/Editing.h"
 #include "editors/ExceptionPage.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Editing.h"
 
 // Sub-tab "Exception Codes": the master list of exception codes with their type and an optional service charge.
 class ExceptionCodes : public ExceptionPage {

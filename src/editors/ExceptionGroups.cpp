@@ -1,16 +1,16 @@
 #include "editors/ExceptionGroups.h"
 
-#include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
 #include "editors/ExceptionCodes.h"
 #include "editors/ExceptionLists.h"
 #include "editors/ValidExceptions.h"
 #include "platform/controls/FormLayout.h"
+#include "shell/GridTable.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

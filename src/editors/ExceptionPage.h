@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/TabPage.h"
+#include "shell/TabPage.h"
 
 // An exception code picked on one sub-tab of "Exceptions" and shown on another.
 struct ExceptionChoice {

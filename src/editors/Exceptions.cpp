@@ -5,9 +5,7 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
 #include "editors/ExceptionCodes.h"
 #include "editors/ExceptionGroups.h"
 #include "editors/ExceptionLists.h"
@@ -15,6 +13,9 @@
 #include "editors/ValidExceptions.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
+#include "shell/Lists.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 Exceptions::Exceptions(frmTabulon& shell)
     : TabPage(shell),

@@ -2,12 +2,12 @@
 
 #include <QSignalBlocker>
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/Procedure.h"
-#include "core/frmTabulon.h"
 #include "editors/BillingRates.h"
 #include "editors/RateTables.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 Invoicing::Invoicing(frmTabulon& shell) : TabPage(shell) {
   rates_ = new RateTables(shell);

@@ -2,7 +2,7 @@
 
 #include <QTabWidget>
 
-#include "core/TabPage.h"
+#include "shell/TabPage.h"
 
 class BillingRates;
 class RateTables;

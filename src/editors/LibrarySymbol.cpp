@@ -1,9 +1,9 @@
 #include "editors/LibrarySymbol.h"
 
-#include "core/FindLibrary.h"
-#include "core/Messages.h"
-#include "core/Procedure.h"
 #include "platform/controls/TextBox.h"
+#include "shell/FindLibrary.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 qint32 LibrarySymbol::IdOf(TextBox& box) {
   const QString symbol = box.TrimInPlace();

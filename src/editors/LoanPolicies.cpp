@@ -1,15 +1,15 @@
 #include "editors/LoanPolicies.h"
 
-#include "core/Editing.h"
-#include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "editors/frmLoans.h"
 #include "platform/controls/TextInput.h"
+#include "shell/Editing.h"
+#include "shell/GridTable.h"
+#include "shell/Messages.h"
+#include "shell/NumericFields.h"
+#include "shell/Procedure.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 #include "editors/LoanStatuses.h"
 
-#include "core/Editing.h"
-#include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "editors/frmLoans.h"
+#include "shell/Editing.h"
+#include "shell/GridTable.h"
+#include "shell/Messages.h"
+#include "shell/NumericFields.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "editors/LoansTab.h"
 
 #include "core/ModuleState.h"
-#include "core/Procedure.h"
-#include "core/Screens.h"
-#include "core/frmTabulon.h"
+#include "shell/Procedure.h"
+#include "shell/Screens.h"
+#include "shell/frmTabulon.h"
 
 LoansTab::LoansTab(frmTabulon& shell) : TabPage(shell) {
   auto* const row = new QHBoxLayout;

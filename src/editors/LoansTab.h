@@ -2,8 +2,8 @@
 
 #include <QPushButton>
 
-#include "core/TabPage.h"
 #include "platform/controls/FormLayout.h"
+#include "shell/TabPage.h"
 
 // Tab "Loans": the button that opens the loan policies and loan statuses.
 class LoansTab : public TabPage {

@@ -1,16 +1,16 @@
 #include "editors/MethodPage.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
 #include "editors/MethodTables.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "core/Editing.h"
 #include "editors/DeliveryPage.h"
+#include "shell/Editing.h"
 
 class Grid;
 class OptionGroup;

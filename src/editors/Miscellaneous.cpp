@@ -4,10 +4,10 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
-#include "core/Screens.h"
 #include "core/WebServiceSettings.h"
-#include "core/frmTabulon.h"
+#include "shell/Procedure.h"
+#include "shell/Screens.h"
+#include "shell/frmTabulon.h"
 
 Miscellaneous::Miscellaneous(frmTabulon& shell) : TabPage(shell) {
   auto* const grid = new QGridLayout;

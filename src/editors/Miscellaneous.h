@@ -2,8 +2,8 @@
 
 #include <QPushButton>
 
-#include "core/TabPage.h"
 #include "platform/controls/FormLayout.h"
+#include "shell/TabPage.h"
 
 // Tab "Miscellaneous": the buttons of the reference screens and of the ISO 18626 connections.
 class Miscellaneous : public TabPage {

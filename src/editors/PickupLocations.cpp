@@ -1,13 +1,14 @@
 #include "editors/PickupLocations.h"
 
-#include "core/FindLibrary.h"
-#include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
+#include "shell/FindLibrary.h"
+#include "shell/GridTable.h"
+#include "shell/Lists.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "core/Editing.h"
 #include "editors/DeliveryPage.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Editing.h"
 
 class AdoError;
 

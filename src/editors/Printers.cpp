@@ -1,11 +1,11 @@
 #include "editors/Printers.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
 #include "platform/desktop/Prompts.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 Printers::Printers(frmTabulon& shell) : TabPage(shell) {
   BuildControls();

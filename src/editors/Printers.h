@@ -2,11 +2,11 @@
 
 #include <QPushButton>
 
-#include "core/Editing.h"
-#include "core/TabPage.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Editing.h"
+#include "shell/TabPage.h"
 
 // Tab "Printers": the named printers of the system and the device behind each name.
 class Printers : public TabPage {

@@ -3,15 +3,16 @@
 
 #include <QGridLayout>
 
-#include "core/Editing.h"
-#include "core/FindLibrary.h"
-#include "core/GridTable.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
+#include "shell/Editing.h"
+#include "shell/FindLibrary.h"
+#include "shell/GridTable.h"
+#include "shell/Lists.h"
+#include "shell/NumericFields.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

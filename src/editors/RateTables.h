@@ -2,12 +2,12 @@
 
 #include <QLabel>
 
-#include "core/TabPage.h"
 #include "editors/RateTable.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/TabPage.h"
 
 // Sub-tab "Invoicing Tables": one grid and one set of inputs for the seven rate tables that RateTable describes. What a
 // row is stored by, its codes, stands beside it; the screen shows the texts.

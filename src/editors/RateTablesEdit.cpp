@@ -1,11 +1,11 @@
 // What Add, Update, Delete and Clear do on the rate tables' page.
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
 #include "editors/RateTables.h"
+#include "shell/Messages.h"
+#include "shell/NumericFields.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

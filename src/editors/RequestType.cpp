@@ -1,14 +1,14 @@
 #include "editors/RequestType.h"
 
-#include "core/Editing.h"
-#include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
 #include "editors/LibrarySymbol.h"
+#include "shell/Editing.h"
+#include "shell/GridTable.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 
 #include <QPushButton>
 
-#include "core/TabPage.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/TabPage.h"
 
 // Tab "Request Type": library, customer id and invoice flag of the request types. The types themselves are the
 // system's, so rows are only updated.

@@ -1,13 +1,13 @@
 #include "editors/ValidExceptions.h"
 
-#include "core/Editing.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/Procedure.h"
-#include "core/Screens.h"
 #include "core/SqlText.h"
-#include "core/frmTabulon.h"
 #include "editors/ExceptionCodes.h"
+#include "shell/Editing.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
+#include "shell/Screens.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

@@ -1,11 +1,11 @@
 #include "editors/frmAddExceptionNotes.h"
 
-#include "core/Icons.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
+#include "shell/Icons.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace {
 

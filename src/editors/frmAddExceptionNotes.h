@@ -2,11 +2,11 @@
 
 #include <QPushButton>
 
-#include "core/Screen.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 // The alternative notes of one pair of exception code and process type, given in gstrNotesExceptionCode and
 // gstrNotesProcessType. The list is held in the grid and replaces the stored one when the screen is closed; its first

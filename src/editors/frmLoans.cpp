@@ -2,13 +2,13 @@
 
 #include <QScopedValueRollback>
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/WebServiceSettings.h"
 #include "editors/LoanPolicies.h"
 #include "editors/LoanStatuses.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 frmLoans::frmLoans(QWidget* parent)
     : Screen("frmLoans", "Ostana - Configure Loans", parent),

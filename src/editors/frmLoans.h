@@ -3,8 +3,8 @@
 #include <QPushButton>
 #include <QTabWidget>
 
-#include "core/Screen.h"
 #include "platform/controls/FormLayout.h"
+#include "shell/Screen.h"
 
 class LoanPolicies;
 class LoanStatuses;

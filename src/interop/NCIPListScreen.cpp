@@ -1,10 +1,10 @@
 #include "interop/NCIPListScreen.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "interop/StatementReport.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 NCIPListScreen::NCIPListScreen(const QString& formName, const QString& caption, Grid* grid, QWidget* parent)
     : Screen(formName, caption, parent), grid_(grid) {

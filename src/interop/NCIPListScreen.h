@@ -1,10 +1,10 @@
 #pragma once
 
-#include "core/Screen.h"
 #include "interop/ListRewrite.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 // What the two small NCIP lists share. Rows are edited in a grid in memory: Add, Update and Delete touch the grid
 // alone, and closing replaces the rows of the table in one transaction. Column 1 of the grid is the key.

@@ -1,12 +1,12 @@
 #include "interop/ServerConnection.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "interop/CodeLists.h"
 #include "interop/StatementReport.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace {
 

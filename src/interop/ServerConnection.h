@@ -1,9 +1,9 @@
 #pragma once
 
-#include "core/Screen.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 class Recordset;
 class StatementReport;

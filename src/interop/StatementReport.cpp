@@ -1,7 +1,7 @@
 #include "interop/StatementReport.h"
 
 #include "core/ModuleState.h"
-#include "core/Procedure.h"
+#include "shell/Procedure.h"
 
 const QString& StatementReport::Note(const QString& sql) {
   statement_ = sql;

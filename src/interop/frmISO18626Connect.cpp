@@ -2,13 +2,13 @@
 
 #include <QApplication>
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "interop/CodeLists.h"
 #include "interop/ISO18626Record.h"
 #include "interop/StatementReport.h"
+#include "shell/Messages.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 
 #include <QCheckBox>
 
-#include "core/Screen.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 class Recordset;
 struct ISO18626Record;

@@ -3,11 +3,11 @@
 
 #include <QScopedValueRollback>
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "interop/CodeLists.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 // --- Frames ---
 

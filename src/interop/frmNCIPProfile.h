@@ -3,10 +3,10 @@
 #include <array>
 #include <map>
 
-#include "core/Screen.h"
 #include "interop/DeliveryChoice.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
+#include "shell/Screen.h"
 
 class Recordset;
 

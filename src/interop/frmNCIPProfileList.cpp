@@ -1,15 +1,15 @@
 // The profile list: read from the table into the grid, and written back when the screen closes.
 #include <QScopedValueRollback>
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "interop/CodeLists.h"
 #include "interop/ListRewrite.h"
 #include "interop/StatementReport.h"
 #include "interop/frmNCIPProfile.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace {
 

@@ -3,9 +3,9 @@
 #include <QHBoxLayout>
 
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/SqlText.h"
 #include "interop/CodeLists.h"
+#include "shell/NumericFields.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #include "interop/frmNCIPUnitLibraryMapping.h"
 
-#include "core/FindLibrary.h"
 #include "core/SqlText.h"
+#include "shell/FindLibrary.h"
 
 namespace {
 

@@ -1,15 +1,15 @@
 #include "reference/LibraryMessages.h"
 
-#include "core/FindLibrary.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
 #include "reference/RecordDialog.h"
+#include "shell/FindLibrary.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 namespace LibraryMessages {
 

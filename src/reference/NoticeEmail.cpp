@@ -5,12 +5,12 @@
 #include <QStackedWidget>
 #include <algorithm>
 
-#include "core/Editing.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
+#include "shell/Editing.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 NoticeEmail::NoticeEmail(NoticeSheet sheet, QWidget* parent)
     : Screen(sheet.form, sheet.caption, parent), sheet_(std::move(sheet)) {

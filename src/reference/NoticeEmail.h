@@ -3,11 +3,11 @@
 #include <QPushButton>
 #include <vector>
 
-#include "core/Screen.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 class QGridLayout;
 class QStackedWidget;

@@ -1,6 +1,5 @@
 #include "reference/RecordDialog.h"
 
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/SqlText.h"
 #include "platform/controls/CodeComboBox.h"
@@ -8,6 +7,7 @@
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Messages.h"
 
 namespace Reference {
 

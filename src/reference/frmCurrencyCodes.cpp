@@ -2,14 +2,14 @@
 
 #include <QShortcut>
 
-#include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "reference/RecordDialog.h"
+#include "shell/GridTable.h"
+#include "shell/Messages.h"
+#include "shell/NumericFields.h"
+#include "shell/Procedure.h"
 
 using namespace Reference;
 

@@ -3,12 +3,12 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/Editing.h"
-#include "core/Screen.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Editing.h"
+#include "shell/Screen.h"
 
 // "Currency Codes": the currencies and their exchange rates against the one base currency. The base is moved by a
 // click on the grid's Base column and stored by Update.

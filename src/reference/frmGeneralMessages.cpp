@@ -1,12 +1,12 @@
 #include "reference/frmGeneralMessages.h"
 
-#include "core/GridTable.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "reference/LibraryMessages.h"
 #include "reference/RecordDialog.h"
+#include "shell/GridTable.h"
+#include "shell/Procedure.h"
 
 using namespace Reference;
 

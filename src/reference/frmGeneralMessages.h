@@ -2,14 +2,14 @@
 
 #include <QPushButton>
 
-#include "core/Editing.h"
-#include "core/Screen.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/TextBox.h"
 #include "reference/LibraryMessages.h"
+#include "shell/Editing.h"
+#include "shell/Screen.h"
 
 class Recordset;
 

@@ -1,12 +1,12 @@
 #include "reference/frmISONamespace.h"
 
-#include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "reference/RecordDialog.h"
+#include "shell/GridTable.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 using namespace Reference;
 

@@ -3,11 +3,11 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/Editing.h"
-#include "core/Screen.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Editing.h"
+#include "shell/Screen.h"
 
 // "ISO Namespace Registration": the registered namespaces, each with the name of the field it applies to.
 class frmISONamespace : public Screen {

@@ -1,13 +1,14 @@
 #include "reference/frmISOServiceLevels.h"
 
-#include "core/Editing.h"
-#include "core/GridTable.h"
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "reference/RecordDialog.h"
+#include "shell/Editing.h"
+#include "shell/GridTable.h"
+#include "shell/Lists.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 using namespace Reference;
 

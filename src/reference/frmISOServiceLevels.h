@@ -2,10 +2,10 @@
 
 #include <QPushButton>
 
-#include "core/Screen.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
+#include "shell/Screen.h"
 
 // "ISO Levels of Service": which service level of this system stands for an ISO service symbol. The rows are fixed;
 // only the level changes. An update writes the whole table anew in one transaction.

@@ -3,12 +3,12 @@
 #include <QPushButton>
 #include <QTabWidget>
 
-#include "core/Screen.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 // "Item Type": the kinds of supplied item with an optional charge, and which user groups may use which of them.
 class frmItemType : public Screen {

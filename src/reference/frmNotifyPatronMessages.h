@@ -3,8 +3,6 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "core/Editing.h"
-#include "core/Screen.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -12,6 +10,8 @@
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
 #include "reference/LibraryMessages.h"
+#include "shell/Editing.h"
+#include "shell/Screen.h"
 
 // "Notify Patron Messages": per library, the messages that can be sent to a patron about a request. A message that
 // wants a response or a document also names the queue the request waits in, the queue after the response and a reject

@@ -1,12 +1,12 @@
 // Tests of an entry, and the statements that write.
-#include "core/Messages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Procedure.h"
 #include "core/SqlText.h"
 #include "reference/LibraryMessages.h"
 #include "reference/RecordDialog.h"
 #include "reference/frmNotifyPatronMessages.h"
+#include "shell/Messages.h"
+#include "shell/Procedure.h"
 
 using namespace Reference;
 

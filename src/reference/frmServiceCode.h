@@ -4,11 +4,11 @@
 #include <QTabWidget>
 #include <array>
 
-#include "core/Screen.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 // "Service Code": which code is charged for a combination of item type, delivery method, service level, system source
 // and country region, a missing value matching anything; and which region a country belongs to. A service code row has

@@ -1,5 +1,5 @@
+#include "schema/Languages.h"
 #include "tools/Command.h"
-#include "tools/Languages.h"
 #include "tools/Terminal.h"
 
 namespace {

@@ -1,12 +1,12 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "tools/ChangeRunner.h"
+#include "schema/ChangeRunner.h"
+#include "schema/SchemaSql.h"
 #include "tools/Command.h"
 #include "tools/ExportFile.h"
 #include "tools/TableChoice.h"
 #include "tools/Terminal.h"
-#include "tools/ToolSql.h"
 
 namespace {
 
@@ -55,7 +55,7 @@ Sum Tell(std::vector<TableDifference> differences, bool removes) {
 // The counter of library numbers is no setting, so the file does not carry it.
 void WarnOfCounter(Connection& connection, const std::vector<TableDifference>& differences) {
   const int next =
-      ToolSql::Values(connection, "SELECT NEXT_LIBRARY FROM " + ToolSql::Table(connection, "ID_NEXT_LIBRARY"))
+      SchemaSql::Values(connection, "SELECT NEXT_LIBRARY FROM " + SchemaSql::Table(connection, "ID_NEXT_LIBRARY"))
           .value(0)
           .toInt();
   int highest = 0;

@@ -1,9 +1,9 @@
 #include <algorithm>
 
+#include "schema/TableDifference.h"
 #include "tools/Command.h"
 #include "tools/ExportFile.h"
 #include "tools/TableChoice.h"
-#include "tools/TableDifference.h"
 #include "tools/Terminal.h"
 
 namespace {

@@ -2,10 +2,10 @@
 #include <QFile>
 
 #include "core/PasswordCipher.h"
+#include "schema/SchemaModel.h"
 #include "tools/Command.h"
 #include "tools/DatabaseBuilder.h"
 #include "tools/DatabaseCheck.h"
-#include "tools/SchemaModel.h"
 #include "tools/Terminal.h"
 #include "tools/Users.h"
 

@@ -5,10 +5,10 @@
 #include <QFileInfo>
 
 #include "platform/ado/SqlTokens.h"
-#include "tools/SchemaModel.h"
-#include "tools/SchemaStatements.h"
-#include "tools/SqlScript.h"
-#include "tools/ToolSql.h"
+#include "schema/SchemaModel.h"
+#include "schema/SchemaSql.h"
+#include "schema/SchemaStatements.h"
+#include "schema/SqlScript.h"
 
 namespace {
 
@@ -51,7 +51,7 @@ bool MakeOnServer(const ConnectionSettings& settings) {
   maintenance.ownerPrefix.clear();
   Connection connection(maintenance);
   connection.Open();
-  if (ToolSql::Values(connection, words.names).contains(settings.name)) return false;
+  if (SchemaSql::Values(connection, words.names).contains(settings.name)) return false;
   QString quoted = settings.name;
   quoted = '"' + quoted.replace('"', "\"\"") + '"';
   connection.Execute(words.creation.arg(quoted));

@@ -3,7 +3,7 @@
 #include <QStringList>
 
 #include "platform/ado/Connection.h"
-#include "tools/Languages.h"
+#include "schema/Languages.h"
 
 // Makes the tables and rows of a database. Failures are AdoErrors.
 namespace DatabaseBuilder {

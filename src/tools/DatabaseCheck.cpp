@@ -3,10 +3,10 @@
 #include <algorithm>
 
 #include "platform/ado/Recordset.h"
-#include "tools/Languages.h"
-#include "tools/SchemaModel.h"
-#include "tools/SchemaStatements.h"
-#include "tools/ToolSql.h"
+#include "schema/Languages.h"
+#include "schema/SchemaModel.h"
+#include "schema/SchemaSql.h"
+#include "schema/SchemaStatements.h"
 
 namespace {
 
@@ -71,7 +71,7 @@ class Checker {
   }
 
   int Count(const QString& table, const QString& where = {}) {
-    return ToolSql::Values(connection_, "SELECT COUNT(*) FROM " + ToolSql::Table(connection_, table) + where)
+    return SchemaSql::Values(connection_, "SELECT COUNT(*) FROM " + SchemaSql::Table(connection_, table) + where)
         .value(0)
         .toInt();
   }

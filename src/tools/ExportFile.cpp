@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <stdexcept>
 
-#include "tools/ExportText.h"
+#include "schema/ExportText.h"
 
 #ifdef Q_OS_WIN
 #include <fcntl.h>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tools/TableContent.h"
+#include "schema/TableContent.h"
 
 // Export files on the disk; "-" is the standard input or output. std::runtime_error with the file's name.
 namespace ExportFile {

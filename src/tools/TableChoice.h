@@ -1,7 +1,7 @@
 #pragma once
 
+#include "schema/TableContent.h"
 #include "tools/Command.h"
-#include "tools/TableContent.h"
 
 // The options --tables, --secrets and --with-secrets, which the commands on settings share.
 namespace TableChoice {

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "tools/ToolSql.h"
+#include "schema/SchemaSql.h"
 
 namespace {
 
 QString WhereUser(Connection& connection, const QString& name) {
-  return " WHERE USER_ID = " + ToolSql::Literal(connection, name);
+  return " WHERE USER_ID = " + SchemaSql::Literal(connection, name);
 }
 
 QString Flag(bool value) {
@@ -15,8 +15,8 @@ QString Flag(bool value) {
 }
 
 void DeleteRight(Connection& connection, const QString& name, const QString& function) {
-  connection.Execute("DELETE FROM " + ToolSql::Table(connection, "ID_USER_FUNCTION") + WhereUser(connection, name) +
-                     " AND FUNCTION_NAME = " + ToolSql::Literal(connection, function));
+  connection.Execute("DELETE FROM " + SchemaSql::Table(connection, "ID_USER_FUNCTION") + WhereUser(connection, name) +
+                     " AND FUNCTION_NAME = " + SchemaSql::Literal(connection, function));
 }
 
 }  // namespace
@@ -34,28 +34,28 @@ QString Users::FunctionName(const QString& name) {
 }
 
 bool Users::Exists(Connection& connection, const QString& name) {
-  return !ToolSql::Values(connection,
-                          "SELECT USER_ID FROM " + ToolSql::Table(connection, "ID_USER") + WhereUser(connection, name))
+  return !SchemaSql::Values(connection, "SELECT USER_ID FROM " + SchemaSql::Table(connection, "ID_USER") +
+                                            WhereUser(connection, name))
               .isEmpty();
 }
 
 void Users::Add(Connection& connection, const QString& name, const QString& record) {
-  connection.Execute("INSERT INTO " + ToolSql::Table(connection, "ID_USER") + " (USER_ID, USER_PASSWORD) VALUES (" +
-                     ToolSql::Literal(connection, name) + ", " + ToolSql::Literal(connection, record) + ')');
+  connection.Execute("INSERT INTO " + SchemaSql::Table(connection, "ID_USER") + " (USER_ID, USER_PASSWORD) VALUES (" +
+                     SchemaSql::Literal(connection, name) + ", " + SchemaSql::Literal(connection, record) + ')');
 }
 
 void Users::SetPassword(Connection& connection, const QString& name, const QString& record) {
-  connection.Execute("UPDATE " + ToolSql::Table(connection, "ID_USER") +
-                     " SET USER_PASSWORD = " + ToolSql::Literal(connection, record) + WhereUser(connection, name));
+  connection.Execute("UPDATE " + SchemaSql::Table(connection, "ID_USER") +
+                     " SET USER_PASSWORD = " + SchemaSql::Literal(connection, record) + WhereUser(connection, name));
 }
 
 void Users::SetRight(Connection& connection, const QString& name, const Right& right) {
   Transaction transaction(connection);
   DeleteRight(connection, name, right.function);
-  connection.Execute("INSERT INTO " + ToolSql::Table(connection, "ID_USER_FUNCTION") +
+  connection.Execute("INSERT INTO " + SchemaSql::Table(connection, "ID_USER_FUNCTION") +
                      " (USER_ID, FUNCTION_NAME, ADD_FLAG, UPDATE_FLAG, DELETE_FLAG) VALUES (" +
-                     ToolSql::Literal(connection, name) + ", " + ToolSql::Literal(connection, right.function) + ", " +
-                     Flag(right.add) + ", " + Flag(right.update) + ", " + Flag(right.remove) + ')');
+                     SchemaSql::Literal(connection, name) + ", " + SchemaSql::Literal(connection, right.function) +
+                     ", " + Flag(right.add) + ", " + Flag(right.update) + ", " + Flag(right.remove) + ')');
   transaction.Commit();
 }
 
@@ -65,19 +65,19 @@ void Users::RemoveRight(Connection& connection, const QString& name, const QStri
 
 void Users::Remove(Connection& connection, const QString& name) {
   Transaction transaction(connection);
-  connection.Execute("DELETE FROM " + ToolSql::Table(connection, "ID_USER_FUNCTION") + WhereUser(connection, name));
-  connection.Execute("DELETE FROM " + ToolSql::Table(connection, "ID_USER") + WhereUser(connection, name));
+  connection.Execute("DELETE FROM " + SchemaSql::Table(connection, "ID_USER_FUNCTION") + WhereUser(connection, name));
+  connection.Execute("DELETE FROM " + SchemaSql::Table(connection, "ID_USER") + WhereUser(connection, name));
   transaction.Commit();
 }
 
 std::vector<Users::User> Users::List(Connection& connection) {
   std::vector<User> users;
-  for (const QString& name : ToolSql::Values(
-           connection, "SELECT USER_ID FROM " + ToolSql::Table(connection, "ID_USER") + " ORDER BY USER_ID"))
+  for (const QString& name : SchemaSql::Values(
+           connection, "SELECT USER_ID FROM " + SchemaSql::Table(connection, "ID_USER") + " ORDER BY USER_ID"))
     users.push_back({name, {}});
   const QString rights = "SELECT USER_ID, FUNCTION_NAME, ADD_FLAG, UPDATE_FLAG, DELETE_FLAG FROM " +
-                         ToolSql::Table(connection, "ID_USER_FUNCTION") + " ORDER BY FUNCTION_NAME";
-  for (const QStringList& row : ToolSql::Rows(connection, rights)) {
+                         SchemaSql::Table(connection, "ID_USER_FUNCTION") + " ORDER BY FUNCTION_NAME";
+  for (const QStringList& row : SchemaSql::Rows(connection, rights)) {
     const auto user = std::find_if(users.begin(), users.end(), [&](const User& one) { return one.name == row[0]; });
     if (user != users.end()) user->rights.push_back({row[1], row[2] == "Y", row[3] == "Y", row[4] == "Y"});
   }

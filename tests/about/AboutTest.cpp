@@ -3,7 +3,7 @@
 #include <QTimer>
 
 #include "core/Clock.h"
-#include "core/Screen.h"
+#include "shell/Screen.h"
 #include "support/Desk.h"
 
 namespace {

@@ -6,11 +6,12 @@
 #include "core/WebServiceSettings.h"
 #include "core/WorkFolder.h"
 #include "platform/ado/Recordset.h"
+#include "support/Folders.h"
 
 namespace {
 
 QString SourceText(const QString& name) {
-  QFile file(QStringLiteral(TABULON_SOURCE_DIR "/src/core/") + name);
+  QFile file(SourceFolder() + "/src/core/" + name);
   EXPECT_TRUE(file.open(QIODevice::ReadOnly));
   return QString::fromUtf8(file.readAll());
 }

@@ -1,7 +1,7 @@
 #include <limits>
 
-#include "core/NumericFields.h"
 #include "core/WorkFolder.h"
+#include "shell/NumericFields.h"
 
 namespace {
 

@@ -7,12 +7,13 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
 #include "directory/LibraryDesk.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/files/IniFile.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
+#include "support/Folders.h"
 
 namespace {
 
@@ -31,7 +32,7 @@ class CustomTextTest : public LibraryDesk {
   QString Entry(const QString& name) { return Find<QAction>(name)->text(); }
 };
 
-const QString Shipped = QString(TABULON_SOURCE_DIR) + "/database/site/";
+const QString Shipped = SourceFolder() + "/database/site/";
 
 TEST_F(CustomTextTest, EachKindOfKeyReachesItsControl) {
   Write(

@@ -1,9 +1,9 @@
 // The two fax boxes, typed key by key.
 #include <QCheckBox>
 
-#include "core/Screen.h"
 #include "directory/LibraryDesk.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // Find Library with the real screen behind it: the right is borrowed and given back on every path.
-#include "core/FindLibrary.h"
+#include "shell/FindLibrary.h"
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
 #include "directory/LibraryDesk.h"
+#include "shell/Screen.h"
 
 namespace {
 

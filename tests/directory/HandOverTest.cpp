@@ -1,9 +1,9 @@
 // One record goes with the user from screen to screen.
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
 #include "directory/LibraryDesk.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
 
 namespace {
 

@@ -4,11 +4,11 @@
 #include "core/Clock.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
 #include "directory/LibraryDesk.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/DateBox.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
 
 namespace {
 

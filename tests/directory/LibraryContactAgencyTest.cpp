@@ -4,8 +4,8 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
 #include "directory/LibraryDesk.h"
+#include "shell/Screen.h"
 
 namespace {
 

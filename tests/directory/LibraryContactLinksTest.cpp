@@ -1,8 +1,8 @@
 // What the contact screen links to: the NCIP server of another library, the ISO 18626 connection.
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
 #include "directory/LibraryContactDesk.h"
+#include "shell/Screen.h"
 
 namespace {
 

@@ -3,8 +3,8 @@
 #include "Screens.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
 
 namespace {
 

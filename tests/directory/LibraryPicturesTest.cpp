@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QPalette>
 
-#include "core/Screen.h"
 #include "directory/LibraryDesk.h"
+#include "shell/Screen.h"
 
 namespace {
 

@@ -6,13 +6,13 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
 #include "directory/LibraryDesk.h"
 #include "directory/LibraryScreenFacts.h"
 #include "directory/LibrarySearch.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
 
 namespace {
 

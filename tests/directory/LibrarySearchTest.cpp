@@ -1,10 +1,10 @@
 // Turning a typed text into a library: the look-ups, then the screen of the advanced search.
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
 #include "directory/LibraryDesk.h"
 #include "directory/LibrarySearch.h"
 #include "platform/controls/Grid.h"
+#include "shell/Screen.h"
 
 namespace {
 

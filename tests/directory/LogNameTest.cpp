@@ -3,8 +3,8 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screens.h"
 #include "directory/LibraryDesk.h"
+#include "shell/Screens.h"
 
 namespace {
 

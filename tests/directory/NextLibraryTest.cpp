@@ -6,10 +6,10 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
 #include "directory/LibraryDesk.h"
 #include "directory/NextLibrary.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
 
 namespace {
 

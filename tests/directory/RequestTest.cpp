@@ -1,9 +1,9 @@
 #include "core/Clock.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
 #include "directory/clsAddRequest.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
 #include "support/Desk.h"
 
 namespace {

@@ -1,8 +1,8 @@
 // Which address each method needs: three columns, each method code, as one table.
-#include "core/Messages.h"
-#include "core/Screen.h"
 #include "directory/LibraryDesk.h"
 #include "platform/controls/CodeComboBox.h"
+#include "shell/Messages.h"
+#include "shell/Screen.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The delivery e-mail and the annotation: per library, per patron and as the system's default.
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
+#include "shell/Screen.h"
 #include "support/Desk.h"
 
 namespace {

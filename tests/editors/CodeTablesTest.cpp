@@ -4,7 +4,7 @@
 #include "core/Languages.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
+#include "shell/Screen.h"
 #include "support/Desk.h"
 
 namespace {

@@ -1,5 +1,5 @@
 #include "core/ModuleState.h"
-#include "core/Screen.h"
+#include "shell/Screen.h"
 #include "support/Desk.h"
 
 namespace {

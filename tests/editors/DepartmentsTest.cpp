@@ -1,6 +1,6 @@
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
+#include "shell/Screen.h"
 #include "support/Desk.h"
 
 namespace {

@@ -1,6 +1,6 @@
-#include "core/Screen.h"
 #include "editors/ExceptionDesk.h"
 #include "platform/controls/MemoBox.h"
+#include "shell/Screen.h"
 
 namespace {
 

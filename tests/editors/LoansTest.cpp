@@ -3,12 +3,12 @@
 #include <QLocale>
 
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/NumericFields.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
 #include "support/Desk.h"
 
 namespace {

@@ -13,7 +13,8 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/frmLogon.h"
+#include "shell/frmLogon.h"
+#include "support/Folders.h"
 #include "support/Walk.h"
 
 namespace {
@@ -91,7 +92,7 @@ class GalleryTest : public Walk {
   }
 
   void CompareSheet(const QWidget& form, const QString& sheet) {
-    const QString path = QString(TABULON_SOURCE_DIR) + "/tests/gallery/sheets/" + sheet + ".txt";
+    const QString path = SourceFolder() + "/tests/gallery/sheets/" + sheet + ".txt";
     const QStringList names = SheetOf(form);
     for (int index = 1; index < names.size(); ++index)
       EXPECT_NE(names[index].section(' ', 0, 0), names[index - 1].section(' ', 0, 0)) << "a name given twice";

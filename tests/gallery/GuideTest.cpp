@@ -11,14 +11,15 @@
 #include <QUrl>
 #include <algorithm>
 
-#include "core/Help.h"
-#include "core/Screens.h"
+#include "shell/Help.h"
+#include "shell/Screens.h"
+#include "support/Folders.h"
 #include "support/Walk.h"
 
 namespace {
 
 QDir Guide() {
-  return QDir(QString(TABULON_SOURCE_DIR) + "/docs/guide");
+  return QDir(SourceFolder() + "/docs/guide");
 }
 
 QString Page(const QString& name) {
@@ -30,8 +31,7 @@ QString Page(const QString& name) {
 // All texts in the sources, each run of them put together as the compiler does, blanks made one.
 QString WordsOfTheProgram() {
   static const QRegularExpression seam("\"\\s*\"");
-  QDirIterator sources(QString(TABULON_SOURCE_DIR) + "/src", {"*.cpp", "*.h"}, QDir::Files,
-                       QDirIterator::Subdirectories);
+  QDirIterator sources(SourceFolder() + "/src", {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
   QString words;
   while (sources.hasNext()) {
     QFile file(sources.next());

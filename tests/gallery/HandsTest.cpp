@@ -17,9 +17,9 @@
 #include <QToolButton>
 #include <map>
 
-#include "core/Screen.h"
-#include "core/Screens.h"
 #include "platform/controls/DateBox.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
 #include "support/Walk.h"
 
 namespace {

@@ -2,7 +2,7 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
+#include "shell/Screen.h"
 #include "support/Desk.h"
 
 // A desk with a few libraries: two that edit, and a server that both use.

@@ -1,8 +1,8 @@
 #include <QLabel>
 #include <QTest>
 
-#include "core/Screens.h"
 #include "interop/InteropDesk.h"
+#include "shell/Screens.h"
 
 namespace {
 

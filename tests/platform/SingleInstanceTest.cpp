@@ -1,4 +1,4 @@
-#include "platform/desktop/SingleInstance.h"
+#include "platform/files/SingleInstance.h"
 
 #include <gtest/gtest.h>
 

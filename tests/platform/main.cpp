@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "platform/desktop/SingleInstance.h"
+#include "platform/files/SingleInstance.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
-#include "core/NumericFields.h"
 #include "reference/CurrencyDesk.h"
+#include "shell/NumericFields.h"
 
 namespace {
 

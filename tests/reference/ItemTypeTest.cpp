@@ -1,7 +1,7 @@
 #include <QLocale>
 
-#include "core/NumericFields.h"
 #include "reference/ReferenceDesk.h"
+#include "shell/NumericFields.h"
 
 namespace {
 

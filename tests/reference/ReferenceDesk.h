@@ -4,10 +4,10 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
 #include "support/Desk.h"
 
 // Icons and answers of the messages, as the scripts of this folder name them.

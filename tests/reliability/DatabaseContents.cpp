@@ -1,7 +1,7 @@
 #include "reliability/DatabaseContents.h"
 
 #include "platform/ado/Recordset.h"
-#include "tools/SchemaModel.h"
+#include "schema/SchemaModel.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 
 #include "core/Clock.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
 #include "reliability/WritingScreens.h"
+#include "shell/NumericFields.h"
 
 namespace {
 

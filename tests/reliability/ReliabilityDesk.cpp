@@ -5,8 +5,8 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
 #include "platform/controls/Grid.h"
+#include "shell/Screen.h"
 
 void ReliabilityDesk::SetUp() {
   SampleDesk::SetUp();

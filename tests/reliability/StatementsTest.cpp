@@ -8,12 +8,13 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screens.h"
 #include "directory/clsAddRequest.h"
 #include "platform/ado/SqlTokens.h"
 #include "reliability/FarDesk.h"
 #include "reliability/SentStatements.h"
 #include "reliability/WritingScreens.h"
+#include "shell/Screens.h"
+#include "support/Folders.h"
 
 namespace {
 
@@ -187,7 +188,7 @@ TEST(SentStatements, HasOneRowForEachAction) {
 }
 
 TEST(SentStatements, StandInTheDocument) {
-  QFile file(TABULON_SOURCE_DIR "/docs/engines.md");
+  QFile file(SourceFolder() + "/docs/engines.md");
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QString document = QString::fromUtf8(file.readAll());
   for (const Sent& sent : SentStatements())

@@ -20,16 +20,17 @@
 #include "core/Clock.h"
 #include "core/Languages.h"
 #include "core/ModuleState.h"
-#include "core/NumericFields.h"
 #include "core/OstanaFunctions.h"
 #include "core/ProcessEnd.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
-#include "core/WebServiceSettings.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/files/IniFile.h"
 #include "platform/files/WideTextFile.h"
+#include "shell/NumericFields.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
+#include "shell/WebServiceReading.h"
+#include "support/Folders.h"
 
 namespace {
 
@@ -362,7 +363,7 @@ QString Desk::Focus() const {
 }
 
 void Desk::Picture(const QString& name, QWidget* window) const {
-  const QFileInfo picture(QString(TABULON_BINARY_DIR) + "/gallery/" + name + ".png");
+  const QFileInfo picture(BuildFolder() + "/gallery/" + name + ".png");
   picture.dir().mkpath(".");
   QApplication::processEvents();
   EXPECT_TRUE((window ? window : Window())->grab().save(picture.filePath()));

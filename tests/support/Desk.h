@@ -6,11 +6,11 @@
 #include <functional>
 #include <memory>
 
-#include "core/frmTabulon.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/TextBox.h"
+#include "shell/frmTabulon.h"
 #include "support/Printing.h"
 #include "support/Script.h"
 #include "support/TestDatabase.h"

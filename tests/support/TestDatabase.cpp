@@ -10,10 +10,10 @@
 
 #include "core/PasswordCipher.h"
 #include "platform/ado/Recordset.h"
+#include "schema/Languages.h"
+#include "schema/SchemaModel.h"
+#include "schema/SchemaSql.h"
 #include "tools/DatabaseBuilder.h"
-#include "tools/Languages.h"
-#include "tools/SchemaModel.h"
-#include "tools/ToolSql.h"
 #include "tools/Users.h"
 
 namespace {
@@ -145,7 +145,7 @@ class ServerDatabases {
       Connection connection(kept.settings);
       connection.Open();
       if (Shape(connection) != kept.shape) return false;
-      if (IsPostgreSql()) return ToolSql::Values(connection, "SELECT kept.restore()").value(0) == "1";
+      if (IsPostgreSql()) return SchemaSql::Values(connection, "SELECT kept.restore()").value(0) == "1";
       RestoreOneByOne(connection);
       return true;
     } catch (const AdoError&) {
@@ -169,18 +169,18 @@ class ServerDatabases {
     QStringList selects;
     for (const SchemaTable& table : SchemaModel::Get().tables)
       selects += "SELECT '" + table.name + "' FROM DUAL WHERE EXISTS (SELECT 1 FROM " + place(table.name) + ')';
-    return ToolSql::Values(connection, selects.join(" UNION ALL "));
+    return SchemaSql::Values(connection, selects.join(" UNION ALL "));
   }
 
   // A session that a case forgot could hold locks.
   static void EndSessions(const QString& database) {
     if (IsPostgreSql()) {
-      ToolSql::Values(
+      SchemaSql::Values(
           Administrator(),
           "SELECT pg_terminate_backend(pid, 5000) FROM pg_stat_activity WHERE datname = '" + database + "'");
       return;
     }
-    for (const QString& id : ToolSql::Values(
+    for (const QString& id : SchemaSql::Values(
              Administrator(), "SELECT ID FROM INFORMATION_SCHEMA.PROCESSLIST WHERE DB = '" + database + "'")) {
       try {
         Administrator().Execute("KILL " + id);
@@ -207,7 +207,7 @@ class ServerDatabases {
         "CONSTRAINT_NAME))) FROM INFORMATION_SCHEMA.TABLE_CONSTRAINTS WHERE CONSTRAINT_SCHEMA = DATABASE()), (SELECT "
         "COUNT(*) FROM INFORMATION_SCHEMA.TRIGGERS WHERE TRIGGER_SCHEMA = DATABASE()), (SELECT COUNT(*) FROM "
         "INFORMATION_SCHEMA.ROUTINES WHERE ROUTINE_SCHEMA = DATABASE()))";
-    return ToolSql::Values(connection, IsPostgreSql() ? postgreSql : mariaDb).value(0);
+    return SchemaSql::Values(connection, IsPostgreSql() ? postgreSql : mariaDb).value(0);
   }
 
   std::vector<Kept> free_;

@@ -6,8 +6,9 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
-#include "core/Screen.h"
-#include "core/Screens.h"
+#include "shell/Screen.h"
+#include "shell/Screens.h"
+#include "support/Folders.h"
 
 void Walk::SetUp() {
   SampleDesk::SetUp();
@@ -24,7 +25,7 @@ void Walk::SetUp() {
 }
 
 void Walk::UseWording(const QString& file) {
-  ASSERT_TRUE(QFile::copy(QString(TABULON_SOURCE_DIR) + "/database/site/" + file, Folder() + "/" + file));
+  ASSERT_TRUE(QFile::copy(SourceFolder() + "/database/site/" + file, Folder() + "/" + file));
   Setting("System", "CustomConfigFile", file);
 }
 

@@ -1,6 +1,6 @@
+#include "schema/SchemaModel.h"
 #include "support/Texts.h"
 #include "tools/CarryDesk.h"
-#include "tools/SchemaModel.h"
 
 namespace {
 

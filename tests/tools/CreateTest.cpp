@@ -2,8 +2,8 @@
 #include <QFile>
 
 #include "platform/ado/Recordset.h"
+#include "schema/SchemaModel.h"
 #include "support/Texts.h"
-#include "tools/SchemaModel.h"
 #include "tools/ToolDesk.h"
 
 namespace {

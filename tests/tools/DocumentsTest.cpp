@@ -8,12 +8,13 @@
 #include <set>
 
 #include "platform/files/IniFile.h"
+#include "support/Folders.h"
 #include "tools/ToolDesk.h"
 
 namespace {
 
 QString Source(const QString& path) {
-  QFile file(QString(TABULON_SOURCE_DIR) + '/' + path);
+  QFile file(SourceFolder() + '/' + path);
   EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
   return QString::fromUtf8(file.readAll());
 }
@@ -100,7 +101,7 @@ TEST_F(DocumentsTest, EveryArgumentOfTheProgramIsTold) {
 
 TEST_F(DocumentsTest, EveryKeyOfTheSettingsIsToldAndStandsInTheSample) {
   const QString text = Source("docs/administration.md").section("\n## The settings file", 1).section("\n## ", 0, 0);
-  const QString sample = QString(TABULON_SOURCE_DIR) + "/database/site/Ostana.ini";
+  const QString sample = SourceFolder() + "/database/site/Ostana.ini";
   std::set<QString> known;
   for (const QString& section : IniFile::Sections(sample)) {
     EXPECT_TRUE(text.contains('[' + section + ']')) << section.toStdString();
@@ -118,7 +119,7 @@ TEST_F(DocumentsTest, EveryKeyOfTheSettingsIsToldAndStandsInTheSample) {
 
 TEST_F(DocumentsTest, EveryVariableOfTheEnvironmentIsTold) {
   const QString text = Source("docs/administration.md"), manual = Manual("Tabulon.1");
-  QDirIterator sources(QString(TABULON_SOURCE_DIR) + "/src", {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
+  QDirIterator sources(SourceFolder() + "/src", {"*.cpp"}, QDir::Files, QDirIterator::Subdirectories);
   std::set<QString> variables;
   while (sources.hasNext()) {
     QFile file(sources.next());

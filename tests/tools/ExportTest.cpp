@@ -1,9 +1,9 @@
 #include <QFileInfo>
 
+#include "schema/TableContent.h"
 #include "support/Texts.h"
 #include "tools/CarryDesk.h"
 #include "tools/DatabaseBuilder.h"
-#include "tools/TableContent.h"
 
 namespace {
 

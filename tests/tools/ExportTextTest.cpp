@@ -2,8 +2,8 @@
 
 #include <random>
 
+#include "schema/ExportText.h"
 #include "support/Texts.h"
-#include "tools/ExportText.h"
 
 namespace {
 

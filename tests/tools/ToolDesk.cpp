@@ -4,6 +4,7 @@
 #include <QProcess>
 
 #include "platform/ado/Recordset.h"
+#include "support/Folders.h"
 
 void ToolDesk::SetUp() {
   ASSERT_TRUE(folder_.isValid());
@@ -21,7 +22,7 @@ ToolDesk::Result ToolDesk::Run(const QStringList& arguments, const QString& inpu
   environment.insert("OSTANA_HOME", folder_.path());
   tool.setProcessEnvironment(environment);
   tool.setWorkingDirectory(folder_.path());
-  tool.start(QString(TABULON_BINARY_DIR) + "/tabulon-db", arguments);
+  tool.start(BuildFolder() + "/tabulon-db", arguments);
   if (!tool.waitForStarted()) {
     ADD_FAILURE() << "tabulon-db did not start: " << tool.errorString().toStdString();
     return {};

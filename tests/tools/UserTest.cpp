@@ -4,6 +4,7 @@
 
 #include "core/PasswordCipher.h"
 #include "core/UserRights.h"
+#include "support/Folders.h"
 #include "support/Texts.h"
 #include "tools/ToolDesk.h"
 
@@ -55,7 +56,7 @@ QString OnATerminal(const QString& folder, const QByteArrayList& arguments, cons
   const pid_t child = forkpty(&terminal, nullptr, nullptr, nullptr);
   if (child == 0) {
     setenv("OSTANA_HOME", folder.toUtf8().constData(), 1);
-    QByteArrayList all = QByteArrayList{QByteArray(TABULON_BINARY_DIR) + "/tabulon-db"} + arguments;
+    QByteArrayList all = QByteArrayList{BuildFolder().toUtf8() + "/tabulon-db"} + arguments;
     std::vector<char*> texts;
     for (QByteArray& argument : all) texts.push_back(argument.data());
     texts.push_back(nullptr);

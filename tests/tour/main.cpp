@@ -6,11 +6,11 @@
 
 #include "Screens.h"
 #include "core/ProcessEnd.h"
-#include "core/frmTabulon.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
 #include "platform/desktop/TerminalPrompts.h"
+#include "shell/frmTabulon.h"
 
 namespace {
 

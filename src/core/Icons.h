@@ -1,6 +1,0 @@
-#pragma once
-
-#include <QIcon>
-
-// One of the program's own pictures: "add", "update", "up" and so on, files of src/core/icons.
-QIcon OwnIcon(const char* name);
