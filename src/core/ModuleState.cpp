@@ -17,7 +17,7 @@ void ResetModuleState() {
 
   gbSkipGridEvents = false;
   gbSkipActivate = false;
-  gbRecordModified = false;
+  gLiveRecord = nullptr;
   gbFillingFields = false;
   gbTabGuardArmed = false;
   gstrButtonMode.clear();

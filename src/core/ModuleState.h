@@ -2,7 +2,10 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <memory>
+
+#include "core/Record.h"
 
 class OstanaFunctions;
 class Recordset;
@@ -38,8 +41,7 @@ inline QString gstrDefaultLanguageCode;        // the code marked as default; em
 
 inline bool gbSkipGridEvents = false;  // code moves a grid's selection; grid events ignore the move
 inline bool gbSkipActivate = false;    // the next Form_Activate does nothing but clear it
-inline bool gbRecordModified = false;  // a field of the current tab has changed
-inline bool gbFillingFields = false;   // code fills fields; change handlers leave gbRecordModified alone
+inline bool gbFillingFields = false;   // code fills fields; change handlers leave the mark of the record alone
 inline bool gbTabGuardArmed = false;   // the question before leaving a changed record may be asked
 inline QString gstrButtonMode;         // EnableButtons' letter of the current tab or code table
 
@@ -59,6 +61,19 @@ inline bool gbSaveExceptionNotes = false;    // its note list differs from the t
 inline bool gbSettingsChanged = false;       // the profile list differs from its table
 inline QString gstrISO18626ConnectionId;     // hand-over of the connection picker, both ways
 inline bool gbISO18626SelectionMode = true;  // the connection screen is opened as a picker
+
+// The record that the main screen works on; null before its first page.
+inline std::function<const Record*()> gLiveRecord;
+
+// A field of the current tab has changed.
+class RecordModifiedFlag {
+ public:
+  operator bool() const {
+    const Record* const record = gLiveRecord ? gLiveRecord() : nullptr;
+    return record != nullptr && record->Modified();
+  }
+};
+inline constexpr RecordModifiedFlag gbRecordModified;
 
 // True while code moves a grid's selection; the former value comes back on leaving.
 class SkipGridEvents {

@@ -12,7 +12,6 @@
 #include "core/SecretMask.h"
 #include "core/SiteSettings.h"
 #include "core/StatementLog.h"
-#include "core/UserRights.h"
 #include "platform/ado/Dialect.h"
 #include "platform/files/IniFile.h"
 #include "platform/files/SingleInstance.h"
@@ -115,6 +114,10 @@ const QString& OstanaFunctions::CallingFunction() const {
 
 void OstanaFunctions::SetCallingFunction(const QString& function) {
   d_->callingFunction = function;
+}
+
+const FunctionRights& OstanaFunctions::Rights() const {
+  return d_->rights;
 }
 
 bool OstanaFunctions::CanAdd() const {

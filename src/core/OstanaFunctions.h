@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 
+#include "core/UserRights.h"
 #include "platform/ado/Connection.h"
 #include "platform/ado/Recordset.h"
 
@@ -34,6 +35,9 @@ class OstanaFunctions {
   const QString& CurrentFunction() const;
   const QString& CallingFunction() const;
   void SetCallingFunction(const QString& function);
+  // Of the function validated last. A screen keeps the rights it was opened under; a borrowed function is none of its
+  // own.
+  const FunctionRights& Rights() const;
   bool CanAdd() const;
   bool CanUpdate() const;
   bool CanDelete() const;

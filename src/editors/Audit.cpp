@@ -48,8 +48,8 @@ void Audit::BuildSubTab(QWidget* page, const Kind& kind, const QString& letter) 
 
 void Audit::ConnectControls() {
   for (const Kind* kind : {&locations_, &functions_}) {
-    WatchField(kind->code, kind->grid, Code);
-    WatchField(kind->description, kind->grid, Description);
+    WatchField(record(), kind->code, kind->grid, Code);
+    WatchField(record(), kind->description, kind->grid, Description);
     connect(kind->grid, &Grid::SelChange, this, [this, kind] { SelChange(*kind); });
     KeepRowOnSort(kind->grid);
   }
@@ -74,8 +74,8 @@ void Audit::Audit_Tab() {
     mbSubTabClicked_ = false;
     gstrButtonMode = "U";
     Audit_Clear();
-    shell().ConfigureGrdTable();
-    shell().LoadDataInGrid();
+    ConfigureGrdTable();
+    LoadDataInGrid();
     shell().EnableButtons(gstrButtonMode);
     // The mode hides Add, which these codes have nevertheless.
     shell().ShowAdd(true);
@@ -101,7 +101,7 @@ void Audit::SelChange(const Kind& kind) {
       opt10Display->Select(flag == "Y" ? 0 : flag == "N" ? 1 : -1);
     }
   }
-  gbRecordModified = false;
+  record().Settled();
 }
 
 void Audit::opt10Display_Click() {
@@ -109,7 +109,7 @@ void Audit::opt10Display_Click() {
   const int row = grd10bTable->Row();
   const QString flag = row == 0 ? QString() : grd10bTable->Text(row, Display);
   // "Yes" over a stored N is no change here, and "No" over anything but Y is one: the test of all option pairs.
-  gbRecordModified = (opt10Display->IsSet(0) && flag.isEmpty()) || (opt10Display->IsSet(1) && flag != "Y");
+  record().Compared((opt10Display->IsSet(0) && flag.isEmpty()) || (opt10Display->IsSet(1) && flag != "Y"));
 }
 
 // --- Add ---
@@ -134,7 +134,7 @@ bool Audit::Audit_Add() {
       return;
     }
     ExecuteInTransaction(InsertStatement(kind), kind.insertFailure);
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     kind.grid->SetRowQuietly(kind.grid->FindRow(code, Code));
     Tell("Record Added", MessageStyle::Information);
     done = true;
@@ -201,6 +201,6 @@ bool Audit::Audit_Clear() {
     kind.description->SetText({});
     if (&kind == &functions_) opt10Display->Unset();
   }
-  gbRecordModified = false;
+  record().Settled();
   return true;
 }

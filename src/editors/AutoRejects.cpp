@@ -55,7 +55,7 @@ void AutoRejects::BuildControls() {
 }
 
 void AutoRejects::ConnectControls() {
-  WatchField(txt4Code, grd4AutoReject, ListedValue);
+  WatchField(record(), txt4Code, grd4AutoReject, ListedValue);
   connect(cmb4Tables, &CodeComboBox::Click, this, &AutoRejects::cmb4Tables_Click);
   connect(cmb4RejectType, &CodeComboBox::Click, this, &AutoRejects::cmb4RejectType_Click);
   connect(grd4AutoReject, &Grid::SelChange, this, &AutoRejects::grd4AutoReject_SelChange);
@@ -76,7 +76,7 @@ void AutoRejects::AutoRejects_Tab() {
     shell().EnableButtons(gstrButtonMode);
     cmb4Tables->SetIndex(0);
     AutoRejects_Clear();
-    shell().ConfigureGrdTable();
+    ConfigureGrdTable();
     shell().buttonState();
     FillTables();
     FillRejectTypes();
@@ -120,8 +120,8 @@ void AutoRejects::cmb4Tables_Click() {
   Procedure procedure("frmTabulon.cmb4Tables_Click", this);
   procedure.Run([this] {
     shell().buttonState();
-    shell().ConfigureGrdTable();
-    shell().LoadDataInGrid();
+    ConfigureGrdTable();
+    LoadDataInGrid();
     if (grd4AutoReject->Row() == 0 && TableSelected() && grd4AutoReject->Rows() > 1) {
       grd4AutoReject->SetRowQuietly(1);
       gbSkipGridEvents = false;
@@ -131,7 +131,7 @@ void AutoRejects::cmb4Tables_Click() {
       txt4Code->SetText({});
       cmb4RejectType->SetText("(NONE)");
     }
-    gbRecordModified = false;
+    record().Settled();
   });
 }
 
@@ -161,14 +161,14 @@ void AutoRejects::grd4AutoReject_SelChange() {
     if (!cmb4RejectType->SetCode(grd4AutoReject->Text(row, ExceptionCode)))
       cmb4RejectType->SetText(grd4AutoReject->Text(row, RejectType));
   }
-  gbRecordModified = false;
+  record().Settled();
   txt4Code->setFocus();
 }
 
 void AutoRejects::cmb4RejectType_Click() {
   gstrErrorMessage.clear();
   const int row = grd4AutoReject->Row();
-  gbRecordModified = row == 0 || !RejectTypeIsThatOf(row);
+  record().Compared(row == 0 || !RejectTypeIsThatOf(row));
 }
 
 bool AutoRejects::RejectTypeIsThatOf(int row) const {
@@ -207,7 +207,7 @@ bool AutoRejects::AutoRejects_Add() {
     ExecuteInTransaction("INSERT INTO " + Sql::Table(TableName()) + " VALUES(" + Sql::Plain(code) + ", " +
                              Sql::Plain(cmb4RejectType->Code()) + ")",
                          FailureLine("INSERT INTO"));
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     grd4AutoReject->SetRowQuietly(grd4AutoReject->FindRow(code, ListedValue));
     Tell("Record Added", MessageStyle::Information);
     done = true;
@@ -229,7 +229,7 @@ bool AutoRejects::AutoRejects_Update() {
                         Sql::Plain(grd4AutoReject->Text(row, ListedValue)) + " and " + gstrExcCode + " = " +
                         Sql::Plain(grd4AutoReject->Text(row, ExceptionCode));
     ExecuteInTransaction(sql, FailureLine("UPDATE"));
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     grd4AutoReject->SetRowQuietly(grd4AutoReject->FindRow(code, ListedValue));
     Tell("Record Updated", MessageStyle::Information);
     done = true;
@@ -279,7 +279,7 @@ bool AutoRejects::AutoRejects_Delete() {
     }
     ExecuteInTransaction("DELETE FROM " + Sql::Table(TableName()) + " WHERE " + gstrField + " = " + Sql::Plain(code),
                          FailureLine("DELETE"));
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     AutoRejects_Clear();
     Tell("Record Deleted", MessageStyle::Information);
     done = true;
@@ -295,6 +295,6 @@ bool AutoRejects::AutoRejects_Clear() {
     cmb4RejectType->SetIndex(0);
   }
   txt4Code->setFocus();
-  gbRecordModified = false;
+  record().Settled();
   return true;
 }

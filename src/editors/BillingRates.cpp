@@ -29,11 +29,11 @@ void BillingRates::BuildControls() {
 }
 
 void BillingRates::ConnectControls() {
-  WatchAnyChange(txt7BillingCode);
-  WatchAnyChange(txt7BillingDescription);
-  connect(cmb7InvoiceFlag, &CodeComboBox::Click, this, [] {
+  WatchAnyChange(record(), txt7BillingCode);
+  WatchAnyChange(record(), txt7BillingDescription);
+  connect(cmb7InvoiceFlag, &CodeComboBox::Click, this, [this] {
     gstrErrorMessage.clear();
-    gbRecordModified = true;
+    record().Touched();
   });
   connect(grd7BillingRate, &Grid::SelChange, this, &BillingRates::grd7BillingRate_SelChange);
   KeepRowOnSort(grd7BillingRate);
@@ -56,7 +56,7 @@ void BillingRates::grd7BillingRate_SelChange() {
     txt7BillingDescription->SetText(grd7BillingRate->Text(row, Description));
     if (!cmb7InvoiceFlag->SetCode(grd7BillingRate->Text(row, InvoiceFlag))) cmb7InvoiceFlag->SetIndex(0);
   }
-  gbRecordModified = false;
+  record().Settled();
   txt7BillingCode->setFocus();
 }
 
@@ -80,7 +80,7 @@ bool BillingRates::Add() {
                            languages.columns + ", INVOICE_FLAG_OVR) VALUES (" + Sql::National(code) + ", " +
                            description + languages.values + ", " + Sql::NationalOr(InvoiceFlagLetter(), "NULL") + ")",
                        "***** SQL error on OSTANA.ID_BILLING_RATE (INSERT INTO) *****");
-  shell().LoadDataInGrid();
+  LoadDataInGrid();
   grd7BillingRate->SetRow(grd7BillingRate->FindRow(code, Code));
   Tell("Record Added", MessageStyle::Information);
   return true;
@@ -93,7 +93,7 @@ bool BillingRates::Update() {
   const int row = grd7BillingRate->FindRow(code, Code);
   if (row > 0 && description == grd7BillingRate->Text(row, Description) &&
       InvoiceFlagLetter() == grd7BillingRate->Text(row, InvoiceFlag)) {
-    gbRecordModified = false;
+    record().Settled();
     return Refuse("Nothing has been changed", MessageStyle::Warning, txt7BillingDescription);
   }
   if (row == 0)
@@ -121,7 +121,7 @@ bool BillingRates::Delete() {
   // Whether the rates under this code go as well or keep it is the database's rule.
   ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_BILLING_RATE") + " WHERE BILLING_RATE = " + Sql::Plain(code),
                        "***** SQL error on OSTANA.ID_BILLING_RATE (DELETE) *****");
-  shell().LoadDataInGrid();
+  LoadDataInGrid();
   Tell("Record Deleted", MessageStyle::Information);
   return true;
 }

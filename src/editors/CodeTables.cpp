@@ -43,9 +43,9 @@ void CodeTables::ConnectControls() {
   connect(cmb0CurrentLanguage, &CodeComboBox::Click, this, &CodeTables::cmb0CurrentLanguage_Click);
   connect(cmd0FindLibrary, &QPushButton::clicked, this, &CodeTables::cmd0FindLibrary_Click);
   connect(grd0TableDesc, &Grid::SelChange, this, &CodeTables::grd0TableDesc_SelChange);
-  WatchField(txt0Code, grd0TableDesc, Code);
-  WatchField(txt0Description, grd0TableDesc, Description);
-  WatchField(txt0LibrarySymbol, grd0TableDesc, LibrarySymbol);
+  WatchField(record(), txt0Code, grd0TableDesc, Code);
+  WatchField(record(), txt0Description, grd0TableDesc, Description);
+  WatchField(record(), txt0LibrarySymbol, grd0TableDesc, LibrarySymbol);
   connect(opt0Display, &OptionGroup::Click, this, [this](int index) { Compare(WebFlag, index == 0 ? "Y" : ""); });
   connect(opt0DeliveryType, &OptionGroup::Click, this,
           [this](int index) { Compare(DeliveryType, index == 0 ? "C" : "L"); });
@@ -57,7 +57,7 @@ void CodeTables::ConnectControls() {
 bool CodeTables::Compare(int column, const QString& value) {
   gstrErrorMessage.clear();
   const int row = grd0TableDesc->Row();
-  gbRecordModified = row == 0 || grd0TableDesc->Text(row, column) != value;
+  record().Compared(row == 0 || grd0TableDesc->Text(row, column) != value);
   return gbRecordModified;
 }
 
@@ -97,8 +97,8 @@ void CodeTables::CodeTables_Tab() {
 
 void CodeTables::cmb0Tables_Click() {
   CodeTables_Clear();
-  shell().ConfigureGrdTable();
-  shell().LoadDataInGrid();
+  ConfigureGrdTable();
+  LoadDataInGrid();
   shell().EnableButtons(gstrButtonMode);
   gbSkipGridEvents = false;
   if (grd0TableDesc->Rows() > 1) {
@@ -210,7 +210,7 @@ void CodeTables::grd0TableDesc_SelChange() {
     txt0LibrarySymbol->SetText(grd0TableDesc->Text(row, LibrarySymbol));
     chk0DefaultLanguage->setChecked(grd0TableDesc->Text(row, DefaultLanguage) == "Y");
   }
-  gbRecordModified = false;
+  record().Settled();
   txt0Code->setFocus();
 }
 
@@ -274,7 +274,7 @@ bool CodeTables::CodeTables_Add() {
     Execute(InsertStatement(code, libraryId), "***** SQL error on OSTANA." + TableName() + " (INSERT INTO) *****");
     ReloadAndSelect(code, libraryId);
     Tell("Record Added", MessageStyle::Information);
-    gbRecordModified = false;
+    record().Settled();
     txt0Code->setFocus();
     done = true;
   });
@@ -324,7 +324,7 @@ QString CodeTables::InsertStatement(const QString& code, qint32 libraryId) const
 }
 
 void CodeTables::ReloadAndSelect(const QString& code, qint32 libraryId) {
-  shell().LoadDataInGrid();
+  LoadDataInGrid();
   const SkipGridEvents skip;
   grd0TableDesc->SetRowQuietly(special_.ackStatement
                                    ? grd0TableDesc->FindRow({{Code, code}, {LibraryId, QString::number(libraryId)}})
@@ -374,7 +374,7 @@ bool CodeTables::CodeTables_Update() {
                          "***** SQL error on OSTANA." + TableName() + " (Update) *****");
     WriteBack(row, libraryId);
     Tell("Record Updated", MessageStyle::Information);
-    gbRecordModified = false;
+    record().Settled();
     done = true;
   });
   return done;
@@ -453,7 +453,7 @@ bool CodeTables::CodeTables_Delete() {
                                                           " AND LIBRARY_ID= " + grd0TableDesc->Text(row, LibraryId)
                                                     : "WHERE " + gstrCodeColumn + " = " + Sql::Plain(code);
         ExecuteInTransaction(from + where, "***** SQL error on " + TableName() + " (Delete) *****");
-        shell().LoadDataInGrid();
+        LoadDataInGrid();
         CodeTables_Clear();
         Tell("Record Deleted", MessageStyle::Information);
         done = true;
@@ -474,7 +474,7 @@ bool CodeTables::CodeTables_Clear() {
     opt0Display->Unset();
   }
   txt0Code->setFocus();
-  gbRecordModified = false;
+  record().Settled();
   return true;
 }
 

@@ -42,10 +42,10 @@ void CoverPages::ConnectControls() {
       .Add(txt1Footer, Footer, Trim::None)
       .Add(txt1Message1, Message1, Trim::None)
       .Add(txt1message2, Message2, Trim::None);
-  WatchField(txt1Header, grd1CoverInfo, Header);
-  WatchField(txt1Footer, grd1CoverInfo, Footer);
-  WatchField(txt1Message1, grd1CoverInfo, Message1);
-  WatchField(txt1message2, grd1CoverInfo, Message2);
+  WatchField(record(), txt1Header, grd1CoverInfo, Header);
+  WatchField(record(), txt1Footer, grd1CoverInfo, Footer);
+  WatchField(record(), txt1Message1, grd1CoverInfo, Message1);
+  WatchField(record(), txt1message2, grd1CoverInfo, Message2);
   PassFocusOn(txt1RequestType, txt1Header);
   PassFocusOn(txt1Description, txt1Header);
   connect(grd1CoverInfo, &Grid::SelChange, this, &CoverPages::grd1CoverInfo_SelChange);
@@ -64,8 +64,8 @@ void CoverPages::CoverPages_Tab() {
   Procedure procedure("frmTabulon.CoverPages_Tab", this);
   procedure.Run([this] {
     gstrButtonMode = "U";
-    shell().ConfigureGrdTable();
-    shell().LoadDataInGrid();
+    ConfigureGrdTable();
+    LoadDataInGrid();
     shell().EnableButtons(gstrButtonMode);
     CoverPages_Clear();
     if (grd1CoverInfo->Rows() > 1) {
@@ -102,7 +102,7 @@ void CoverPages::grd1CoverInfo_SelChange() {
   txt1RequestType->SetText(grd1CoverInfo->Text(row, RequestType));
   txt1Description->SetText(grd1CoverInfo->Text(row, Description));
   fields_.FillFromRow(*grd1CoverInfo, row);
-  gbRecordModified = false;
+  record().Settled();
 }
 
 bool CoverPages::CoverPages_Update() {
@@ -119,22 +119,18 @@ bool CoverPages::CoverPages_Update() {
       Tell(NoRecord, MessageStyle::Warning);
       return;
     }
-    ExecuteInTransaction(UpdateStatement(row), "***** SQL error on OSTANA.ID_COVER_INFO (UPDATE) *****");
-    for (const BoundField& field : fields_.Fields())
-      grd1CoverInfo->SetText(row, field.column, KeepLineEnds(field.get(), grd1CoverInfo->Text(row, field.column)));
+    ExecuteInTransaction(UpdateStatement(), "***** SQL error on OSTANA.ID_COVER_INFO (UPDATE) *****");
+    fields_.WriteRow(*grd1CoverInfo, row);
     Tell("Record Updated", MessageStyle::Information);
     done = true;
   });
   return done;
 }
 
-QString CoverPages::UpdateStatement(int row) const {
+QString CoverPages::UpdateStatement() const {
   QStringList settings;
-  for (const BoundField& field : fields_.Fields()) {
-    // A message that was not touched keeps the line ends it was stored with.
-    const QString text = KeepLineEnds(field.get(), grd1CoverInfo->Text(row, field.column));
-    settings.append(gstrFieldNames[field.column - Header] + " = " + Sql::NationalOr(text, "NULL"));
-  }
+  for (const BoundField& field : fields_.Fields())
+    settings.append(gstrFieldNames[field.column - Header] + " = " + Sql::NationalOr(field.get(), "NULL"));
   // The table's name stands in lower case here, which databases that tell letters apart know it by.
   return "UPDATE  " + Sql::Table("id_cover_info") + " SET " + settings.join(", ") + " where " + gstrFieldNames.last() +
          " =" + Sql::Plain(txt1RequestType->Text());
@@ -145,7 +141,7 @@ bool CoverPages::CoverPages_Clear() {
   txt1RequestType->SetText({});
   txt1Description->SetText({});
   fields_.Clear();
-  gbRecordModified = false;
+  record().Settled();
   return true;
 }
 

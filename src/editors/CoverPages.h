@@ -32,7 +32,7 @@ class CoverPages : public TabPage {
   void ConnectControls();
   void grd1CoverInfo_SelChange();
   void OpenNotice(const QString& button, const QString& formName);
-  QString UpdateStatement(int row) const;
+  QString UpdateStatement() const;
 
   FieldList fields_;
   QStringList gstrFieldNames;  // of the recordset that filled the grid: the four texts, then the key

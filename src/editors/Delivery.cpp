@@ -26,7 +26,7 @@ void Delivery::sstab5Delivery_Click() {
   subTabClicked_ = true;
   Delivery_Tab();
   // What was being edited is no longer on screen.
-  gbRecordModified = false;
+  CurrentRecord().Settled();
   gbSkipGridEvents = false;
 }
 

@@ -3,7 +3,7 @@
 #include <QTabWidget>
 #include <array>
 
-#include "editors/DeliveryPage.h"
+#include "shell/TabPage.h"
 
 // Tab "Delivery/Messaging": the methods of delivery, messaging and requesting, and the pickup locations of the
 // libraries, each a sub-tab with a page of its own. The shell's buttons act on the sub-tab in front.
@@ -21,15 +21,16 @@ class Delivery : public TabPage {
   bool Delivery_Clear() { return Front().Clear(); }
 
   QString GridKey() const override { return Front().GridKey(); }
+  Record& CurrentRecord() override { return Front().CurrentRecord(); }
   ButtonCondition Condition() const override { return Front().Condition(); }
   void ConfigureGrid() override { Front().ConfigureGrid(); }
   void LoadGrid() override { Front().LoadGrid(); }
 
  private:
   void sstab5Delivery_Click();
-  DeliveryPage& Front() const { return *pages_.at(static_cast<size_t>(sstab5Delivery->currentIndex())); }
+  SubPage& Front() const { return *pages_.at(static_cast<size_t>(sstab5Delivery->currentIndex())); }
 
   QTabWidget* const sstab5Delivery = new QTabWidget(this);
-  std::array<DeliveryPage*, 4> pages_;  // in the order of the sub-tabs
-  bool subTabClicked_ = false;          // Delivery_Tab is entered by a sub-tab, not from the main tabs
+  std::array<SubPage*, 4> pages_;  // in the order of the sub-tabs
+  bool subTabClicked_ = false;     // Delivery_Tab is entered by a sub-tab, not from the main tabs
 };

@@ -12,6 +12,7 @@
 
 Departments::Departments(frmTabulon& shell) : TabPage(shell) {
   BuildControls();
+  TellGrid();
   ConnectControls();
 }
 
@@ -31,17 +32,15 @@ void Departments::BuildControls() {
   Form::Column(this, {boxes})->addWidget(grd2Department, 1);
 }
 
+void Departments::TellGrid() {
+  form_.Edits(txt2LibrarySymbol, {"LIBRARY_SYMBOL", "Library", 1500})
+      .Edits(txt2Department, {"DEPARTMENT", "Department", 1000})
+      .Edits(txt2Description, {"DEPARTMENT_DESC+", "Description", 4000})
+      .Edits(txt2Address, {"DEPARTMENT_ADDR", "Address", 2000})
+      .Edits(txtNCIPDepartment, {"NCIP_DEPARTMENT", "NCIP Department"});
+}
+
 void Departments::ConnectControls() {
-  fields_.Add(txt2LibrarySymbol, Symbol)
-      .Add(txt2Department, Department)
-      .Add(txt2Description, Description)
-      .Add(txt2Address, Address)
-      .Add(txtNCIPDepartment, NCIPDepartment);
-  WatchField(txt2LibrarySymbol, grd2Department, Symbol);
-  WatchField(txt2Department, grd2Department, Department);
-  WatchField(txt2Description, grd2Department, Description);
-  WatchField(txt2Address, grd2Department, Address);
-  WatchField(txtNCIPDepartment, grd2Department, NCIPDepartment);
   connect(cmbShowDepartments, &CodeComboBox::Click, this, &Departments::cmbShowDepartments_Click);
   connect(cmd2FindLibrary, &QPushButton::clicked, this,
           [this] { LibrarySymbol::Find(*txt2LibrarySymbol, this, "frmTabulon.cmd2FindLibrary_Click"); });
@@ -57,9 +56,9 @@ void Departments::Departments_Tab() {
     gstrButtonMode = "F";
     SetDepartmentList();
     cmbShowDepartments->SetIndex(0);
-    fields_.Clear();
-    shell().ConfigureGrdTable();
-    shell().LoadDataInGrid();
+    form_.Clear();
+    ConfigureGrdTable();
+    LoadDataInGrid();
     shell().EnableButtons(gstrButtonMode);
     SelectFirstRow();
   });
@@ -78,41 +77,31 @@ void Departments::SetDepartmentList() {
 void Departments::cmbShowDepartments_Click() {
   Procedure procedure("frmTabulon.cmbShowDepartments_Click", this);
   procedure.Run([this] {
-    shell().ConfigureGrdTable();
-    shell().LoadDataInGrid();
+    ConfigureGrdTable();
+    LoadDataInGrid();
     SelectFirstRow();
   });
 }
 
 void Departments::SelectFirstRow() {
-  if (grd2Department->Rows() < 2) return;
-  grd2Department->SetRowQuietly(1);
-  gbSkipGridEvents = false;
-  grd2Department_SelChange();
+  form_.SelectFirstRow([this] { grd2Department_SelChange(); });
 }
 
 void Departments::LoadGrid() {
-  const QString description = "DEPARTMENT_DESC" + gclsOF->LanguageSuffix();
   const QString one = cmbShowDepartments->IsEmptyOrNone()
                           ? QString()
                           : "AND      L.LIBRARY_SYMBOL = " + Sql::National(cmbShowDepartments->Code()) + " ";
-  FillGrid(*grd2Department, {GridKey(),
-                             [&] {
-                               return "SELECT   D.DEPARTMENT, D." + description +
-                                      ", D.DEPARTMENT_ADDR, D.NCIP_DEPARTMENT, L.LIBRARY_SYMBOL " + "FROM " +
-                                      Sql::Table("ID_DEPARTMENT") + " D, " + Sql::Table("ID_LIBRARY") + " L " +
-                                      "WHERE    L.LIBRARY_ID = D.LIBRARY_ID " + one +
-                                      "ORDER BY L.LIBRARY_SYMBOL, D.DEPARTMENT";
-                             },
-                             "***** SQL error on OSTANA.ID_DEPARTMENT (Select) *****",
-                             {"LIBRARY_SYMBOL", "DEPARTMENT", description, "DEPARTMENT_ADDR", "NCIP_DEPARTMENT"}});
+  form_.Load("SELECT   D.DEPARTMENT, D.DEPARTMENT_DESC" + gclsOF->LanguageSuffix() +
+                 ", D.DEPARTMENT_ADDR, D.NCIP_DEPARTMENT, L.LIBRARY_SYMBOL " + "FROM " + Sql::Table("ID_DEPARTMENT") +
+                 " D, " + Sql::Table("ID_LIBRARY") + " L " + "WHERE    L.LIBRARY_ID = D.LIBRARY_ID " + one +
+                 "ORDER BY L.LIBRARY_SYMBOL, D.DEPARTMENT",
+             "***** SQL error on OSTANA.ID_DEPARTMENT (Select) *****");
 }
 
 void Departments::grd2Department_SelChange() {
   const int row = grd2Department->Row();
   if (gbSkipGridEvents || row == 0) return;
-  fields_.FillFromRow(*grd2Department, row);
-  gbRecordModified = false;
+  form_.ShowRow(row);
   txt2Department->setFocus();
 }
 
@@ -134,24 +123,21 @@ QString Departments::DepartmentOfDescription(const QString& failureLine) const {
 // --- Add ---
 
 bool Departments::Departments_Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Departments_Add", this);
-  procedure
+  return Procedure("frmTabulon.Departments_Add", this)
       .OnFailure([](const AdoError& error) {
         return "An error occurred while trying to add a Department Code.\n\n" + error.Description();
       })
-      .Run([&] {
-        if (!EntryIsComplete() || !IsNew()) return;
+      .Answers([&] {
+        if (!EntryIsComplete() || !IsNew()) return false;
         ExecuteInTransaction(InsertStatement(), "***** SQL error on OSTANA.ID_DEPARTMENT (INSERT INTO) *****");
-        shell().LoadDataInGrid();
+        LoadDataInGrid();
         Tell("Record Added", MessageStyle::Information);
-        done = true;
+        return true;
       });
-  return done;
 }
 
 bool Departments::EntryIsComplete() {
-  fields_.TrimAll();
+  form_.TrimAll();
   if (txt2Department->TrimUpperInPlace().isEmpty())
     return Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt2Department);
   if (txt2Description->Text().isEmpty())
@@ -193,50 +179,40 @@ QString Departments::InsertStatement() const {
 // --- Update ---
 
 bool Departments::Departments_Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Departments_Update", this);
-  procedure.Run([&] {
+  return Procedure("frmTabulon.Departments_Update", this).Answers([&] {
     const int row = grd2Department->Row();
-    if (row == 0) return;
-    fields_.TrimAll();
-    if (!KeyIsThatOfRow(row)) return;
-    if (fields_.EqualsRow(*grd2Department, row)) {
-      Refuse("Nothing has been changed.", MessageStyle::Warning, txt2Department);
-      return;
-    }
-    if (txt2Description->Text().isEmpty()) {
-      Refuse("Enter a Valid Description.", MessageStyle::Warning, txt2Description);
-      return;
-    }
+    if (row == 0) return false;
+    form_.TrimAll();
+    if (!KeyIsThatOfRow(row)) return false;
+    if (form_.EqualsRow(row)) return Refuse("Nothing has been changed.", MessageStyle::Warning, txt2Department);
+    if (txt2Description->Text().isEmpty())
+      return Refuse("Enter a Valid Description.", MessageStyle::Warning, txt2Description);
     FindDepartmentLibraryId();
-    if (glngDepartmentLibraryId_ < 1) {
+    if (glngDepartmentLibraryId_ < 1)
       // The library has gone since the grid was loaded.
-      Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt2LibrarySymbol);
-      return;
-    }
-    if (txt2Description->Text() != grd2Department->Text(row, Description) &&
+      return Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt2LibrarySymbol);
+    if (txt2Description->Text() != form_.Cell(row, "DEPARTMENT_DESC+") &&
         RefuseDescriptionOf(DepartmentOfDescription("***** SQL error on ID_DEPARTMENT (Select) *****")))
-      return;
+      return false;
     ExecuteInTransaction(UpdateStatement(), "***** SQL error on OSTANA.ID_DEPARTMENT (UPDATE) *****");
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     grd2Department->SetRowQuietly(
-        grd2Department->FindRow({{Symbol, txt2LibrarySymbol->Text()}, {Department, txt2Department->Text()}}));
+        grd2Department->FindRow({{form_.ColumnOf("LIBRARY_SYMBOL"), txt2LibrarySymbol->Text()},
+                                 {form_.ColumnOf("DEPARTMENT"), txt2Department->Text()}}));
     Tell("Record Updated", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool Departments::KeyIsThatOfRow(int row) {
-  if (txt2Department->Text() == grd2Department->Text(row, Department) &&
-      txt2LibrarySymbol->Text() == grd2Department->Text(row, Symbol))
+  if (txt2Department->Text() == form_.Cell(row, "DEPARTMENT") &&
+      txt2LibrarySymbol->Text() == form_.Cell(row, "LIBRARY_SYMBOL"))
     return true;
   Tell(
       "Only the Description, Address, and NCIP department may be updated.\n\n"
       "If you wish to change the Department or Library Symbol the record must be deleted and a new record added.",
       MessageStyle::Warning);
-  fields_.FillFromRow(*grd2Department, row);
-  gbRecordModified = false;
+  form_.ShowRow(row);
   txt2Description->setFocus();
   return false;
 }
@@ -252,41 +228,31 @@ QString Departments::UpdateStatement() const {
 // --- Delete and Clear ---
 
 bool Departments::Departments_Delete() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Departments_Delete", this);
-  procedure.OnFailure(DeleteFailureText).Run([&] {
+  return Procedure("frmTabulon.Departments_Delete", this).OnFailure(DeleteFailureText).Answers([&] {
     const QString department = txt2Department->Trimmed();
-    if (department.isEmpty() || txt2LibrarySymbol->Trimmed().isEmpty()) {
-      Refuse("Choose a record to be Deleted", MessageStyle::Stop, txt2Department);
-      return;
-    }
-    if (grd2Department->FindRow(department, Department) == 0) {
-      Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt2Department);
-      return;
-    }
-    if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return;
+    if (department.isEmpty() || txt2LibrarySymbol->Trimmed().isEmpty())
+      return Refuse("Choose a record to be Deleted", MessageStyle::Stop, txt2Department);
+    if (grd2Department->FindRow(department, form_.ColumnOf("DEPARTMENT")) == 0)
+      return Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt2Department);
+    if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return false;
     FindDepartmentLibraryId();
     const qint64 deleted =
         ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_DEPARTMENT") + " " +
                                  "WHERE    DEPARTMENT = " + Sql::Plain(department) + " " + WhereLibrary(),
                              "***** SQL error on OSTANA.ID_DEPARTMENT (DELETE) *****");
-    if (deleted == 0) {
-      Refuse("Nothing was deleted.  Make sure you have a valid record selected.", MessageStyle::Warning,
-             txt2Department);
-      return;
-    }
-    shell().LoadDataInGrid();
-    fields_.Clear();
+    if (deleted == 0)
+      return Refuse("Nothing was deleted.  Make sure you have a valid record selected.", MessageStyle::Warning,
+                    txt2Department);
+    LoadDataInGrid();
+    form_.Clear();
     SelectFirstRow();
     Tell("Record Deleted", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool Departments::Departments_Clear() {
   grd2Department->SetRowQuietly(0);
-  fields_.Clear();
-  gbRecordModified = false;
+  form_.Clear();
   return true;
 }

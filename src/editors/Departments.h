@@ -6,7 +6,7 @@
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
-#include "shell/Editing.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 // Tab "Departments": the departments of each library, with their addresses and the names used towards an NCIP server.
@@ -22,13 +22,12 @@ class Departments : public TabPage {
   bool Departments_Delete();
   bool Departments_Clear();
 
-  QString GridKey() const override { return "2"; }
+  void ConfigureGrid() override { form_.Shape(); }
   void LoadGrid() override;
 
  private:
-  enum Column { Marker, Symbol, Department, Description, Address, NCIPDepartment };
-
   void BuildControls();
+  void TellGrid();
   void ConnectControls();
   void SetDepartmentList();
   void cmbShowDepartments_Click();
@@ -47,7 +46,6 @@ class Departments : public TabPage {
   QString UpdateStatement() const;
   QString WhereLibrary() const;
 
-  FieldList fields_;
   qint32 glngDepartmentLibraryId_ = 0;  // 0: no symbol given, -1: no such library
 
   CodeComboBox* const cmbShowDepartments = new CodeComboBox(this, "cmbShowDepartments");
@@ -58,4 +56,5 @@ class Departments : public TabPage {
   TextBox* const txt2Address = new TextBox(this, "txt2Address", 25);
   TextBox* const txtNCIPDepartment = new TextBox(this, "txtNCIPDepartment", 20);
   Grid* const grd2Department = new Grid(this, "grd2Department", 6);
+  GridForm form_{grd2Department, record()};
 };

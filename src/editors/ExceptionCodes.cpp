@@ -16,7 +16,7 @@ const QString Table = "ID_EXCEPTION_CODE";
 
 }  // namespace
 
-ExceptionCodes::ExceptionCodes(frmTabulon& shell) : ExceptionPage(shell) {
+ExceptionCodes::ExceptionCodes(frmTabulon& shell) : SubPage(shell) {
   BuildControls();
   ConnectControls();
   fields_.Add(txt8Code, Code, Trim::BothUpper)
@@ -40,11 +40,11 @@ void ExceptionCodes::BuildControls() {
 void ExceptionCodes::ConnectControls() {
   connect(grd8Table, &Grid::SelChange, this, &ExceptionCodes::grd8Table_SelChange);
   KeepRowOnSort(grd8Table);
-  WatchField(txt8Code, grd8Table, Code);
-  WatchField(txt8Description, grd8Table, Description);
-  WatchAnyChange(txt8ServiceCharge);
+  WatchField(record(), txt8Code, grd8Table, Code);
+  WatchField(record(), txt8Description, grd8Table, Description);
+  WatchAnyChange(record(), txt8ServiceCharge);
   connect(cboExceptionType, &CodeComboBox::Click, this,
-          [this] { CompareWithRow(cboExceptionType->Code(), grd8Table, Type); });
+          [this] { CompareWithRow(record(), cboExceptionType->Code(), grd8Table, Type); });
   // Zero is a charge; less than nothing is none.
   MakeNumeric(*txt8ServiceCharge, lbl8ServiceCharge, HighestCharge, "#####0.00", true, true);
 }
@@ -83,11 +83,11 @@ void ExceptionCodes::PopulateExceptionType() {
 }
 
 void ExceptionCodes::Return() {
-  shell().ConfigureGrdTable();
+  ConfigureGrdTable();
   const QString type = cboExceptionType->Code();
   PopulateExceptionType();
   ShowType(type);
-  shell().LoadDataInGrid();
+  LoadDataInGrid();
   grd8Table->SetRowQuietly(grd8Table->FindRow(txt8Code->Text(), Code));
 }
 
@@ -101,7 +101,7 @@ void ExceptionCodes::grd8Table_SelChange() {
   const int row = grd8Table->Row();
   if (gbSkipGridEvents || row == 0) return;
   fields_.FillFromRow(*grd8Table, row);
-  gbRecordModified = false;
+  record().Settled();
 }
 
 void ExceptionCodes::ShowType(const QString& type) {
@@ -157,7 +157,7 @@ bool ExceptionCodes::Add() {
     }
     ExecuteInTransaction(InsertStatement(code, description),
                          "***** SQL error on OSTANA.ID_EXCEPTION_CODE (INSERT INTO) *****");
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     grd8Table->SetRowQuietly(grd8Table->FindRow(code, Code));
     Tell("Record Added", MessageStyle::Information);
     done = true;
@@ -275,7 +275,7 @@ bool ExceptionCodes::Delete() {
     if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return;
     ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + " WHERE EXCEPTION_CODE = " + Sql::Plain(code),
                          "***** SQL error on OSTANA.ID_EXCEPTION_CODE (DELETE) *****");
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     shell().cmdClear_Click();
     Tell("Record Deleted", MessageStyle::Information);
     done = true;

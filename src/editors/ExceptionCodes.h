@@ -3,15 +3,16 @@
 #include <QLabel>
 #include <optional>
 
-#include "editors/ExceptionPage.h"
+#include "editors/ExceptionChoice.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
 #include "shell/Editing.h"
+#include "shell/TabPage.h"
 
 // Sub-tab "Exception Codes": the master list of exception codes with their type and an optional service charge.
-class ExceptionCodes : public ExceptionPage {
+class ExceptionCodes : public SubPage {
   Q_OBJECT
 
  public:

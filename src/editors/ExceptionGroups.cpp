@@ -20,7 +20,7 @@ constexpr int UsualRows = 18;  // of the grid, heading included
 }  // namespace
 
 ExceptionGroups::ExceptionGroups(frmTabulon& shell, ExceptionCodes& codes, ValidExceptions& valid)
-    : ExceptionPage(shell), codes_(codes), valid_(valid) {
+    : SubPage(shell), codes_(codes), valid_(valid) {
   BuildControls();
   connect(cmb8AccessGroup, &CodeComboBox::Click, this, &ExceptionGroups::cmb8AccessGroup_Click);
   connect(grd8dTable, &Grid::SelChange, this, &ExceptionGroups::grd8dTable_SelChange);
@@ -92,7 +92,7 @@ void ExceptionGroups::cmb8AccessGroup_Click() {
   procedure.Run([this] {
     shell().buttonState();
     grd8dTable->Clear();
-    shell().ConfigureGrdTable();
+    ConfigureGrdTable();
     if (cmb8AccessGroup->Code().isEmpty()) return;
     cmb8dException->SetIndex(0);
     PopulateGrid8dTable();

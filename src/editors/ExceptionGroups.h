@@ -1,15 +1,15 @@
 #pragma once
 
-#include "editors/ExceptionPage.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
+#include "shell/TabPage.h"
 
 class ExceptionCodes;
 class ValidExceptions;
 
 // Sub-tab "Exceptions by User Group": which exception codes the members of an access group may use. A row is nothing
 // but its key, so there is no Update.
-class ExceptionGroups : public ExceptionPage {
+class ExceptionGroups : public SubPage {
   Q_OBJECT
 
  public:

@@ -55,12 +55,12 @@ void Exceptions::Exception_Tab() {
   Procedure procedure("frmTabulon.Exception_Tab", this);
   procedure.Run([this] {
     gstrButtonMode = "F";
-    shell().ConfigureGrdTable();
+    ConfigureGrdTable();
     codes_->PopulateExceptionType();
     PopulateRejectComboBoxes();
     isoListsFresh_ = false;
     shell().EnableButtons(gstrButtonMode);
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     valid_->Reset();
     iso_->Reset();
     shell().cmdClear_Click();
@@ -136,7 +136,7 @@ void Exceptions::sstab8Exception_Click(SubTab left) {
         return EnterIso();
     }
   });
-  gbRecordModified = false;
+  CurrentRecord().Settled();
   gbSkipGridEvents = false;
 }
 
@@ -155,24 +155,24 @@ void Exceptions::EnterCodes(SubTab left) {
 
 void Exceptions::EnterValid() {
   shell().buttonState();
-  shell().ConfigureGrdTable();
-  shell().LoadDataInGrid();
+  ConfigureGrdTable();
+  LoadDataInGrid();
   valid_->FindChoice();
 }
 
 void Exceptions::EnterGroups() {
   groups_->PopulateAccessGroupCombo();
   shell().buttonState();
-  shell().ConfigureGrdTable();
-  shell().LoadDataInGrid();
+  ConfigureGrdTable();
+  LoadDataInGrid();
 }
 
 void Exceptions::EnterIso() {
   shell().buttonState();
   if (!isoListsFresh_) RefillKeepingChoices();
   isoListsFresh_ = true;
-  shell().ConfigureGrdTable();
-  shell().LoadDataInGrid();
+  ConfigureGrdTable();
+  LoadDataInGrid();
   iso_->FindChoice();
   iso_->Carry(valid_->Choice());
 }

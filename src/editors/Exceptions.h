@@ -3,7 +3,7 @@
 #include <QTabWidget>
 #include <array>
 
-#include "editors/ExceptionPage.h"
+#include "shell/TabPage.h"
 
 class ExceptionCodes;
 class ExceptionGroups;
@@ -28,6 +28,7 @@ class Exceptions : public TabPage {
   bool Exception_Clear() { return Front().Clear(); }
 
   QString GridKey() const override { return Front().GridKey(); }
+  Record& CurrentRecord() override { return Front().CurrentRecord(); }
   ButtonCondition Condition() const override { return Front().Condition(); }
   void ConfigureGrid() override { Front().ConfigureGrid(); }
   void LoadGrid() override { Front().LoadGrid(); }
@@ -43,13 +44,13 @@ class Exceptions : public TabPage {
   void EnterIso();
   // Without an event.
   void ShowFirstSubTab();
-  ExceptionPage& Front() const { return *pages_.at(front_); }
+  SubPage& Front() const { return *pages_.at(front_); }
 
   ExceptionCodes* const codes_;
   ValidExceptions* const valid_;
   ExceptionGroups* const groups_;
   IsoRejects* const iso_;
-  std::array<ExceptionPage*, 4> pages_;  // in the order of SubTab
+  std::array<SubPage*, 4> pages_;  // in the order of SubTab
   SubTab front_ = CodesTab;
   bool isoListsFresh_ = false;  // the lists were filled when "ISO Reject Codes" was visited
   QTabWidget* const sstab8Exception = new QTabWidget(this);

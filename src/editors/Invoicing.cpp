@@ -53,8 +53,8 @@ void Invoicing::sstab7invoicing_Click() {
   procedure.Run([this] {
     if (OnBillingRates()) {
       gstrButtonMode = "F";
-      shell().ConfigureGrdTable();
-      shell().LoadDataInGrid();
+      ConfigureGrdTable();
+      LoadDataInGrid();
       billing_->SelectFirstRow();
     } else if (billing_->HasCurrentRow() && rates_->HasBillingRates()) {
       // A billing rate chosen there carries over.
@@ -66,7 +66,7 @@ void Invoicing::sstab7invoicing_Click() {
     shell().EnableButtons(gstrButtonMode);
     shell().buttonState();
   });
-  gbRecordModified = false;
+  CurrentRecord().Settled();
 }
 
 bool Invoicing::Invoicing_Add() {

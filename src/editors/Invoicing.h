@@ -22,6 +22,7 @@ class Invoicing : public TabPage {
   bool Invoicing_Clear();
 
   QString GridKey() const override;
+  Record& CurrentRecord() override { return Current().CurrentRecord(); }
   ButtonCondition Condition() const override;
   void ConfigureGrid() override;
   void LoadGrid() override;

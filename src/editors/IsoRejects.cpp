@@ -22,11 +22,11 @@ QString IsoDescription() {
 
 }  // namespace
 
-IsoRejects::IsoRejects(frmTabulon& shell, const ExceptionCodes& codes) : ExceptionPage(shell), codes_(codes) {
+IsoRejects::IsoRejects(frmTabulon& shell, const ExceptionCodes& codes) : SubPage(shell), codes_(codes) {
   BuildControls();
   connect(cmb8RejectType, &CodeComboBox::Click, this, &IsoRejects::cmb8RejectType_Click);
   connect(cmb8ISOMessage, &CodeComboBox::Click, this,
-          [this] { CompareWithRow(cmb8ISOMessage->Text(), grd8ISO, IsoReject); });
+          [this] { CompareWithRow(record(), cmb8ISOMessage->Text(), grd8ISO, IsoReject); });
   connect(grd8ISO, &Grid::SelChange, this, &IsoRejects::grd8ISO_SelChange);
   KeepRowOnSort(grd8ISO);
 }
@@ -88,7 +88,7 @@ void IsoRejects::grd8ISO_SelChange() {
   txt8RejectTypeCode->SetText(code);
   if (!cmb8RejectType->SetCode(code)) cmb8RejectType->SetIndex(0);
   cmb8ISOMessage->SetText(grd8ISO->Text(row, IsoReject));
-  gbRecordModified = false;
+  record().Settled();
 }
 
 void IsoRejects::cmb8RejectType_Click() {
@@ -96,14 +96,14 @@ void IsoRejects::cmb8RejectType_Click() {
   procedure.Run([this] {
     shell().buttonState();
     if (cmb8RejectType->IsEmptyOrNone()) {
-      shell().ConfigureGrdTable();
-      shell().LoadDataInGrid();
+      ConfigureGrdTable();
+      LoadDataInGrid();
       shell().cmdClear_Click();
       return;
     }
     const QString code = cmb8RejectType->Code();
     txt8RejectTypeCode->SetText(code);
-    CompareWithRow(code, grd8ISO, Code);
+    CompareWithRow(record(), code, grd8ISO, Code);
     const int row = grd8ISO->FindRow(code, Code);
     if (row > 0) {
       if (!gbSkipGridEvents) grd8ISO->SetRow(row);
@@ -149,7 +149,7 @@ bool IsoRejects::Add() {
     ExecuteInTransaction("INSERT INTO " + Sql::Table(Table) + " (EXCEPTION_CODE, ISO_UNFILLED) VALUES(" +
                              Sql::Plain(code) + ", " + number + ")",
                          "***** SQL error on OSTANA.ID_EXCEPTION_ISO (INSERT INTO) *****");
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     grd8ISO->SetRow(grd8ISO->FindRow(code, Code));
     Tell("Record Added", MessageStyle::Information);
     done = true;
@@ -227,7 +227,7 @@ bool IsoRejects::Delete() {
     if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return;
     ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + " WHERE EXCEPTION_CODE = " + Sql::Plain(code),
                          "***** SQL error on OSTANA.ID_EXCEPTION_ISO (DELETE) *****");
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     shell().cmdClear_Click();
     Tell("Record Deleted", MessageStyle::Information);
     cmb8RejectType->setFocus();

@@ -1,15 +1,16 @@
 #pragma once
 
-#include "editors/ExceptionPage.h"
+#include "editors/ExceptionChoice.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/TabPage.h"
 
 class ExceptionCodes;
 
 // Sub-tab "ISO Reject Codes": the reason of the interlibrary loan protocol that an exception code is sent as, one for
 // each code. Its buttons are off; the operations are reached from the Options menu.
-class IsoRejects : public ExceptionPage {
+class IsoRejects : public SubPage {
   Q_OBJECT
 
  public:

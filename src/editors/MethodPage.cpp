@@ -26,7 +26,7 @@ QString LabelOf(const QString& box) {
 }  // namespace
 
 MethodPage::MethodPage(frmTabulon& shell, const MethodTable& method)
-    : DeliveryPage(shell),
+    : SubPage(shell),
       method_(method),
       code_(new TextBox(this, method.codeBox, 1)),
       description_(new TextBox(this, method.descriptionBox, method.descriptionLimit)),
@@ -55,8 +55,8 @@ void MethodPage::BuildControls() {
 void MethodPage::ConnectControls() {
   // The rule of method M goes before the test for a change.
   if (method_.mailIsAlwaysActive) connect(code_, &TextBox::Change, this, &MethodPage::LockMailActive);
-  WatchField(code_, grid_, Code);
-  WatchField(description_, grid_, Description);
+  WatchField(record(), code_, grid_, Code);
+  WatchField(record(), description_, grid_, Description);
   for (size_t flag = 0; flag < pairs_.size(); ++flag)
     connect(pairs_[flag], &OptionGroup::Click, this, [this, flag](int element) { FlagClicked(flag, element); });
   connect(grid_, &Grid::SelChange, this, &MethodPage::SelChange);
@@ -74,7 +74,7 @@ void MethodPage::FlagClicked(size_t flag, int element) {
   gstrErrorMessage.clear();
   const QString cell = grid_->Row() > 0 ? grid_->Text(grid_->Row(), ColumnOf(flag)) : QString();
   // A "Y" that is switched to No does not count, an empty cell left on No does.
-  gbRecordModified = (element == Yes && cell.isEmpty()) || (element == No && cell != "Y");
+  record().Compared((element == Yes && cell.isEmpty()) || (element == No && cell != "Y"));
 }
 
 // --- Entering and selecting ---
@@ -85,8 +85,8 @@ QString MethodPage::GridKey() const {
 
 void MethodPage::Enter() {
   if (!method_.buttonMode.isEmpty()) gstrButtonMode = method_.buttonMode;
-  shell().ConfigureGrdTable();
-  shell().LoadDataInGrid();
+  ConfigureGrdTable();
+  LoadDataInGrid();
   SelectFirstRow();
   code_->setFocus();
 }
@@ -111,7 +111,7 @@ void MethodPage::SelChange() {
   fields_.FillFromRow(*grid_, row);
   // A row that says otherwise does not unlock it.
   if (method_.mailIsAlwaysActive) LockMailActive();
-  gbRecordModified = false;
+  record().Settled();
 }
 
 void MethodPage::TrimEntry() {
@@ -129,7 +129,7 @@ bool MethodPage::Add() {
     const QString code = code_->Text(), description = description_->Text();
     if (!EntryIsNew(code, description)) return;
     Execute(InsertStatement(code, description), "***** SQL error on OSTANA." + method_.table + " (INSERT INTO) *****");
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     grid_->SetRowQuietly(grid_->FindRow(code, Code));
     Tell("Record Added", MessageStyle::Information);
     done = true;

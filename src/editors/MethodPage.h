@@ -2,8 +2,8 @@
 
 #include <vector>
 
-#include "editors/DeliveryPage.h"
 #include "shell/Editing.h"
+#include "shell/TabPage.h"
 
 class Grid;
 class OptionGroup;
@@ -11,7 +11,7 @@ class TextBox;
 struct MethodTable;
 
 // The sub-tab of one table of methods. Methods are added and changed here, never deleted.
-class MethodPage : public DeliveryPage {
+class MethodPage : public SubPage {
   Q_OBJECT
 
  public:

@@ -47,7 +47,7 @@ QString LocationDeleteFailureText(const AdoError& error) {
 
 }  // namespace
 
-PickupLocations::PickupLocations(frmTabulon& shell) : DeliveryPage(shell) {
+PickupLocations::PickupLocations(frmTabulon& shell) : SubPage(shell) {
   BuildControls();
   ConnectControls();
   fields_.Add(txt5dLibrarySymbol, LibrarySymbol)
@@ -74,11 +74,11 @@ void PickupLocations::BuildControls() {
 }
 
 void PickupLocations::ConnectControls() {
-  WatchField(txt5dLibrarySymbol, grd5dTable, LibrarySymbol);
-  WatchField(txt5dCode, grd5dTable, Code);
-  WatchField(txt5dILSCode, grd5dTable, IlsCode);
-  WatchField(txt5dDeliverySystemCode, grd5dTable, DeliveryCode);
-  WatchField(txt5dDescription, grd5dTable, Description);
+  WatchField(record(), txt5dLibrarySymbol, grd5dTable, LibrarySymbol);
+  WatchField(record(), txt5dCode, grd5dTable, Code);
+  WatchField(record(), txt5dILSCode, grd5dTable, IlsCode);
+  WatchField(record(), txt5dDeliverySystemCode, grd5dTable, DeliveryCode);
+  WatchField(record(), txt5dDescription, grd5dTable, Description);
   connect(cmb5dSelectLibrarySymbol, &CodeComboBox::Click, this, &PickupLocations::cmb5dSelectLibrarySymbol_Click);
   connect(cmd5dFindLibrary, &QPushButton::clicked, this, &PickupLocations::cmd5dFindLibrary_Click);
   connect(grd5dTable, &Grid::SelChange, this, &PickupLocations::grd5dTable_SelChange);
@@ -90,8 +90,8 @@ void PickupLocations::ConnectControls() {
 void PickupLocations::Enter() {
   gstrButtonMode = "F";
   SetPickupLocationList();
-  shell().ConfigureGrdTable();
-  shell().LoadDataInGrid();
+  ConfigureGrdTable();
+  LoadDataInGrid();
   SelectFirstRow();
   txt5dCode->setFocus();
 }
@@ -127,12 +127,12 @@ void PickupLocations::LoadGrid() {
 
 void PickupLocations::cmb5dSelectLibrarySymbol_Click() {
   gstrErrorMessage.clear();
-  shell().LoadDataInGrid();
+  LoadDataInGrid();
   SelectFirstRow();
 }
 
 void PickupLocations::SelectFirstRow() {
-  gbRecordModified = false;
+  record().Settled();
   if (grd5dTable->Rows() < 2) return fields_.Clear();
   grd5dTable->SetRowQuietly(1);
   ShowRow();
@@ -145,7 +145,7 @@ void PickupLocations::grd5dTable_SelChange() {
 void PickupLocations::ShowRow() {
   if (grd5dTable->Row() == 0) return;
   fields_.FillFromRow(*grd5dTable, grd5dTable->Row());
-  gbRecordModified = false;
+  record().Settled();
 }
 
 void PickupLocations::cmd5dFindLibrary_Click() {
@@ -168,7 +168,7 @@ bool PickupLocations::Add() {
     qint32 libraryId = 0;
     if (!EntryIsValid(libraryId) || !EntryIsNew(libraryId)) return;
     Execute(InsertStatement(libraryId), "***** SQL error on OSTANA.ID_PICKUP_LOCATION(Insert)*****");
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     grd5dTable->SetRowQuietly(grd5dTable->FindRow({{LibrarySymbol, txt5dLibrarySymbol->Text()},
                                                    {Code, txt5dCode->Text()},
                                                    {Description, txt5dDescription->Text()}}));
@@ -255,7 +255,7 @@ bool PickupLocations::WriteUpdate() {
   if (!gclsOF->FindLibraryId(grd5dTable->Text(row, LibrarySymbol), oldLibraryId))
     return Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt5dLibrarySymbol);
   Execute(UpdateStatement(libraryId, oldLibraryId), "***** SQL error on ID_PICKUP_LOCATION (Update) *****");
-  shell().LoadDataInGrid();
+  LoadDataInGrid();
   Tell("Location updated", MessageStyle::Information);
   grd5dTable->SetRowQuietly(
       grd5dTable->FindRow({{LibrarySymbol, txt5dLibrarySymbol->Text()}, {Code, txt5dCode->Text()}}));
@@ -293,7 +293,7 @@ bool PickupLocations::Delete() {
                              " AND PICKUP_LOCATION = " + Sql::National(code),
                          "***** SQL error on OSTANA.ID_PICKUP_LOCATION (DELETE) *****");
     grd5dTable->SetRowQuietly(0);
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     shell().cmdClear_Click();
     Tell("Location Deleted", MessageStyle::Information);
     txt5dCode->setFocus();

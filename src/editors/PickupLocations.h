@@ -1,17 +1,17 @@
 #pragma once
 
-#include "editors/DeliveryPage.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
 #include "shell/Editing.h"
+#include "shell/TabPage.h"
 
 class AdoError;
 
 // Sub-tab "Pickup Location": where the patrons of each library collect material. A location's key is the library and
 // a code; both may be changed while no patron is attached.
-class PickupLocations : public DeliveryPage {
+class PickupLocations : public SubPage {
   Q_OBJECT
 
  public:

@@ -24,8 +24,8 @@ void Printers::BuildControls() {
 
 void Printers::ConnectControls() {
   fields_.Add(txt3Printer, Printer).Add(txt3Device, Device);
-  WatchField(txt3Printer, grd3Printer, Printer);
-  WatchField(txt3Device, grd3Printer, Device);
+  WatchField(record(), txt3Printer, grd3Printer, Printer);
+  WatchField(record(), txt3Device, grd3Printer, Device);
   PassFocusOn(txt3Device, cmd3Select);
   connect(cmd3Select, &QPushButton::clicked, this, &Printers::cmd3Select_Click);
   connect(grd3Printer, &Grid::SelChange, this, &Printers::grd3Printer_SelChange);
@@ -37,8 +37,8 @@ void Printers::Printers_Tab() {
   procedure.Run([this] {
     gstrButtonMode = "F";
     fields_.Clear();
-    shell().ConfigureGrdTable();
-    shell().LoadDataInGrid();
+    ConfigureGrdTable();
+    LoadDataInGrid();
     shell().EnableButtons(gstrButtonMode);
     if (grd3Printer->Rows() > 1) {
       grd3Printer->SetRowQuietly(1);
@@ -53,7 +53,7 @@ void Printers::grd3Printer_SelChange() {
   const int row = grd3Printer->Row();
   if (gbSkipGridEvents || row == 0) return;
   fields_.FillFromRow(*grd3Printer, row);
-  gbRecordModified = false;
+  record().Settled();
   txt3Printer->setFocus();
 }
 
@@ -93,7 +93,7 @@ bool Printers::Printers_Add() {
     ExecuteInTransaction("INSERT INTO " + Sql::Table("ID_PRINTER") + " " + "(PRINTER, DEVICE ) " + "VALUES(" +
                              Sql::Plain(printer) + ", " + Sql::Plain(txt3Device->Text()) + ")",
                          "***** SQL error on OSTANA.ID_PRINTER (INSERT INTO) *****");
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     grd3Printer->SetRowQuietly(grd3Printer->FindRow(printer, Printer));
     Tell("Record Added", MessageStyle::Information);
     done = true;
@@ -176,7 +176,7 @@ bool Printers::Printers_Delete() {
     // The table's name is misspelt in the failure line that log readers know.
     ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_PRINTER") + " WHERE PRINTER =" + Sql::Plain(printer),
                          "***** SQL error on OSTANA.ID_PRIONTERS (DELETE) *****");
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     Printers_Clear();
     Tell("Record Deleted", MessageStyle::Information);
     done = true;
@@ -188,6 +188,6 @@ bool Printers::Printers_Clear() {
   grd3Printer->SetRowQuietly(0);
   fields_.Clear();
   txt3Printer->setFocus();
-  gbRecordModified = false;
+  record().Settled();
   return true;
 }

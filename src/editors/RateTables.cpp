@@ -73,11 +73,11 @@ void RateTables::ConnectControls() {
 
   for (TextBox* box :
        {txt7Code, txt7Description, txt7Surcharge, txt7aFlatFee, txt7aUnitSize, txt7aFreeExposures, txt7aPerExposure})
-    WatchAnyChange(box);
+    WatchAnyChange(record(), box);
   for (CodeComboBox* list : {cmb7aBillingRate, cmb7aDeliveryMethod, cmb7RequestingLibrary, cmb7Alias})
-    connect(list, &CodeComboBox::Click, this, [] {
+    connect(list, &CodeComboBox::Click, this, [this] {
       gstrErrorMessage.clear();
-      gbRecordModified = true;
+      record().Touched();
     });
   connect(cmb7aBillingRate, &CodeComboBox::Click, this, [this] {
     if (Rate() && Rate()->kind == RateKind::Alias)
@@ -184,14 +184,14 @@ void RateTables::cmb7RateTable_click() {
     SelectFirstRow();
     FocusFirstInput();
   });
-  gbRecordModified = false;
+  record().Settled();
 }
 
 void RateTables::LoadRateTable() {
   const RateTable* const rate = Rate();
   if (!rate) {
-    shell().ConfigureGrdTable();
-    shell().LoadDataInGrid();
+    ConfigureGrdTable();
+    LoadDataInGrid();
     return Clear();
   }
   switch (rate->kind) {
@@ -217,22 +217,22 @@ void RateTables::TakeBillingRate(const QString& code) {
 }
 
 void RateTables::Invoicing_RateTable_CopyRight() {
-  shell().ConfigureGrdTable();
-  shell().LoadDataInGrid();
+  ConfigureGrdTable();
+  LoadDataInGrid();
   txt7Code->setFocus();
 }
 
 void RateTables::Invoicing_RateTable_Typical() {
-  shell().ConfigureGrdTable();
-  shell().LoadDataInGrid();
+  ConfigureGrdTable();
+  LoadDataInGrid();
   cmb7aBillingRate->SetIndex(0);
   cmb7aDeliveryMethod->SetIndex(0);
 }
 
 void RateTables::Invoicing_RateTable_Alias() {
   grd7Table->Clear();
-  shell().ConfigureGrdTable();
-  shell().LoadDataInGrid();
+  ConfigureGrdTable();
+  LoadDataInGrid();
   for (CodeComboBox* list : {cmb7aBillingRate, cmb7RequestingLibrary, cmb7Alias}) list->SetIndex(0);
   PopulateSupplyingUnit();
 }
@@ -352,7 +352,7 @@ void RateTables::grd7Table_SelChange() {
         return ShowAlias(row);
     }
   });
-  gbRecordModified = false;
+  record().Settled();
 }
 
 void RateTables::ShowCopyRight(int row) {

@@ -101,7 +101,7 @@ bool RateTables::RefuseDuplicate(QWidget* focus) {
 bool RateTables::TellUnchanged(QWidget* focus) {
   Refuse("Nothing has been changed", MessageStyle::Warning, focus);
   // Moving the focus writes a number in full, which is no change either.
-  gbRecordModified = false;
+  record().Settled();
   return false;
 }
 
@@ -284,7 +284,7 @@ bool RateTables::AliasAdd() {
   const QString requesting = cmb7RequestingLibrary->Text();
   ExecuteInTransaction(RateSql::AliasInsert(key, cmb7Alias->Code()),
                        RateSql::FailureLine("ID_RATE_ALIAS", "INSERT INTO"));
-  shell().LoadDataInGrid();
+  LoadDataInGrid();
   grd7Table->SetRow(
       grd7Table->FindRow({{SupplyingLibrary, supplying}, {RequestingLibrary, requesting}, {SupplyingUnit, key.unit}}));
   Tell("Record Added", MessageStyle::Information);

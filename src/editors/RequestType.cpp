@@ -47,8 +47,8 @@ void RequestType::BuildControls() {
 }
 
 void RequestType::ConnectControls() {
-  WatchField(txt9Description, grd9RequestType, Description);
-  WatchField(txt9LibrarySymbol, grd9RequestType, Symbol);
+  WatchField(record(), txt9Description, grd9RequestType, Description);
+  WatchField(record(), txt9LibrarySymbol, grd9RequestType, Symbol);
   connect(cmd9FindLibrary, &QPushButton::clicked, this,
           [this] { LibrarySymbol::Find(*txt9LibrarySymbol, this, "frmTabulon.cmd9FindLibrary_Click"); });
   connect(cmb9CustomerID, &CodeComboBox::Click, this, &RequestType::cmb9CustomerID_Click);
@@ -64,8 +64,8 @@ void RequestType::RequestType_Tab() {
   procedure.Run([this] {
     gstrButtonMode = "U";
     RequestType_Clear();
-    shell().ConfigureGrdTable();
-    shell().LoadDataInGrid();
+    ConfigureGrdTable();
+    LoadDataInGrid();
     shell().EnableButtons(gstrButtonMode);
     if (grd9RequestType->Rows() > 1) {
       grd9RequestType->SetRowQuietly(1);
@@ -117,7 +117,7 @@ void RequestType::grd9RequestType_SelChange() {
     if (customer.isEmpty() || !cmb9CustomerID->SetCode(customer)) cmb9CustomerID->SetIndex(0);
     cmb9InvoiceFlag->SetIndex(grd9RequestType->Text(row, InvoiceFlag) == "N" ? 1 : 0);
   }
-  gbRecordModified = false;
+  record().Settled();
   txt9Description->setFocus();
 }
 
@@ -128,13 +128,13 @@ QString RequestType::FlagLetter() const {
 void RequestType::cmb9InvoiceFlag_Click() {
   gstrErrorMessage.clear();
   const int row = grd9RequestType->Row();
-  if (row == 0 || FlagLetter() != grd9RequestType->Text(row, InvoiceFlag)) gbRecordModified = true;
+  if (row == 0 || FlagLetter() != grd9RequestType->Text(row, InvoiceFlag)) record().Touched();
 }
 
 void RequestType::cmb9CustomerID_Click() {
   gstrErrorMessage.clear();
   const int row = grd9RequestType->Row();
-  if (row == 0 || cmb9CustomerID->Code() != grd9RequestType->Text(row, CustomerCode)) gbRecordModified = true;
+  if (row == 0 || cmb9CustomerID->Code() != grd9RequestType->Text(row, CustomerCode)) record().Touched();
 }
 
 // --- Update ---
@@ -219,6 +219,6 @@ bool RequestType::RequestType_Clear() {
     cmb9InvoiceFlag->SetIndex(-1);
     cmb9CustomerID->SetIndex(-1);
   }
-  gbRecordModified = false;
+  record().Settled();
   return true;
 }

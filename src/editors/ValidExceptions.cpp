@@ -15,18 +15,13 @@ const QString Table = "ID_EXCEPTION_PROCESS";
 const QString Passive = "Passive";  // stored as NULL
 const QString Loan = "LON";         // process type of loans
 
-// A cell as a box shows it: line ends of other systems are one character here.
-QString AsShown(QString cell) {
-  return cell.replace("\r\n", "\n");
-}
-
 void ShowCode(CodeComboBox* box, const QString& code) {
   if (code.isEmpty() || !box->SetCode(code)) box->SetIndex(0);
 }
 
 }  // namespace
 
-ValidExceptions::ValidExceptions(frmTabulon& shell, const ExceptionCodes& codes) : ExceptionPage(shell), codes_(codes) {
+ValidExceptions::ValidExceptions(frmTabulon& shell, const ExceptionCodes& codes) : SubPage(shell), codes_(codes) {
   BuildControls();
   ConnectControls();
   cmb8DeliverySource->Add("Messaging Method", "M");
@@ -66,12 +61,12 @@ void ValidExceptions::ConnectControls() {
   connect(cmb8DocumentSupply, &CodeComboBox::Click, this, &ValidExceptions::cmb8DocumentSupply_Click);
   connect(cmb8ProcessType, &CodeComboBox::Click, this, &ValidExceptions::cmb8ProcessType_Click);
   connect(cmdMoreNotes, &QPushButton::clicked, this, &ValidExceptions::cmdMoreNotes_Click);
-  WatchField(txt8Message1, grd8Document, Message);
-  WatchField(txtExceptionNote, grd8Document, Note);
+  WatchField(record(), txt8Message1, grd8Document, Message);
+  WatchField(record(), txtExceptionNote, grd8Document, Note);
   connect(cmb8Reroute1, &CodeComboBox::Click, this,
-          [this] { CompareWithRow(OnScreen().at(Reroute - 1), grd8Document, Reroute); });
+          [this] { CompareWithRow(record(), OnScreen().at(Reroute - 1), grd8Document, Reroute); });
   connect(cmb8DeliverySource, &CodeComboBox::Click, this,
-          [this] { CompareWithRow(cmb8DeliverySource->Code(), grd8Document, Delivery); });
+          [this] { CompareWithRow(record(), cmb8DeliverySource->Code(), grd8Document, Delivery); });
   connect(txtExceptionNote, &MemoBox::GotFocus, this, &ValidExceptions::NoteTouched);
   connect(txtExceptionNote, &MemoBox::KeyPress, this, [this](bool& refuse) {
     refuse = mbSeveralNotes_;
@@ -103,7 +98,7 @@ void ValidExceptions::grd8Document_SelChange() {
     const int row = grd8Document->Row();
     if (gbSkipGridEvents || row == 0) return;
     FillFromRow(row);
-    gbRecordModified = false;
+    record().Settled();
     Recordset notes;
     OpenRows(notes,
              " SELECT EXCEPTION_NOTE FROM " + Sql::Table("ID_EXCEPTION_NOTE") +
@@ -147,8 +142,8 @@ void ValidExceptions::cmb8DocumentSupply_Click() {
   procedure.Run([this] {
     shell().buttonState();
     if (cmb8DocumentSupply->Code().isEmpty()) {
-      shell().ConfigureGrdTable();
-      shell().LoadDataInGrid();
+      ConfigureGrdTable();
+      LoadDataInGrid();
       shell().cmdClear_Click();
       txt8ProcessCode->SetText({});
       return;
@@ -156,7 +151,7 @@ void ValidExceptions::cmb8DocumentSupply_Click() {
     const ExceptionChoice choice = Choice();
     txt8ProcessCode->SetText(choice.code);
     txt8Type->SetText(codes_.TypeOf(choice.code));
-    CompareWithRow(choice.code, grd8Document, Code);
+    CompareWithRow(record(), choice.code, grd8Document, Code);
     const int row = grd8Document->FindRow(choice.code, Code);
     if (row > 0) {
       if (!gbSkipGridEvents) grd8Document->SetRow(row);
@@ -170,7 +165,7 @@ void ValidExceptions::cmb8DocumentSupply_Click() {
 void ValidExceptions::cmb8ProcessType_Click() {
   const QString process = cmb8ProcessType->Code();  // empty on "(none)"
   txt8ProcessType->SetText(process);
-  CompareWithRow(process, grd8Document, Process);
+  CompareWithRow(record(), process, grd8Document, Process);
 }
 
 // --- Notes ---
@@ -221,7 +216,7 @@ bool ValidExceptions::Add() {
     ExecuteInTransaction(InsertStatement(OnScreen()),
                          "***** SQL error on OSTANA.ID_EXCEPTION_PROCESS (INSERT INTO) *****");
     const QString code = cmb8DocumentSupply->Code(), process = cmb8ProcessType->Code();
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     grd8Document->SetRow(grd8Document->FindRow({{Code, code}, {Process, process}}));
     Tell("Record Added", MessageStyle::Information);
     txt8Message1->setFocus();
@@ -307,7 +302,7 @@ bool ValidExceptions::Update() {
 bool ValidExceptions::IsUnchanged(int row) const {
   const QStringList cells = OnScreen();
   for (int column = Code; column <= Note; ++column)
-    if (cells.at(column - 1) != AsShown(grd8Document->Text(row, column))) return false;
+    if (cells.at(column - 1) != grd8Document->Text(row, column)) return false;
   return true;
 }
 
@@ -343,7 +338,7 @@ bool ValidExceptions::Delete() {
     if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return;
     ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + WherePairOf(row),
                          "***** SQL error on OSTANA.ID_EXCEPTION_PROCESS (DELETE) *****");
-    shell().LoadDataInGrid();
+    LoadDataInGrid();
     Tell("Record Deleted", MessageStyle::Information);
     done = true;
   });

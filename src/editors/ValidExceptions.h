@@ -3,18 +3,19 @@
 #include <QLabel>
 #include <QPushButton>
 
-#include "editors/ExceptionPage.h"
+#include "editors/ExceptionChoice.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/TextBox.h"
+#include "shell/TabPage.h"
 
 class ExceptionCodes;
 
 // Sub-tab "Valid Exceptions": what happens when an exception occurs in a process, for each pair of exception code and
 // process type: the message sent, where the request is rerouted to, the channel of delivery, and a note.
-class ValidExceptions : public ExceptionPage {
+class ValidExceptions : public SubPage {
   Q_OBJECT
 
  public:

@@ -28,7 +28,7 @@ void FillFilter(CodeComboBox& box, const QString& table, const QString& failureL
 
 bool IsKnownLibrary(QWidget* form, TextBox& symbol, qint32& id) {
   return gclsOF->FindLibraryId(symbol.TrimInPlace(), id) ||
-         Reference::Refuse(form, "Please enter a Valid Library Symbol.", &symbol, MessageStyle::Warning);
+         Refuse(form, "Please enter a Valid Library Symbol.", MessageStyle::Warning, &symbol);
 }
 
 namespace {
@@ -53,7 +53,7 @@ void cmbShowMessages_Click(const MessageScreen& screen, CodeComboBox& filter, co
     if (symbol == AllLibraries) return populate();
     qint32 id = 0;
     if (gclsOF->FindLibraryId(symbol, id)) return load(symbol);
-    Reference::Refuse(screen.form, "Please enter a Valid Library Symbol.", &filter, MessageStyle::Warning);
+    Refuse(screen.form, "Please enter a Valid Library Symbol.", MessageStyle::Warning, &filter);
   });
 }
 
@@ -84,14 +84,14 @@ void cmdDelete_Click(const MessageScreen& screen, const QString& failureLine,
       Tell(screen.form, "There are no records to delete.", MessageStyle::Stop);
       return;
     }
-    if (!Confirms(screen.form, Words::DeleteQuestion, MessageStyle::Question | MessageStyle::DefaultButton2)) return;
+    if (!Confirm(screen.form, Words::DeleteQuestion, MessageStyle::Question | MessageStyle::DefaultButton2)) return;
     qint32 libraryId = 0;
     const int row = *screen.currentRow;
     if (row == 0 || !IsKnownForRow(screen, screen.grid->Text(row, Library), libraryId)) return;
     ExecuteInTransaction(statement(row, libraryId), failureLine);
     screen.grid->RemoveRow(row);
     screen.showRow(screen.grid->Rows() > 1 ? 1 : 0);
-    Tell(screen.form, Words::Deleted);
+    Tell(screen.form, Words::Deleted, MessageStyle::Information);
   });
 }
 

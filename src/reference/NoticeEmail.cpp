@@ -206,8 +206,7 @@ void NoticeEmail::cmdOK_Click() {
 // Both messages are saved, whichever is on screen.
 QString NoticeEmail::UpdateStatement() const {
   QStringList settings;
-  for (const Field& field : fields_)
-    settings.append(field.column.name + " = " + Sql::PlainOr(KeepLineEnds(field.Text(), field.stored), "Null"));
+  for (const Field& field : fields_) settings.append(field.column.name + " = " + Sql::PlainOr(field.Text(), "Null"));
   return "UPDATE   " + Sql::Table("ID_COVER_INFO") + " SET      " + settings.join(", ") +
          " WHERE    REQUEST_TYPE = " + Sql::Plain(gstrCoverRequestType);
 }

@@ -11,22 +11,8 @@
 
 namespace Reference {
 
-int Tell(QWidget* form, const QString& text, int style) {
-  return ShowMessage(text, style, form->windowTitle(), {}, form);
-}
-
-bool Refuse(QWidget* form, const QString& text, QWidget* focus, int style) {
-  Tell(form, text, style);
-  if (focus) focus->setFocus();
-  return false;
-}
-
-bool Confirms(QWidget* form, const QString& question, int style) {
-  return Tell(form, question, style) == MessageAnswer::Yes;
-}
-
 bool WantsChangesApplied(QWidget* form) {
-  return Confirms(form, "This record has been modified.\nDo you wish to apply the updates before continuing?");
+  return Confirm(form, "This record has been modified.\nDo you wish to apply the updates before continuing?");
 }
 
 QString UnableToAdd(const AdoError& error) {

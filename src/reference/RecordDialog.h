@@ -34,11 +34,6 @@ inline const QString ChooseToDelete = "Please choose a record to be Deleted";
 inline const QString SelectValidRecord = "Please select a valid record from the table.";
 }  // namespace Words
 
-// A message with the form's caption as title.
-int Tell(QWidget* form, const QString& text, int style = MessageStyle::Information);
-// How a test of an entry ends: message, then the focus on its field. Always False.
-bool Refuse(QWidget* form, const QString& text, QWidget* focus, int style = MessageStyle::Stop);
-bool Confirms(QWidget* form, const QString& question, int style = MessageStyle::Question);
 // The question before a changed record is left. True: the changes are to be written.
 bool WantsChangesApplied(QWidget* form);
 

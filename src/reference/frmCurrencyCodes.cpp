@@ -150,13 +150,16 @@ void frmCurrencyCodes::grdCurrencyCode_SelChange() {
 
 bool frmCurrencyCodes::FieldsAreComplete() {
   if (txtCurrencyCode->Text().size() < 3)
-    return Refuse(this, "Currency Code is required and must be 3 characters long.", txtCurrencyCode);
-  if (txtDescription->Text().isEmpty()) return Refuse(this, "Description is a required field.", txtDescription);
-  if (txtCountry->Text().isEmpty()) return Refuse(this, "Country is a required field.", txtCountry);
+    return Refuse(this, "Currency Code is required and must be 3 characters long.", MessageStyle::Stop,
+                  txtCurrencyCode);
+  if (txtDescription->Text().isEmpty())
+    return Refuse(this, "Description is a required field.", MessageStyle::Stop, txtDescription);
+  if (txtCountry->Text().isEmpty()) return Refuse(this, "Country is a required field.", MessageStyle::Stop, txtCountry);
   // A sign or a point alone passes the key filter and is no rate.
   if (!Numbers::IsNumeric(txtExchangeRate->Text()))
-    return Refuse(this, "Exchange Rate is a required field.", txtExchangeRate);
-  if (cmbSymbol->Text().trimmed().isEmpty()) return Refuse(this, "Symbol is a required field.", cmbSymbol);
+    return Refuse(this, "Exchange Rate is a required field.", MessageStyle::Stop, txtExchangeRate);
+  if (cmbSymbol->Text().trimmed().isEmpty())
+    return Refuse(this, "Symbol is a required field.", MessageStyle::Stop, cmbSymbol);
   return true;
 }
 
@@ -165,18 +168,18 @@ bool frmCurrencyCodes::IsNewRecord() {
   const QString description = txtDescription->Text();
   for (int row = 1; row < grdCurrencyCode->Rows(); ++row) {
     if (grdCurrencyCode->Text(row, Code) == code)
-      return Refuse(this, "This record already exists.\n" + code, txtCurrencyCode);
+      return Refuse(this, "This record already exists.\n" + code, MessageStyle::Stop, txtCurrencyCode);
     if (grdCurrencyCode->Text(row, Description) == description)
-      return Refuse(this, "This record already exists.\n" + description, txtDescription);
+      return Refuse(this, "This record already exists.\n" + description, MessageStyle::Stop, txtDescription);
   }
   return true;
 }
 
 bool frmCurrencyCodes::IsKnownRecord() {
   const int row = grdCurrencyCode->FindRow(txtCurrencyCode->Text(), Code);
-  if (row == 0) return Refuse(this, Words::NoSuchCode, txtCurrencyCode);
+  if (row == 0) return Refuse(this, Words::NoSuchCode, MessageStyle::Stop, txtCurrencyCode);
   if (StandsElsewhere(*grdCurrencyCode, txtDescription->Text(), Description, row))
-    return Refuse(this, Words::SameDescription, txtDescription);
+    return Refuse(this, Words::SameDescription, MessageStyle::Stop, txtDescription);
   return true;
 }
 
@@ -205,7 +208,7 @@ void frmCurrencyCodes::cmdAdd_Click() {
     grdCurrencyCode->SetRowQuietly(mintCurrentRow);
     // A base mark that was moved in the grid is still to be stored.
     mbRecordChanged = false;
-    Tell(this, Words::Added);
+    Tell(this, Words::Added, MessageStyle::Information);
   });
 }
 
@@ -234,7 +237,7 @@ void frmCurrencyCodes::cmdUpdate_Click() {
     transaction.Commit();
     if (mbRecordChanged) WriteGridRow(grdCurrencyCode->FindRow(txtCurrencyCode->Text(), Code));
     mbRecordChanged = mbBaseChanged = false;
-    Tell(this, Words::Updated);
+    Tell(this, Words::Updated, MessageStyle::Information);
   });
 }
 
@@ -266,14 +269,15 @@ void frmCurrencyCodes::cmdClose_Click() {
     if (!IsKnownRecord() || !FieldsAreComplete()) return;
     const double rate = Numbers::Val(txtExchangeRate->Text());
     if (rate <= 0 || rate >= 100000) {
-      Refuse(this, "Exchange Rate value must be greater than 0 and less than 100000", txtExchangeRate);
+      Refuse(this, "Exchange Rate value must be greater than 0 and less than 100000", MessageStyle::Stop,
+             txtExchangeRate);
       return;
     }
     Transaction transaction(gclsOF->Connection());
     UpdateRecord(PlainUpdate(), UpdateFailed);
     transaction.Commit();
     mbRecordChanged = false;
-    Tell(this, Words::Updated);
+    Tell(this, Words::Updated, MessageStyle::Information);
     leave = true;
   });
   if (leave) Unload();
@@ -291,7 +295,7 @@ void frmCurrencyCodes::MarkBase(int row) {
 }
 
 void frmCurrencyCodes::grdCurrencyCode_Click(int row, int col) {
-  if (col != Base || !Confirms(this, "Are you sure you wish to change the base.")) return;
+  if (col != Base || !Confirm(this, "Are you sure you wish to change the base.")) return;
   if (grdCurrencyCode->Text(row, Base) == BaseMark) return;
   MarkBase(row);
   mbBaseChanged = true;
@@ -307,7 +311,7 @@ void frmCurrencyCodes::cmdDelete_Click() {
   Procedure procedure("frmCurrencyCodes.cmdDelete_Click", this);
   procedure.Finally([this] { txtCurrencyCode->setFocus(); }).Run([this] {
     const int row = mintCurrentRow;
-    if (row == 0 || !Confirms(this, Words::DeleteQuestion)) return;
+    if (row == 0 || !Confirm(this, Words::DeleteQuestion)) return;
     const bool wasBase = grdCurrencyCode->Text(row, Base) == BaseMark;
     const bool last = grdCurrencyCode->Rows() == 2;
     const QString successor = last ? QString() : grdCurrencyCode->Text(row == 1 ? 2 : 1, Code);
@@ -326,9 +330,10 @@ void frmCurrencyCodes::cmdDelete_Click() {
       mbBaseChanged = false;
       Tell(this,
            "Base Currency is now set to first record in the table.\nTo change this, just click on the base column of "
-           "the record you,\nwish to set as the base currency.");
+           "the record you,\nwish to set as the base currency.",
+           MessageStyle::Information);
     }
-    Tell(this, Words::Deleted);
+    Tell(this, Words::Deleted, MessageStyle::Information);
     ShowRow(last ? 0 : 1);
   });
 }

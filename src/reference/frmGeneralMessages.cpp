@@ -6,6 +6,7 @@
 #include "reference/LibraryMessages.h"
 #include "reference/RecordDialog.h"
 #include "shell/GridTable.h"
+#include "shell/Messages.h"
 #include "shell/Procedure.h"
 
 using namespace Reference;
@@ -130,9 +131,10 @@ void frmGeneralMessages::cmdFindLibrary_Click() {
 // --- Tests of an entry ---
 
 bool frmGeneralMessages::FieldsAreComplete() {
-  if (txtCode->Text().isEmpty()) return Refuse(this, "Code is a required field.", txtCode);
-  if (txtDescription->Text().isEmpty()) return Refuse(this, "Description is a required field.", txtDescription);
-  if (txtMessage->Text().isEmpty()) return Refuse(this, "Message is a required field.", txtMessage);
+  if (txtCode->Text().isEmpty()) return Refuse(this, "Code is a required field.", MessageStyle::Stop, txtCode);
+  if (txtDescription->Text().isEmpty())
+    return Refuse(this, "Description is a required field.", MessageStyle::Stop, txtDescription);
+  if (txtMessage->Text().isEmpty()) return Refuse(this, "Message is a required field.", MessageStyle::Stop, txtMessage);
   return true;
 }
 
@@ -140,9 +142,9 @@ bool frmGeneralMessages::IsNewMessage() {
   for (int row = 1; row < grdGeneralMessage->Rows(); ++row) {
     if (grdGeneralMessage->Text(row, Library) != txtLibrarySymbol->Text()) continue;
     if (grdGeneralMessage->Text(row, MessageCode) == txtCode->Text())
-      return Refuse(this, "This Code already exists.", txtCode);
+      return Refuse(this, "This Code already exists.", MessageStyle::Stop, txtCode);
     if (grdGeneralMessage->Text(row, Description) == txtDescription->Text())
-      return Refuse(this, "This Description already exists.", txtDescription);
+      return Refuse(this, "This Description already exists.", MessageStyle::Stop, txtDescription);
   }
   return true;
 }
@@ -153,20 +155,21 @@ bool frmGeneralMessages::MayBeUpdated(qint32& libraryId) {
   const QString symbol = txtLibrarySymbol->Text();
   if (mintCurrentRow == 0 || txtCode->Text() != grid.Text(mintCurrentRow, MessageCode) ||
       symbol != grid.Text(mintCurrentRow, Library))
-    return Refuse(this, Words::KeyIsFixed, txtCode);
+    return Refuse(this, Words::KeyIsFixed, MessageStyle::Stop, txtCode);
   for (int row = 1; row < grid.Rows(); ++row)
     if (row != mintCurrentRow && grid.Text(row, Library) == symbol &&
         grid.Text(row, Description) == txtDescription->Text())
-      return Refuse(this, "Description already exists for this Library Symbol.", txtDescription);
+      return Refuse(this, "Description already exists for this Library Symbol.", MessageStyle::Stop, txtDescription);
   return LibraryMessages::IsKnownLibrary(this, *txtLibrarySymbol, libraryId);
 }
 
 // On Close the code may be that of any row, and a description counts whatever library it belongs to.
 bool frmGeneralMessages::MayBeUpdatedOnClose(qint32& libraryId) {
   if (!FieldsAreComplete()) return false;
-  if (grdGeneralMessage->FindRow(txtCode->Text(), MessageCode) == 0) return Refuse(this, Words::NoSuchCode, txtCode);
+  if (grdGeneralMessage->FindRow(txtCode->Text(), MessageCode) == 0)
+    return Refuse(this, Words::NoSuchCode, MessageStyle::Stop, txtCode);
   if (StandsElsewhere(*grdGeneralMessage, txtDescription->Text(), Description, mintCurrentRow))
-    return Refuse(this, Words::SameDescription, txtDescription);
+    return Refuse(this, Words::SameDescription, MessageStyle::Stop, txtDescription);
   return LibraryMessages::IsKnownLibrary(this, *txtLibrarySymbol, libraryId);
 }
 
@@ -191,7 +194,7 @@ void frmGeneralMessages::cmdAdd_Click() {
     fields_.WriteRow(*grdGeneralMessage, mintCurrentRow);
     grdGeneralMessage->SetRowQuietly(mintCurrentRow);
     mbRecordChanged = false;
-    Tell(this, Words::Added);
+    Tell(this, Words::Added, MessageStyle::Information);
   });
 }
 
@@ -216,7 +219,7 @@ void frmGeneralMessages::cmdUpdate_Click() {
     transaction.Commit();
     fields_.WriteRow(*grdGeneralMessage, mintCurrentRow);
     mbRecordChanged = false;
-    Tell(this, Words::Updated);
+    Tell(this, Words::Updated, MessageStyle::Information);
   });
 }
 
@@ -240,7 +243,7 @@ void frmGeneralMessages::cmdClose_Click() {
                  UpdateFailed);
     transaction.Commit();
     mbRecordChanged = false;
-    Tell(this, Words::Updated);
+    Tell(this, Words::Updated, MessageStyle::Information);
     leave = true;
   });
   if (leave) Unload();

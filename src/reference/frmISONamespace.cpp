@@ -122,32 +122,38 @@ void frmISONamespace::grdNameSpace_SelChange() {
 
 bool frmISONamespace::IsNewRecord() {
   if (grdNameSpace->FindRow(txtNameSpace->Text(), Namespace) > 0)
-    return Refuse(this, "This record already exists.", txtNameSpace);
+    return Refuse(this, "This record already exists.", MessageStyle::Stop, txtNameSpace);
   if (grdNameSpace->FindRow(txtDescription->Text(), Description) > 0)
-    return Refuse(this, "This record already exists.", txtDescription);
+    return Refuse(this, "This record already exists.", MessageStyle::Stop, txtDescription);
   return true;
 }
 
 bool frmISONamespace::IsKnownRecord() {
   const int row = grdNameSpace->FindRow(txtNameSpace->Text(), Namespace);
-  if (row == 0) return Refuse(this, Words::NoSuchCode, txtNameSpace);
+  if (row == 0) return Refuse(this, Words::NoSuchCode, MessageStyle::Stop, txtNameSpace);
   if (StandsElsewhere(*grdNameSpace, txtDescription->Text(), Description, row))
-    return Refuse(this, Words::SameDescription, txtDescription);
+    return Refuse(this, Words::SameDescription, MessageStyle::Stop, txtDescription);
   return true;
 }
 
 bool frmISONamespace::MayBeUpdated() {
   if (!IsKnownRecord()) return false;
-  if (txtNameSpace->Text().isEmpty()) return Refuse(this, "Namespace is a required field.", txtNameSpace);
-  if (txtDescription->Text().isEmpty()) return Refuse(this, "Description is a required field.", txtDescription);
-  if (txtFieldName->Text().isEmpty()) return Refuse(this, "Field Name is a required field.", txtFieldName);
+  if (txtNameSpace->Text().isEmpty())
+    return Refuse(this, "Namespace is a required field.", MessageStyle::Stop, txtNameSpace);
+  if (txtDescription->Text().isEmpty())
+    return Refuse(this, "Description is a required field.", MessageStyle::Stop, txtDescription);
+  if (txtFieldName->Text().isEmpty())
+    return Refuse(this, "Field Name is a required field.", MessageStyle::Stop, txtFieldName);
   return true;
 }
 
 bool frmISONamespace::MayBeUpdatedOnClose() {
-  if (txtNameSpace->Text().isEmpty()) return Refuse(this, "NameSpace is a required field", txtNameSpace);
-  if (txtDescription->Text().isEmpty()) return Refuse(this, "Description is a required field.", txtDescription);
-  if (txtFieldName->Text().isEmpty()) return Refuse(this, "Field Name is a required field.", txtFieldName);
+  if (txtNameSpace->Text().isEmpty())
+    return Refuse(this, "NameSpace is a required field", MessageStyle::Stop, txtNameSpace);
+  if (txtDescription->Text().isEmpty())
+    return Refuse(this, "Description is a required field.", MessageStyle::Stop, txtDescription);
+  if (txtFieldName->Text().isEmpty())
+    return Refuse(this, "Field Name is a required field.", MessageStyle::Stop, txtFieldName);
   return IsKnownRecord();
 }
 
@@ -158,16 +164,16 @@ void frmISONamespace::cmdAdd_Click() {
   procedure.OnFailure("Unable to add a new record.\n\n" + Texts::NotifySupport).Run([this] {
     fields_.TrimAll();
     if (txtNameSpace->Text().isEmpty()) {
-      Refuse(this, "Namespace is a required field.", txtNameSpace);
+      Refuse(this, "Namespace is a required field.", MessageStyle::Stop, txtNameSpace);
       return;
     }
     if (!IsNewRecord()) return;
     if (txtDescription->Text().isEmpty()) {
-      Refuse(this, "Description is a required field", txtDescription);
+      Refuse(this, "Description is a required field", MessageStyle::Stop, txtDescription);
       return;
     }
     if (txtFieldName->Text().isEmpty()) {
-      Refuse(this, "Field Name is a required field", txtFieldName);
+      Refuse(this, "Field Name is a required field", MessageStyle::Stop, txtFieldName);
       return;
     }
     const QString description = Sql::National(txtDescription->Text());
@@ -183,7 +189,7 @@ void frmISONamespace::cmdAdd_Click() {
     fields_.WriteRow(*grdNameSpace, mintCurrentRow);
     grdNameSpace->SetRowQuietly(mintCurrentRow);
     mbRecordChanged = false;
-    Tell(this, Words::Added);
+    Tell(this, Words::Added, MessageStyle::Information);
   });
 }
 
@@ -205,7 +211,7 @@ void frmISONamespace::cmdUpdate_Click() {
     transaction.Commit();
     fields_.WriteRow(*grdNameSpace, grdNameSpace->FindRow(txtNameSpace->Text(), Namespace));
     mbRecordChanged = false;
-    Tell(this, Words::Updated);
+    Tell(this, Words::Updated, MessageStyle::Information);
   });
 }
 
@@ -224,7 +230,7 @@ void frmISONamespace::cmdClose_Click() {
                  UpdateLine);
     transaction.Commit();
     mbRecordChanged = false;
-    Tell(this, Words::Updated);
+    Tell(this, Words::Updated, MessageStyle::Information);
     leave = true;
   });
   if (leave) Unload();
@@ -234,13 +240,13 @@ void frmISONamespace::cmdDelete_Click() {
   Procedure procedure("frmISONameSpace.cmdDelete_Click", this);
   procedure.Run([this] {
     const int row = mintCurrentRow;
-    if (row == 0 || !Confirms(this, Words::DeleteQuestion)) return;
+    if (row == 0 || !Confirm(this, Words::DeleteQuestion)) return;
     ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_ISO_NAMESPACE") + " " +
                              "WHERE      ISO_NAMESPACE = '" + gclsOF->SqlEscape(grdNameSpace->Text(row, Namespace)) +
                              "'",
                          "***** SQL error on ID_ISO_NAMESPACE (Delete) *****");
     grdNameSpace->RemoveRow(row);
     ShowRow(grdNameSpace->Rows() > 1 ? 1 : 0);
-    Tell(this, Words::Deleted);
+    Tell(this, Words::Deleted, MessageStyle::Information);
   });
 }

@@ -114,6 +114,6 @@ void frmISOServiceLevels::RewriteTable() {
             "***** SQL error on ID_ISO_SERVICE_LEVEL (Insert) *****");
   }
   transaction.Commit();
-  Tell(this, Words::Updated);
+  Tell(this, Words::Updated, MessageStyle::Information);
   mbRecordChanged = false;
 }

@@ -182,7 +182,7 @@ void frmItemType::cmdDelete_Click() {
 
 void frmItemType::CloseButtonUpdate() {
   if (!mbRecordChanged) return;
-  if (Confirms(this, "A record has been modified.\nDo you wish to apply the updates before continuing?"))
+  if (Confirm(this, "A record has been modified.\nDo you wish to apply the updates before continuing?"))
     cmdUpdate_Click();
 }
 
@@ -195,11 +195,12 @@ bool frmItemType::Form_Unload() {
 
 bool frmItemType::CodeIsComplete() {
   return txtItemType->TrimUpperInPlace().size() == 3 ||
-         Refuse(this, "Please enter a valid 3 character Item Type.", txtItemType);
+         Refuse(this, "Please enter a valid 3 character Item Type.", MessageStyle::Stop, txtItemType);
 }
 
 bool frmItemType::DescriptionIsGiven() {
-  return !txtDescription->TrimInPlace().isEmpty() || Refuse(this, "Please enter a Description.", txtDescription);
+  return !txtDescription->TrimInPlace().isEmpty() ||
+         Refuse(this, "Please enter a Description.", MessageStyle::Stop, txtDescription);
 }
 
 bool frmItemType::ChargeMayStay() {
@@ -254,7 +255,7 @@ void frmItemType::AddItemType() {
   for (int row = 1; row < grdItemType->Rows(); ++row) {
     const bool sameCode = grdItemType->Text(row, ItemType) == txtItemType->Text();
     if (!sameCode && grdItemType->Text(row, Description) != description) continue;
-    Refuse(this, "This record already exists", sameCode ? txtItemType : txtDescription);
+    Refuse(this, "This record already exists", MessageStyle::Stop, sameCode ? txtItemType : txtDescription);
     return;
   }
   if (!DescriptionIsGiven()) return;
@@ -268,7 +269,7 @@ void frmItemType::AddItemType() {
   grdItemType->SetRowQuietly(row);
   mbRecordChanged = false;
   mbItemTypesChanged = true;
-  Tell(this, "Record Added");
+  Tell(this, "Record Added", MessageStyle::Information);
 }
 
 void frmItemType::cmdUpdate_Click() {
@@ -280,17 +281,17 @@ void frmItemType::cmdUpdate_Click() {
     }
     if (!CodeIsComplete()) return;
     if (Numbers::Val(txtCharge->Trimmed()) > HighestCharge) {
-      Refuse(this, "Maximum Item Charge of 999.99 has been exceeded.", txtCharge);
+      Refuse(this, "Maximum Item Charge of 999.99 has been exceeded.", MessageStyle::Stop, txtCharge);
       return;
     }
     if (!DescriptionIsGiven()) return;
     const int row = grdItemType->FindRow(txtItemType->Text(), ItemType);
     if (row == 0) {
-      Refuse(this, "This Item Type does not exist in the system.", txtItemType);
+      Refuse(this, "This Item Type does not exist in the system.", MessageStyle::Stop, txtItemType);
       return;
     }
     if (StandsElsewhere(*grdItemType, txtDescription->Text(), Description, row)) {
-      Refuse(this, "The Description must be unique.", txtDescription);
+      Refuse(this, "The Description must be unique.", MessageStyle::Stop, txtDescription);
       return;
     }
     Transaction transaction(gclsOF->Connection());
@@ -303,40 +304,41 @@ void frmItemType::cmdUpdate_Click() {
     WriteRow(row);
     mbRecordChanged = false;
     mbItemTypesChanged = true;
-    Tell(this, "Record Updated");
+    Tell(this, "Record Updated", MessageStyle::Information);
   });
 }
 
 void frmItemType::DeleteItemType() {
   const int row = grdItemType->Row();
   if (row == 0 || txtItemType->Trimmed().isEmpty()) {
-    Refuse(this, Words::ChooseToDelete, txtItemType);
+    Refuse(this, Words::ChooseToDelete, MessageStyle::Stop, txtItemType);
     return;
   }
   if (!RowIsOnScreen(row)) {
-    Refuse(this, Words::SelectValidRecord, txtItemType);
+    Refuse(this, Words::SelectValidRecord, MessageStyle::Stop, txtItemType);
     return;
   }
-  if (!Confirms(this, Texts::DeleteQuestion)) return;
+  if (!Confirm(this, Texts::DeleteQuestion)) return;
   ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_ITEM_TYPE") + " " + "WHERE    ITEM_TYPE = '" +
                            gclsOF->SqlEscape(grdItemType->Text(row, ItemType)) + "'",
                        "***** SQL error on ID_ITEM_TYPE (Delete) *****");
   grdItemType->RemoveRow(row);
   mbRecordChanged = false;
   mbItemTypesChanged = true;
-  Tell(this, "Record Deleted");
+  Tell(this, "Record Deleted", MessageStyle::Information);
 }
 
 // --- Item types by user group ---
 
 void frmItemType::AddAccess() {
   if (cmbAccessGroup->IsEmptyOrNone() || cmbAccessItemType->IsEmptyOrNone()) {
-    Refuse(this, Words::ChooseToAdd, cmbAccessGroup->IsEmptyOrNone() ? cmbAccessGroup : cmbAccessItemType);
+    Refuse(this, Words::ChooseToAdd, MessageStyle::Stop,
+           cmbAccessGroup->IsEmptyOrNone() ? cmbAccessGroup : cmbAccessItemType);
     return;
   }
   const QString description = cmbAccessItemType->Text();
   if (grdAccessItemType->FindRow(description, 1) > 0) {
-    Refuse(this, "This record already exists", cmbAccessItemType);
+    Refuse(this, "This record already exists", MessageStyle::Stop, cmbAccessItemType);
     return;
   }
   ExecuteInTransaction("INSERT INTO " + Sql::Table("ID_ACCESS_ITEM_TYPE") + " (ACCESS_GROUP, ITEM_TYPE) VALUES(" +
@@ -344,24 +346,24 @@ void frmItemType::AddAccess() {
                        "***** SQL error on ID_ACCESS_ITEM_TYPE (Insert) *****");
   PopulateItemTypeGrid();
   grdAccessItemType->SetRowQuietly(grdAccessItemType->FindRow(description, 1));
-  Tell(this, "Record Added");
+  Tell(this, "Record Added", MessageStyle::Information);
 }
 
 void frmItemType::DeleteAccess() {
   const int row = grdAccessItemType->Row();
   if (cmbAccessGroup->IsEmptyOrNone() || row == 0 || cmbAccessItemType->IsEmptyOrNone()) {
-    Refuse(this, Words::ChooseToDelete, cmbAccessGroup);
+    Refuse(this, Words::ChooseToDelete, MessageStyle::Stop, cmbAccessGroup);
     return;
   }
   if (cmbAccessItemType->Text() != grdAccessItemType->Text(row, 1)) {
-    Refuse(this, Words::SelectValidRecord, cmbAccessItemType);
+    Refuse(this, Words::SelectValidRecord, MessageStyle::Stop, cmbAccessItemType);
     return;
   }
-  if (!Confirms(this, Texts::DeleteQuestion)) return;
+  if (!Confirm(this, Texts::DeleteQuestion)) return;
   ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_ACCESS_ITEM_TYPE") + " " +
                            "WHERE    ACCESS_GROUP = '" + gclsOF->SqlEscape(cmbAccessGroup->Code()) + "' " +
                            "AND      ITEM_TYPE = '" + gclsOF->SqlEscape(cmbAccessItemType->Code()) + "'",
                        "***** SQL error on ID_ACCESS_ITEM_TYPE (Delete) *****");
   PopulateItemTypeGrid();
-  Tell(this, "Record Deleted");
+  Tell(this, "Record Deleted", MessageStyle::Information);
 }

@@ -7,6 +7,7 @@
 #include "reference/LibraryMessages.h"
 #include "reference/RecordDialog.h"
 #include "shell/GridTable.h"
+#include "shell/Messages.h"
 #include "shell/Procedure.h"
 
 using namespace Reference;

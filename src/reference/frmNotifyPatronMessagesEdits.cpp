@@ -28,7 +28,7 @@ QString Flag(const OptionGroup& required) {
 // --- Tests ---
 
 bool frmNotifyPatronMessages::RefuseEmpty(const QLabel* label, QWidget* field) {
-  return Refuse(this, Form::PlainCaption(label->text()) + " is a required field.", field);
+  return Refuse(this, Form::PlainCaption(label->text()) + " is a required field.", MessageStyle::Stop, field);
 }
 
 bool frmNotifyPatronMessages::FieldsAreComplete() {
@@ -39,8 +39,9 @@ bool frmNotifyPatronMessages::FieldsAreComplete() {
 
 // Close names code and description in words of its own.
 bool frmNotifyPatronMessages::FieldsAreCompleteOnClose() {
-  if (txtCode->Text().isEmpty()) return Refuse(this, "Code is a required field.", txtCode);
-  if (txtDescription->Text().isEmpty()) return Refuse(this, "Description is a required field.", txtDescription);
+  if (txtCode->Text().isEmpty()) return Refuse(this, "Code is a required field.", MessageStyle::Stop, txtCode);
+  if (txtDescription->Text().isEmpty())
+    return Refuse(this, "Description is a required field.", MessageStyle::Stop, txtDescription);
   return SubjectMessageAndRejectCode();
 }
 
@@ -56,9 +57,9 @@ bool frmNotifyPatronMessages::IsNewMessage() {
   for (int row = 1; row < grdPatronMessage->Rows(); ++row) {
     if (grdPatronMessage->Text(row, Library) != txtLibrarySymbol->Text()) continue;
     if (grdPatronMessage->Text(row, MessageCode) == txtCode->Text())
-      return Refuse(this, "This Code already exists.\n", txtCode);
+      return Refuse(this, "This Code already exists.\n", MessageStyle::Stop, txtCode);
     if (grdPatronMessage->Text(row, Description) == txtDescription->Text())
-      return Refuse(this, "This Description already exists.\n", txtDescription);
+      return Refuse(this, "This Description already exists.\n", MessageStyle::Stop, txtDescription);
   }
   return true;
 }
@@ -78,7 +79,7 @@ bool frmNotifyPatronMessages::MayBeUpdated(qint32& libraryId) {
   for (int row = 1; row < grid.Rows(); ++row)
     if (row != mintCurrentRow && grid.Text(row, Library) == symbol &&
         grid.Text(row, Description) == txtDescription->Text())
-      return Refuse(this, "Description already exists for this Library Symbol.", txtDescription);
+      return Refuse(this, "Description already exists for this Library Symbol.", MessageStyle::Stop, txtDescription);
   return LibraryMessages::IsKnownLibrary(this, *txtLibrarySymbol, libraryId);
 }
 
@@ -109,7 +110,7 @@ void frmNotifyPatronMessages::cmdAdd_Click() {
     fields_.WriteRow(*grdPatronMessage, mintCurrentRow);
     grdPatronMessage->SetRowQuietly(mintCurrentRow);
     mbRecordChanged = false;
-    Tell(this, Words::Added);
+    Tell(this, Words::Added, MessageStyle::Information);
   });
 }
 
@@ -145,7 +146,7 @@ void frmNotifyPatronMessages::cmdUpdate_Click() {
     transaction.Commit();
     fields_.WriteRow(*grdPatronMessage, mintCurrentRow);
     mbRecordChanged = false;
-    Tell(this, Words::Updated);
+    Tell(this, Words::Updated, MessageStyle::Information);
   });
 }
 
@@ -168,7 +169,7 @@ void frmNotifyPatronMessages::cmdClose_Click() {
                  UpdateFailed);
     transaction.Commit();
     mbRecordChanged = false;
-    Tell(this, Words::Updated);
+    Tell(this, Words::Updated, MessageStyle::Information);
     leave = true;
   });
   if (leave) Unload();

@@ -258,13 +258,13 @@ QString frmServiceCode::WhereRow(int row) const {
 
 void frmServiceCode::AddServiceCode() {
   if (txtServiceCode->TrimUpperInPlace().isEmpty()) {
-    Refuse(this, "Please enter a valid character Service Code.", txtServiceCode);
+    Refuse(this, "Please enter a valid character Service Code.", MessageStyle::Stop, txtServiceCode);
     return;
   }
   const QStringList values = EnteredValues();
   for (int row = 1; row < grdServiceCode->Rows(); ++row) {
     if (RowValues(row) != values) continue;
-    Refuse(this, "This record already exists", txtServiceCode);
+    Refuse(this, "This record already exists", MessageStyle::Stop, txtServiceCode);
     return;
   }
   QString columns, literals;
@@ -277,7 +277,7 @@ void frmServiceCode::AddServiceCode() {
           "***** SQL error on ID_SERVICE_CODE (Insert) *****");
   grdServiceCode->SetRowQuietly(grdServiceCode->AddRow(values));
   mbRecordChanged = false;
-  Tell(this, "Record Added");
+  Tell(this, "Record Added", MessageStyle::Information);
 }
 
 void frmServiceCode::cmdUpdate_Click() {
@@ -289,7 +289,7 @@ void frmServiceCode::cmdUpdate_Click() {
     }
     const int row = grdServiceCode->Row();
     if (row == 0 || txtServiceCode->TrimUpperInPlace() != grdServiceCode->Text(row, ServiceCode)) {
-      Refuse(this, "This Service Code does not exist in the system.", txtServiceCode);
+      Refuse(this, "This Service Code does not exist in the system.", MessageStyle::Stop, txtServiceCode);
       return;
     }
     QStringList settings;
@@ -300,26 +300,26 @@ void frmServiceCode::cmdUpdate_Click() {
         "***** SQL error on ID_SERVICE_CODE (Update) *****");
     WriteRow(row);
     mbRecordChanged = false;
-    Tell(this, "Record Updated");
+    Tell(this, "Record Updated", MessageStyle::Information);
   });
 }
 
 void frmServiceCode::DeleteServiceCode() {
   const int row = grdServiceCode->Row();
   if (row == 0 || txtServiceCode->Trimmed().isEmpty()) {
-    Refuse(this, Words::ChooseToDelete, txtServiceCode);
+    Refuse(this, Words::ChooseToDelete, MessageStyle::Stop, txtServiceCode);
     return;
   }
   if (EnteredValues() != RowValues(row)) {
-    Refuse(this, Words::SelectValidRecord, txtServiceCode);
+    Refuse(this, Words::SelectValidRecord, MessageStyle::Stop, txtServiceCode);
     return;
   }
-  if (!Confirms(this, Texts::DeleteQuestion)) return;
+  if (!Confirm(this, Texts::DeleteQuestion)) return;
   Execute(QString("DELETE ") + "FROM " + Sql::Table("ID_SERVICE_CODE") + " " + WhereRow(row),
           "***** SQL error on ID_SERVICE_CODE (Delete) *****");
   grdServiceCode->RemoveRow(row);
   mbRecordChanged = false;
-  Tell(this, "Record Deleted");
+  Tell(this, "Record Deleted", MessageStyle::Information);
 }
 
 // --- Countries ---
@@ -327,7 +327,7 @@ void frmServiceCode::DeleteServiceCode() {
 void frmServiceCode::AddCountry() {
   const QString code = txtCountryCode->TrimInPlace();
   if (cmbRegion->IsEmptyOrNone() || code.isEmpty()) {
-    Refuse(this, Words::ChooseToAdd, cmbRegion);
+    Refuse(this, Words::ChooseToAdd, MessageStyle::Stop, cmbRegion);
     return;
   }
   bool found = false;
@@ -337,7 +337,7 @@ void frmServiceCode::AddCountry() {
   if (found) {
     const QString description = cmbRegion->DescriptionOf(region);
     Refuse(this, "This record already exists in the '" + (description.isEmpty() ? region : description) + "' region.",
-           txtCountryCode);
+           MessageStyle::Stop, txtCountryCode);
     return;
   }
   Execute("INSERT INTO " + Sql::Table("ID_COUNTRY_CODE") + " (COUNTRY_CODE, COUNTRY_REGION) VALUES(" +
@@ -346,25 +346,25 @@ void frmServiceCode::AddCountry() {
   mbRecordChanged = false;
   LoadCountryCodeGrid();
   grdCountryCode->SetRowQuietly(grdCountryCode->FindRow(code, 1));
-  Tell(this, "Record Added");
+  Tell(this, "Record Added", MessageStyle::Information);
 }
 
 void frmServiceCode::DeleteCountry() {
   const int row = grdCountryCode->Row();
   const QString code = txtCountryCode->Trimmed();
   if (cmbRegion->IsEmptyOrNone() || row == 0 || code.isEmpty()) {
-    Refuse(this, Words::ChooseToDelete, txtCountryCode);
+    Refuse(this, Words::ChooseToDelete, MessageStyle::Stop, txtCountryCode);
     return;
   }
   if (code != grdCountryCode->Text(row, 1)) {
-    Refuse(this, Words::SelectValidRecord, txtCountryCode);
+    Refuse(this, Words::SelectValidRecord, MessageStyle::Stop, txtCountryCode);
     return;
   }
-  if (!Confirms(this, Texts::DeleteQuestion)) return;
+  if (!Confirm(this, Texts::DeleteQuestion)) return;
   Execute(QString("DELETE ") + "FROM " + Sql::Table("ID_COUNTRY_CODE") + " " + "WHERE    COUNTRY_CODE = '" +
               gclsOF->SqlEscape(code) + "' " + "AND      COUNTRY_REGION = '" + cmbRegion->Code() + "'",
           "***** SQL error on ID_COUNTRY_CODE (Delete) *****");
   mbRecordChanged = false;
   LoadCountryCodeGrid();
-  Tell(this, "Record Deleted");
+  Tell(this, "Record Deleted", MessageStyle::Information);
 }

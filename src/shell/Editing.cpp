@@ -64,7 +64,7 @@ void FieldList::FillFromRow(const Grid& grid, int row) const {
 
 bool FieldList::EqualsRow(const Grid& grid, int row) const {
   for (const BoundField& field : fields_)
-    if (const QString cell = grid.Text(row, field.column); KeepLineEnds(field.get(), cell) != cell) return false;
+    if (field.get() != grid.Text(row, field.column)) return false;
   return true;
 }
 
@@ -81,27 +81,25 @@ void FieldList::Clear() const {
   for (const BoundField& field : fields_) field.clear();
 }
 
-void CompareWithRow(const QString& text, const Grid* grid, int column) {
+void CompareWithRow(Record& record, const QString& text, const Grid* grid, int column) {
   gstrErrorMessage.clear();
-  if (gbFillingFields) return;
-  gbRecordModified = grid->Row() == 0 || grid->Text(grid->Row(), column) != text;
+  if (!gbFillingFields) record.Compared(grid->Row() == 0 || grid->Text(grid->Row(), column) != text);
 }
 
-void WatchField(TextBox* box, const Grid* grid, int column) {
+void WatchField(Record& record, TextBox* box, const Grid* grid, int column) {
   QObject::connect(box, &TextBox::Change, box,
-                   [grid, column](const QString& text) { CompareWithRow(text, grid, column); });
+                   [&record, grid, column](const QString& text) { CompareWithRow(record, text, grid, column); });
 }
 
-void WatchField(MemoBox* box, const Grid* grid, int column) {
-  QObject::connect(box, &MemoBox::Change, box, [box, grid, column] {
-    CompareWithRow(KeepLineEnds(box->Text(), grid->Text(grid->Row(), column)), grid, column);
-  });
+void WatchField(Record& record, MemoBox* box, const Grid* grid, int column) {
+  QObject::connect(box, &MemoBox::Change, box,
+                   [&record, box, grid, column] { CompareWithRow(record, box->Text(), grid, column); });
 }
 
-void WatchAnyChange(TextBox* box) {
-  QObject::connect(box, &TextBox::Change, box, [] {
+void WatchAnyChange(Record& record, TextBox* box) {
+  QObject::connect(box, &TextBox::Change, box, [&record] {
     gstrErrorMessage.clear();
-    if (!gbFillingFields) gbRecordModified = true;
+    if (!gbFillingFields) record.Touched();
   });
 }
 
@@ -109,13 +107,6 @@ void PassFocusOn(TextBox* box, QWidget* next) {
   box->setReadOnly(true);
   box->setFocusPolicy(Qt::ClickFocus);
   QObject::connect(box, &TextBox::GotFocus, next, [next] { next->setFocus(); });
-}
-
-QString KeepLineEnds(const QString& text, const QString& stored) {
-  const auto lines = [](QString any) {
-    return any.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  };
-  return lines(text) == lines(stored) ? stored : text;
 }
 
 void KeepRowOnSort(Grid* grid) {

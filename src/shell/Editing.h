@@ -8,6 +8,7 @@ class CodeComboBox;
 class Grid;
 class MemoBox;
 class OptionGroup;
+class Record;
 class TextBox;
 class QWidget;
 
@@ -46,18 +47,15 @@ class FieldList {
   std::vector<BoundField> fields_;
 };
 
-// The change handler of the main screen's fields: clears gstrErrorMessage, compares the text with the column of the
-// grid's current row, sets gbRecordModified when they differ (no row counts as different) and clears it when equal,
-// unless gbFillingFields.
-void CompareWithRow(const QString& text, const Grid* grid, int column);
-void WatchField(TextBox* box, const Grid* grid, int column);
-void WatchField(MemoBox* box, const Grid* grid, int column);
-// Just sets gbRecordModified, unless gbFillingFields.
-void WatchAnyChange(TextBox* box);
+// The change handler of the main screen's fields: clears gstrErrorMessage and compares the text with the column of the
+// grid's current row; no row counts as different. Nothing while code fills the fields.
+void CompareWithRow(Record& record, const QString& text, const Grid* grid, int column);
+void WatchField(Record& record, TextBox* box, const Grid* grid, int column);
+void WatchField(Record& record, MemoBox* box, const Grid* grid, int column);
+// Any change counts, unless code fills the fields.
+void WatchAnyChange(Record& record, TextBox* box);
 // A box that only shows: it cannot be edited, and the focus goes on to `next` however it comes.
 void PassFocusOn(TextBox* box, QWidget* next);
-// The stored text where `text` differs from it in line ends alone (a memo shows CR LF as LF), else `text`.
-QString KeepLineEnds(const QString& text, const QString& stored);
 // The selected record stays selected when a heading sorts the grid: rows move as a whole, so only the events that the
 // move raises are held back.
 void KeepRowOnSort(Grid* grid);

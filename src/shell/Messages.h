@@ -11,6 +11,13 @@
 int ShowMessage(const QString& text, int style, const QString& title = {}, const QString& icon = {},
                 QWidget* owner = nullptr);
 
+// What nearly every message is: the caption of the form's window as title, the window as owner. The answer.
+int Tell(QWidget* form, const QString& text, int style);
+// How a test of an entry ends: the message, then the focus on its field (none when null). Always False.
+bool Refuse(QWidget* form, const QString& text, int style, QWidget* focus);
+// True when the answer is Yes.
+bool Confirm(QWidget* form, const QString& question, int style = MessageStyle::Question);
+
 // Closing texts that several screens share, letter for letter.
 namespace Texts {
 inline const QString DatabaseError =

@@ -33,6 +33,11 @@ bool Procedure::Run(const std::function<void()>& body) {
   return Guard(body, form_ != nullptr);
 }
 
+bool Procedure::Answers(const std::function<bool()>& body) {
+  bool answer = false;
+  return Run([&] { answer = body(); }) && answer;
+}
+
 bool Procedure::Step(const std::function<void()>& statement) {
   return Guard(statement, false);
 }

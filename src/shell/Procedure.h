@@ -26,6 +26,9 @@ class Procedure {
   // Clears gstrErrorMessage and runs the body. False when it failed. Leaving the body early is success.
   bool Run(const std::function<void()>& body);
 
+  // The same for an operation: what the body answers, False when it failed.
+  bool Answers(const std::function<bool()>& body);
+
   // The silent form, for the shell and for fill-only procedures: logs a failure, shows nothing, and the caller goes on
   // with its next step. May be called many times.
   bool Step(const std::function<void()>& statement);

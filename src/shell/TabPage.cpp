@@ -3,7 +3,8 @@
 #include "platform/controls/Grid.h"
 #include "shell/GridTable.h"
 #include "shell/Messages.h"
-#include "shell/frmTabulon.h"
+#include "shell/Procedure.h"
+#include "shell/Screen.h"
 
 TabPage::TabPage(frmTabulon& shell) : shell_(shell) {}
 
@@ -24,12 +25,20 @@ void TabPage::LoadGrid() {
   if (Grid* const grid = CurrentGrid()) FillGrid(*grid, *rows);
 }
 
+void TabPage::ConfigureGrdTable() {
+  Procedure("frmTabulon.ConfigureGrdTable", this).Run([this] { ConfigureGrid(); });
+}
+
+bool TabPage::LoadDataInGrid() {
+  Procedure procedure("frmTabulon.LoadDataInGrid", this);
+  const Hourglass hourglass;
+  return procedure.Run([this] { LoadGrid(); });
+}
+
 int TabPage::Tell(const QString& text, int style) {
-  return ShowMessage(text, style, shell_.Caption(), {}, &shell_);
+  return ::Tell(this, text, style);
 }
 
 bool TabPage::Refuse(const QString& text, int style, QWidget* focus) {
-  Tell(text, style);
-  if (focus) focus->setFocus();
-  return false;
+  return ::Refuse(this, text, style, focus);
 }

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QWidget>
 
+#include "core/Record.h"
+
 class frmTabulon;
 class Grid;
 
@@ -15,8 +17,8 @@ struct ButtonCondition {
   bool menuUntouched = false;  // the entries stay as the rights have them
 };
 
-// One tab of the main screen. The shell asks it which grid layout is in force and which buttons make sense now; its
-// operations are named in the shell's table of tabs.
+// One tab of the main screen, or one sub-tab of it: a page that loads itself and owns the record in its fields. The
+// shell asks the page on show which buttons make sense now; the operations of the tabs are named in the shell's table.
 class TabPage : public QWidget {
   Q_OBJECT
 
@@ -26,14 +28,20 @@ class TabPage : public QWidget {
   // Key of the layout and rows in force (GridTable.h); empty when there is none.
   virtual QString GridKey() const { return {}; }
   virtual ButtonCondition Condition() const { return {}; }
-  // The tab's part of ConfigureGrdTable and LoadDataInGrid; by default the grid table's row of GridKey.
+  // The page's part of ConfigureGrdTable and LoadDataInGrid; by default the grid table's row of GridKey.
   virtual void ConfigureGrid();
   virtual void LoadGrid();
+  // Both in the frame that all of them have: a failure is told and logged, and the page goes on.
+  void ConfigureGrdTable();
+  bool LoadDataInGrid();
   // The grid that GridKey means.
   Grid* CurrentGrid() const;
+  // The record in the fields on show; that of the sub-tab in front where a page has sub-tabs.
+  virtual Record& CurrentRecord() { return record_; }
 
  protected:
   frmTabulon& shell() const { return shell_; }
+  Record& record() { return record_; }
   // A message with the main form's caption as title.
   int Tell(const QString& text, int style);
   // Exclamation and focus: how most tests of an entry end. Always False.
@@ -41,4 +49,21 @@ class TabPage : public QWidget {
 
  private:
   frmTabulon& shell_;
+  Record record_;
+};
+
+// A sub-tab: the tab hands the shell's buttons on to the one in front. Operations answer True when they went through; a
+// page without one does nothing.
+class SubPage : public TabPage {
+  Q_OBJECT
+
+ public:
+  using TabPage::TabPage;
+
+  // The page comes to the front.
+  virtual void Enter() {}
+  virtual bool Add() { return false; }
+  virtual bool Update() { return false; }
+  virtual bool Delete() { return false; }
+  virtual bool Clear() { return false; }
 };

@@ -46,61 +46,73 @@ void frmTabulon::sstabtables_Click(int previousTab) {
     // The second leaving of a record whose update did not go through.
     mbGuardActed = false;
     gbTabGuardArmed = true;
-    ReturnSilently(recordTab_);
+    ReturnSilently(live_);
     return;
   }
   if (unsaved) {
     if (CloseButtonUpdate()) {
-      // The tab that was left owns the record until it is stored; the new one stays on screen and is not set up.
+      // The page that was left stays the live one; the new tab comes up and is not set up.
       cmdUpdate_Click();
-      if (!gbRecordModified) recordTab_ = tab_;
       gbTabGuardArmed = true;
       mbGuardActed = true;
+      ShowPage();
+      buttonState();
       return;
     }
-    gbRecordModified = false;
+    LivePage()->CurrentRecord().Settled();
     SetTab(previousTab);
     return;
   }
   gbTabGuardArmed = true;
   mbGuardActed = false;
   procedure.Step([this] { Enter(tab_); });
-  gbRecordModified = false;
+  if (LivePage() != nullptr) LivePage()->CurrentRecord().Settled();
   gbSkipGridEvents = false;
 }
 
 void frmTabulon::Enter(int index) {
   const auto at = static_cast<size_t>(index);
-  recordTab_ = index;
+  live_ = index;
   if (!rows_[at].make) return EnableButtons("O");
   if (!pages_[at]) {
     pages_[at] = rows_[at].make(*this);
     sstabtables_->widget(index)->layout()->addWidget(pages_[at]);
-    // The layout would show it only when the event loop runs again, too late for the entry to set a focus.
-    pages_[at]->show();
     Form::ReadingOrder(this);
   }
+  ShowPage();
   buttonState();
   rows_[at].entry(*pages_[at]);
+}
+
+// A tab that was not set up shows nothing of what its page showed last, and says what to do.
+void frmTabulon::ShowPage() {
+  const auto at = static_cast<size_t>(tab_);
+  QLabel*& line = notSetUp_[at];
+  if (line == nullptr && !IsSetUp()) {
+    line = new QLabel("Click the tab again to open it.");
+    line->setObjectName("lblNotSetUp");
+    line->setAlignment(Qt::AlignCenter);
+    sstabtables_->widget(tab_)->layout()->addWidget(line);
+  }
+  if (line != nullptr) line->setVisible(!IsSetUp());
+  // The layout would show it only when the event loop runs again, too late for the entry to set a focus.
+  if (pages_[at]) pages_[at]->setVisible(IsSetUp());
 }
 
 void frmTabulon::ReturnSilently(int index) {
   movingBack_ = true;
   SetTab(index);
   movingBack_ = false;
+  ShowPage();
+  buttonState();
 }
 
 void frmTabulon::ConfigureGrdTable() {
-  Procedure procedure("frmTabulon.ConfigureGrdTable", this);
-  TabPage* const page = Page(recordTab_);
-  if (page) procedure.Run([page] { page->ConfigureGrid(); });
+  if (LivePage() != nullptr) LivePage()->ConfigureGrdTable();
 }
 
 void frmTabulon::LoadDataInGrid() {
-  Procedure procedure("frmTabulon.LoadDataInGrid", this);
-  const Hourglass hourglass;
-  TabPage* const page = Page(recordTab_);
-  if (page) procedure.Run([page] { page->LoadGrid(); });
+  if (LivePage() != nullptr) LivePage()->LoadDataInGrid();
 }
 
 void frmTabulon::EnableButtons(const QString& mode) {
@@ -121,19 +133,18 @@ void frmTabulon::ShowAdd(bool shown) {
 }
 
 void frmTabulon::buttonState() {
-  const TabPage* const page = Page(recordTab_);
-  const ButtonCondition condition = page ? page->Condition() : ButtonCondition();
-  const bool canAdd = gclsOF->CanAdd(), canUpdate = gclsOF->CanUpdate(), canDelete = gclsOF->CanDelete();
+  const ButtonCondition condition = LivePage() != nullptr ? LivePage()->Condition() : ButtonCondition();
   const auto enable = [&condition](const Command& command, bool right, bool sense) {
     command.button->setEnabled(right && sense);
     command.entry->setEnabled(right && (sense || condition.menuUntouched));
   };
-  enable(add_, canAdd, condition.add);
-  enable(update_, canUpdate, condition.update);
-  enable(delete_, canDelete, condition.remove);
+  // On a tab that was not set up only Update has something to do: it means the record that waits.
+  enable(add_, rights_.add && IsSetUp(), condition.add);
+  enable(update_, rights_.update, condition.update);
+  enable(delete_, rights_.remove && IsSetUp(), condition.remove);
   // Clear goes away when either of Update and Delete is missing.
-  enable(clear_, canUpdate && canDelete, true);
-  mnuOptions_->menuAction()->setEnabled(canAdd || canUpdate || canDelete);
+  enable(clear_, rights_.update && rights_.remove && IsSetUp(), true);
+  mnuOptions_->menuAction()->setEnabled(rights_.add || rights_.update || rights_.remove);
 }
 
 bool frmTabulon::CloseButtonUpdate() {
@@ -142,30 +153,29 @@ bool frmTabulon::CloseButtonUpdate() {
                      MessageStyle::Question, Caption(), {}, this) != MessageAnswer::No;
 }
 
-void frmTabulon::RunOperation(const QString& logName, int tab, std::function<bool(TabPage&)> TabRow::*operation) {
-  const auto& run = rows_.at(static_cast<size_t>(tab)).*operation;
-  TabPage* const page = Page(tab);
+void frmTabulon::RunOperation(const QString& logName, std::function<bool(TabPage&)> TabRow::*operation) {
+  const auto& run = rows_.at(static_cast<size_t>(live_)).*operation;
+  TabPage* const page = LivePage();
   bool wentThrough = true;
   gstrErrorMessage.clear();
   if (run && page) wentThrough = Procedure(logName).Step([&] { wentThrough = run(*page); }) && wentThrough;
-  // A refused or failed operation leaves the record modified, so that the user can correct and retry; so does one of a
-  // tab that was not set up, which has no record.
-  if (wentThrough && tab == recordTab_) gbRecordModified = false;
+  // A refused or failed operation leaves the record modified, so that the user can correct and retry.
+  if (wentThrough && page) page->CurrentRecord().Settled();
   gbSkipGridEvents = false;
 }
 
 void frmTabulon::cmdAdd_Click() {
-  RunOperation("frmTabulon.cmdAdd_Click", Tab(), &TabRow::add);
+  if (IsSetUp()) RunOperation("frmTabulon.cmdAdd_Click", &TabRow::add);
 }
-// The record that waits is the owner's, also while another tab is on screen that was not set up.
+// The record that waits is the live page's, also while another tab is on screen that was not set up.
 void frmTabulon::cmdUpdate_Click() {
-  RunOperation("frmTabulon.cmdUpdate_Click", recordTab_, &TabRow::update);
+  RunOperation("frmTabulon.cmdUpdate_Click", &TabRow::update);
 }
 void frmTabulon::cmdDelete_Click() {
-  RunOperation("frmTabulon.cmdDelete_Click", Tab(), &TabRow::remove);
+  if (IsSetUp()) RunOperation("frmTabulon.cmdDelete_Click", &TabRow::remove);
 }
 void frmTabulon::cmdClear_Click() {
-  RunOperation("frmTabulon.cmdClear_Click", Tab(), &TabRow::clear);
+  if (IsSetUp()) RunOperation("frmTabulon.cmdClear_Click", &TabRow::clear);
 }
 void frmTabulon::cmdClose_Click() {
   close();

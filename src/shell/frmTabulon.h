@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "core/CommandLine.h"
+#include "core/UserRights.h"
 #include "shell/Screen.h"
 #include "shell/TabPage.h"
 
@@ -17,7 +18,7 @@ class QTabWidget;
 class Procedure;
 
 // One row of the shell's table of tabs. An empty operation is a button that does nothing there. Operations answer
-// True when they went through; a refused or failed one leaves gbRecordModified set, so that the user can correct.
+// True when they went through; a refused or failed one leaves the record modified, so that the user can correct.
 struct TabRow {
   std::function<TabPage*(frmTabulon&)> make;  // builds the page when the tab is first entered
   std::function<void(TabPage&)> entry;
@@ -81,7 +82,10 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   // Sets the tab by code; raises sstabtables_Click like a user's click.
   void SetTab(int index);
   TabPage* Page(int index) const { return pages_.at(static_cast<size_t>(index)); }
+  // The page that is set up: it owns the record. Null before the first one.
+  TabPage* LivePage() const { return Page(live_); }
 
+  // Of the page that is set up.
   void ConfigureGrdTable();
   void LoadDataInGrid();
   // Mode letter: which buttons show.
@@ -125,24 +129,28 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   void FinishLoad();
 
   void TabChanged(int index);
+  void ShowPage();
+  bool IsSetUp() const { return tab_ == live_; }
   void sstabtables_Click(int previousTab);
   void Enter(int index);
   void ReturnSilently(int index);
-  void RunOperation(const QString& logName, int tab, std::function<bool(TabPage&)> TabRow::*operation);
+  void RunOperation(const QString& logName, std::function<bool(TabPage&)> TabRow::*operation);
   bool UpdateIsPossible() const;
   bool Form_Unload();
 
   QString commandLine_;
+  FunctionRights rights_;
   AppArguments arguments_;
   std::array<TabRow, TabCount> rows_;
   std::array<TabPage*, TabCount> pages_{};
+  std::array<QLabel*, TabCount> notSetUp_{};  // on show instead of a page that was not set up; made when first needed
   QTabWidget* sstabtables_;
   Command add_, update_, delete_, clear_;
   QPushButton* cmdClose_ = nullptr;
   QMenu* mnuOptions_ = nullptr;
   QLabel* status_ = nullptr;
   int tab_ = 0;               // the tab on screen
-  int recordTab_ = 0;         // owns the record: the tab on screen, or the one left with a record that was not stored
+  int live_ = 0;              // the tab set up last; another one on screen came up behind a record that waited
   bool mbFormLoaded = false;  // Form_Load has gone all the way through
   bool mbGuardActed = false;  // the answer was Yes: the next leaving of an unsaved record returns in silence
   bool movingBack_ = false;

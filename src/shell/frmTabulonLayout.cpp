@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
 
@@ -29,9 +30,18 @@ frmTabulon::frmTabulon(QString commandLine, QWidget* parent)
   WindowMemory::Restore(*this);
   Help::OpenByF1(*this, [this] { return GuidePage(); });
   connect(sstabtables_, &QTabWidget::currentChanged, this, &frmTabulon::TabChanged);
+  connect(sstabtables_->tabBar(), &QTabBar::tabBarClicked, this, [this](int index) {
+    // The bar is told of the press before it has handled it.
+    if (index == tab_ && !IsSetUp())
+      QMetaObject::invokeMethod(
+          this, [this] { sstabtables_Click(live_); }, Qt::QueuedConnection);
+  });
+  gLiveRecord = [this]() -> const Record* { return LivePage() != nullptr ? &LivePage()->CurrentRecord() : nullptr; };
 }
 
-frmTabulon::~frmTabulon() = default;
+frmTabulon::~frmTabulon() {
+  gLiveRecord = nullptr;
+}
 
 // A tab that holds tabs has a page for each of them. A tab that was never set up is told of on the window's own page.
 QString frmTabulon::GuidePage() const {
@@ -127,9 +137,9 @@ void frmTabulon::BuildStatusBar() {
 
 void frmTabulon::ShowStatus() {
   QStringList rights;
-  if (gclsOF->CanAdd()) rights.append("Add");
-  if (gclsOF->CanUpdate()) rights.append("Update");
-  if (gclsOF->CanDelete()) rights.append("Delete");
+  if (rights_.add) rights.append("Add");
+  if (rights_.update) rights.append("Update");
+  if (rights_.remove) rights.append("Delete");
   const auto database = Procedure::Try([] { gclsOF->Connection(); }) ? QString() : gclsOF->Connection().Settings().name;
   const QString language = gclsOF->LanguageSuffix().isEmpty() ? QString("default") : gclsOF->LanguageSuffix().mid(1);
   status_->setText(QString("User: %1     Database: %2     Language: %3     Rights: %4")

@@ -118,13 +118,13 @@ void frmTabulon::NameTabs() {
 }
 
 void frmTabulon::FinishLoad() {
-  const bool canAdd = gclsOF->CanAdd(), canUpdate = gclsOF->CanUpdate(), canDelete = gclsOF->CanDelete();
+  rights_ = gclsOF->Rights();
   if (gclsOF->Tracing())
-    gclsOF->WriteLog(
-        "ADD: " + TrueOrFalse(canAdd) + " , Update: " + TrueOrFalse(canUpdate) + " , Delete: " + TrueOrFalse(canDelete),
-        {}, "L");
+    gclsOF->WriteLog("ADD: " + TrueOrFalse(rights_.add) + " , Update: " + TrueOrFalse(rights_.update) +
+                         " , Delete: " + TrueOrFalse(rights_.remove),
+                     {}, "L");
   buttonState();
-  if (canAdd || canUpdate || canDelete) {
+  if (rights_.add || rights_.update || rights_.remove) {
     if (gstrWebServiceName.isEmpty() && !ReadWebServiceSettings()) return;
     if (!gclsOF->SingleLanguage()) LoadLanguageCodes({});
   }

@@ -142,6 +142,16 @@ TEST_F(EngineErrors, ServersRefuseATextThatIsTooLong) {
   EXPECT_EQ(Count("ID_PARENT"), 1);
 }
 
+TEST_F(EngineErrors, AFailureKnowsItsStatementAsItWasComposed) {
+  const QString broken = "INSERT INTO ID_NOWHERE VALUES(N'x')";
+  EXPECT_EQ(ErrorOf([&] { connection.Execute(broken); }).Statement(), broken);
+  Recordset rows;
+  const QString read = "SELECT TOP 1 A FROM ID_NOWHERE";
+  EXPECT_EQ(ErrorOf([&] { rows.Open(connection, read); }).Statement(), read);
+  const QString two = "SELECT 1; SELECT 2";
+  EXPECT_EQ(ErrorOf([&] { connection.Execute(two); }).Statement(), two);
+}
+
 TEST_F(EngineErrors, AnErrorIsNotRememberedByTheNextStatement) {
   ErrorOf([&] { Run("DELETE FROM ID_NOT_THERE"); });
   EXPECT_EQ(Run("UPDATE ID_PARENT SET NAME = 'Two'"), 1);

@@ -281,7 +281,7 @@ TEST_F(AuditTest, TheOptionPairKeepsItsOwnTestOfAChange) {
     EXPECT_FALSE(gbRecordModified);
     Click(entry.option);
     EXPECT_EQ(gbRecordModified, entry.modified) << entry.code << " " << entry.option;
-    gbRecordModified = false;
+    Shell().LivePage()->CurrentRecord().Settled();
   }
 }
 

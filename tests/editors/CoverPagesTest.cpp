@@ -142,19 +142,19 @@ TEST_F(CoverPagesTest, WithoutARowUpdateAndTheNoticesAskForOne) {
 TEST_F(CoverPagesTest, StoredLineEndsAreNoChangeAndStay) {
   Another("UPDATE ID_COVER_INFO SET MESSAGE_1 = 'one\r\ntwo', MESSAGE_2 = 'three\r\nfour' WHERE REQUEST_TYPE = 'ILL'");
   Enter();
-  EXPECT_EQ(Text("txt1Message1"), "one\ntwo");
+  EXPECT_EQ(Text("txt1Message1"), "one\r\ntwo");
   EXPECT_FALSE(gbRecordModified);
   Prompt().Expect("Nothing has been changed", 48);
   Click("cmdUpdate");
   Append("txt1Message1", "!");
   EXPECT_TRUE(gbRecordModified);
   Press("txt1Message1", Qt::Key_Backspace);
-  EXPECT_EQ(Text("txt1Message1"), "one\ntwo");
+  EXPECT_EQ(Text("txt1Message1"), "one\r\ntwo");
   EXPECT_FALSE(gbRecordModified);
   Type("txt1message2", "three\nfive");
   Update();
   EXPECT_EQ(Stored("MESSAGE_1"), "one\r\ntwo");
-  EXPECT_EQ(Stored("MESSAGE_2"), "three\nfive");
+  EXPECT_EQ(Stored("MESSAGE_2"), "three\r\nfive");
 }
 
 TEST_F(CoverPagesTest, TheCodeOfARowIsNotReadOutOfItsText) {

@@ -158,7 +158,7 @@ TEST_P(MethodsTest, AnEmptyFlagLeftOnNoCountsAsAChange) {
   SelectRow(Grid_(), 2);
   Click(Active(1));
   EXPECT_TRUE(gbRecordModified);
-  gbRecordModified = false;
+  Shell().LivePage()->CurrentRecord().Settled();
   Click(Active(0));
   EXPECT_TRUE(gbRecordModified);
 }

@@ -119,7 +119,7 @@ TEST_F(ExceptionsTabTest, OfTwoChoicesThatOfTheSubTabJustLeftIsShown) {
 TEST_F(ExceptionsTabTest, TheTabEnteredAnewHasNoChoiceToCarry) {
   Enter(Valid);
   Choose("cmb8DocumentSupply", "Gamma");
-  gbRecordModified = false;
+  Shell().LivePage()->CurrentRecord().Settled();
   SelectTab("sstabtables", frmTabulon::LoansTab);
   SelectTab("sstabtables", frmTabulon::ExceptionsTab);
   EXPECT_EQ(Text("txt8Code"), "AAA");

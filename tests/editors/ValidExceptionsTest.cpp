@@ -330,7 +330,7 @@ TEST_F(ValidExceptionsTest, LineEndsOfAnotherProgramAreNoChange) {
   Go(Valid);
   SelectRow("grd8Document", AlphaLoan);
   SelectRow("grd8Document", AlphaRequest);
-  EXPECT_EQ(Text("txt8Message1"), "one\ntwo");
+  EXPECT_EQ(Text("txt8Message1"), "one\r\ntwo");
   Prompt().Expect("Nothing has been changed", MessageStyle::Warning);
   Click("cmdUpdate");
 }

@@ -66,6 +66,45 @@ TEST_F(CodeComboBoxTest, KeepsTheCodeBesideEachDescription) {
   EXPECT_TRUE(list->CodeAt(9).isNull());
 }
 
+TEST_F(CodeComboBoxTest, ACodeThatIsNoEntryIsShownAndGivenBack) {
+  Fill();
+  list->Hold("X");
+  EXPECT_TRUE(list->HoldsUnknown());
+  EXPECT_EQ(list->Index(), -1);
+  EXPECT_EQ(list->Text(), "X");
+  EXPECT_EQ(list->Code(), "X");
+  EXPECT_EQ(list->Chosen(), std::optional<QString>("X"));
+  EXPECT_FALSE(list->IsEmptyOrNone());
+  list->SetHint("Rate of the library");
+  EXPECT_EQ(list->Code(), "X");
+  list->SetCode("E");
+  EXPECT_FALSE(list->HoldsUnknown());
+  EXPECT_EQ(list->Code(), "E");
+}
+
+TEST_F(CodeComboBoxTest, AnEntryThatTheUserPicksOrAnEmptiedListEndsAHeldCode) {
+  Fill();
+  list->Hold("X");
+  list->SetIndex(0);
+  EXPECT_TRUE(list->Code().isNull());
+  list->Hold("X");
+  list->Clear();
+  EXPECT_FALSE(list->HoldsUnknown());
+  EXPECT_EQ(list->Chosen(), std::nullopt);
+  list->Hold("X");
+  Fill();
+  EXPECT_EQ(list->Code(), "X");
+}
+
+TEST_F(CodeComboBoxTest, ANullCodeIsTheNoneEntryOrNothing) {
+  list->Hold(QString());
+  EXPECT_EQ(list->Chosen(), std::nullopt);
+  Fill();
+  list->Hold(QString());
+  EXPECT_TRUE(list->IsNone());
+  EXPECT_EQ(list->Chosen(), std::optional<QString>(QString()));
+}
+
 TEST_F(CodeComboBoxTest, ChoosesByCode) {
   Fill();
   EXPECT_TRUE(list->SetCode("E"));

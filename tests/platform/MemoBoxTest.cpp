@@ -82,9 +82,64 @@ TEST_F(MemoBoxTest, FillingWithTheTextOnShowIsNoChange) {
   EXPECT_EQ(memo->Text(), "a b");
 }
 
-TEST_F(MemoBoxTest, ALineSeparatorStaysAndAParagraphSeparatorIsALineEnd) {
-  Make()->SetText(QString("a%1b%2c").arg(QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)));
-  EXPECT_EQ(memo->Text(), QString("a%1b\nc").arg(QChar(QChar::LineSeparator)));
+TEST_F(MemoBoxTest, ALineSeparatorAndAParagraphSeparatorStay) {
+  const QString text = QString("a%1b%2c").arg(QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator));
+  Make()->SetText(text);
+  EXPECT_EQ(memo->Text(), text);
+  EXPECT_EQ(memo->toPlainText().count('\n'), 2);
+}
+
+TEST_F(MemoBoxTest, EachLineKeepsTheEndItWasFilledWith) {
+  Make()->SetText("one\r\ntwo\nthree\rfour");
+  EXPECT_EQ(memo->Text(), "one\r\ntwo\nthree\rfour");
+  memo->moveCursor(QTextCursor::Start);
+  QTest::keyClicks(memo, "x");
+  EXPECT_EQ(memo->Text(), "xone\r\ntwo\nthree\rfour");
+  memo->moveCursor(QTextCursor::End);
+  QTest::keyClicks(memo, "y");
+  EXPECT_EQ(memo->Text(), "xone\r\ntwo\nthree\rfoury");
+  QTest::keyClick(memo, Qt::Key_Backspace);
+  memo->moveCursor(QTextCursor::Start);
+  QTest::keyClick(memo, Qt::Key_Delete);
+  EXPECT_EQ(memo->Text(), "one\r\ntwo\nthree\rfour");
+}
+
+TEST_F(MemoBoxTest, ANewLineEndsAsTheTextsOwnLinesDo) {
+  Make()->SetText("one\r\ntwo");
+  memo->moveCursor(QTextCursor::End);
+  QTest::keyClick(memo, Qt::Key_Return);
+  QTest::keyClicks(memo, "three");
+  EXPECT_EQ(memo->Text(), "one\r\ntwo\r\nthree");
+  memo->SetText("one\ntwo");
+  memo->moveCursor(QTextCursor::End);
+  QTest::keyClick(memo, Qt::Key_Return);
+  EXPECT_EQ(memo->Text(), "one\ntwo\n");
+  memo->SetText({});
+  QTest::keyClick(memo, Qt::Key_Return);
+  EXPECT_EQ(memo->Text(), "\n");
+}
+
+TEST_F(MemoBoxTest, ALineTakenOutOfTheMiddleLeavesTheOthersAsTheyWere) {
+  Make()->SetText("one\r\ntwo\r\nthree\nfour");
+  QTextCursor cursor = memo->textCursor();
+  cursor.setPosition(4);
+  cursor.movePosition(QTextCursor::Down, QTextCursor::KeepAnchor);
+  memo->setTextCursor(cursor);
+  QTest::keyClick(memo, Qt::Key_Delete);
+  EXPECT_EQ(memo->Text(), "one\r\nthree\nfour");
+}
+
+TEST_F(MemoBoxTest, TheLimitCountsLineEndsAsTheyAreStored) {
+  Make(10)->SetText("one\r\ntwo");
+  memo->moveCursor(QTextCursor::End);
+  QTest::keyClick(memo, Qt::Key_Return);
+  QTest::keyClicks(memo, "x");
+  EXPECT_EQ(memo->Text(), "one\r\ntwo\r\n");
+  memo->SetText("123456789");
+  memo->moveCursor(QTextCursor::End);
+  QTest::keyClick(memo, Qt::Key_Return);
+  QTest::keyClicks(memo, "x");
+  EXPECT_EQ(memo->Text(), "123456789\n");
 }
 
 TEST_F(MemoBoxTest, TypingReplacesASelectionInAFullBox) {
@@ -110,9 +165,10 @@ TEST_F(MemoBoxTest, FillingByCodeIsChangeButNotEdited) {
   Make();
   QSignalSpy changed(memo, &MemoBox::Change), edited(memo, &MemoBox::Edited);
   memo->SetText("one\r\ntwo");
-  EXPECT_EQ(memo->Text(), "one\ntwo");
+  EXPECT_EQ(memo->Text(), "one\r\ntwo");
   EXPECT_EQ(changed.count(), 1);
   memo->SetText("one\ntwo");
+  EXPECT_EQ(memo->Text(), "one\ntwo");
   EXPECT_EQ(changed.count(), 1);
   EXPECT_EQ(edited.count(), 0);
   QTest::keyClicks(memo, "x");

@@ -156,11 +156,11 @@ TEST_F(NoticeEmailTest, SavingEmptyBoxesSetsAllColumnsToNull) {
 TEST_F(NoticeEmailTest, UntouchedLineEndsStayAsTheyWereStored) {
   Fill({"MSG_TXT_FOOTER = 'one\r\ntwo'", "MSG_PDF_MESSAGE = 'three\r\nfour'"});
   OpenNotice("frmNotifyPatronEmail");
-  EXPECT_EQ(Text("txtTextFooter"), "one\ntwo");
+  EXPECT_EQ(Text("txtTextFooter"), "one\r\ntwo");
   Append("txtTextFooter", "\nfive");
   Prompt().Expect(Done, 64);
   Click("cmdOK");
-  EXPECT_EQ(Stored("MSG_TXT_FOOTER"), "one\ntwo\nfive");
+  EXPECT_EQ(Stored("MSG_TXT_FOOTER"), "one\r\ntwo\r\nfive");
   EXPECT_EQ(Stored("MSG_PDF_MESSAGE"), "three\r\nfour");
 }
 

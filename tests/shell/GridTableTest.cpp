@@ -54,7 +54,6 @@ TEST_F(GridTableTest, OneGridTakesSevenLayoutsOneAfterTheOther) {
 TEST_F(GridTableTest, EveryTabWithAGridHasItsLayout) {
   for (const char* key : {"0",
                           "1",
-                          "2",
                           "3",
                           "4",
                           "5 a",

@@ -2,7 +2,9 @@
 #include <QMenu>
 #include <QRegularExpression>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
+#include <QTest>
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
@@ -19,6 +21,12 @@ class ShellTest : public Desk {
     Another("UPDATE ID_TABLES SET VIEW_ONLY_FLAG = 'F' WHERE TABLES = 'ID_LIBRARY_CAT'");
     Start();
     ChooseAt("cmb0Tables", Find<CodeComboBox>("cmb0Tables")->IndexOfCode("ID_LIBRARY_CAT"));
+  }
+  // A press on the tab's handle, also where the tab is on screen already.
+  void ClickTab(int index) {
+    auto* const bar = Find<QTabWidget>("sstabtables")->tabBar();
+    QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(index).center());
+    QCoreApplication::processEvents();
   }
   void Rights(const QString& add, const QString& update, const QString& remove) {
     Another("UPDATE ID_USER_FUNCTION SET ADD_FLAG = '" + add + "', UPDATE_FLAG = '" + update + "', DELETE_FLAG = '" +
@@ -101,8 +109,9 @@ TEST_F(ShellTest, UpdateOnATabThatWasNotSetUpStillMeansTheRecordThatWaits) {
   SelectTab("sstabtables", 6);
   Another("ALTER TABLE ID_LIBRARY_CAT_AWAY RENAME TO ID_LIBRARY_CAT");
   EXPECT_TRUE(gbRecordModified);
-  // Clear belongs to the tab on screen, which has none, and leaves the record waiting.
-  Click("cmdClear");
+  // The other buttons belong to the tab on screen, which has no record.
+  for (const char* button : {"cmdAdd", "cmdDelete", "cmdClear"}) EXPECT_FALSE(IsEnabled(button)) << button;
+  Shell().cmdClear_Click();
   EXPECT_TRUE(gbRecordModified);
   Prompt().Expect("Record Updated", 64);
   Click("cmdUpdate");
@@ -110,7 +119,7 @@ TEST_F(ShellTest, UpdateOnATabThatWasNotSetUpStillMeansTheRecordThatWaits) {
   EXPECT_EQ(Ask("SELECT LIBRARY_CAT_DESC FROM ID_LIBRARY_CAT WHERE LIBRARY_CAT = '" + code + "'"), "changed");
 }
 
-TEST_F(ShellTest, AfterTheRecordWasStoredTheButtonsMeanTheTabOnScreen) {
+TEST_F(ShellTest, ATabThatWasNotSetUpShowsNothingOfItsPageAndOpensAtAClick) {
   PickCategories();
   SelectTab("sstabtables", frmTabulon::AuditTab);
   const QString code = Text("txt10aCode");
@@ -119,11 +128,54 @@ TEST_F(ShellTest, AfterTheRecordWasStoredTheButtonsMeanTheTabOnScreen) {
   Type("txt0Description", "changed");
   Prompt().Expect(Question, 36, MessageAnswer::Yes).Expect("Record Updated", 64);
   SelectTab("sstabtables", frmTabulon::AuditTab);
+  EXPECT_FALSE(IsShown("txt10aDescription"));
+  EXPECT_EQ(Text("lblNotSetUp"), "Click the tab again to open it.");
+  // Update still means the record of the page that is set up.
+  Prompt().Expect("Nothing has been changed", 48);
+  Click("cmdUpdate");
+  ClickTab(frmTabulon::AuditTab);
+  EXPECT_FALSE(IsShown("lblNotSetUp"));
+  EXPECT_TRUE(IsEnabled("cmdAdd"));
   Type("txt10aDescription", "Reading room");
   Prompt().Expect("Record Updated", 64);
   Click("cmdUpdate");
   EXPECT_EQ(Ask("SELECT STAT_LOCATION_DESC FROM ID_STAT_LOCATION WHERE STAT_LOCATION = '" + code + "'"),
             "Reading room");
+}
+
+TEST_F(ShellTest, AClickOnATabThatWasNotSetUpReturnsToTheRecordThatWaits) {
+  PickCategories();
+  Type("txt0Code", "??");
+  Prompt()
+      .Expect(Question, 36, MessageAnswer::Yes)
+      .Expect("This Code does not exist in the table.  Please select a Valid Code to Update.", 48);
+  SelectTab("sstabtables", frmTabulon::DepartmentsTab);
+  Statements();
+  ClickTab(frmTabulon::DepartmentsTab);
+  EXPECT_EQ(Shell().Tab(), frmTabulon::CodeTablesTab);
+  EXPECT_EQ(Text("txt0Code"), "??");
+  EXPECT_TRUE(IsShown("txt0Code"));
+  EXPECT_TRUE(IsEnabled("cmdClear"));
+  EXPECT_TRUE(gbRecordModified);
+  EXPECT_TRUE(Statements().isEmpty());
+}
+
+TEST_F(ShellTest, TheRecordThatWaitsKeepsItsGridAndItsList) {
+  PickCategories();
+  SelectTab("sstabtables", frmTabulon::DepartmentsTab);
+  SelectTab("sstabtables", frmTabulon::CodeTablesTab);
+  ChooseAt("cmb0Tables", Find<CodeComboBox>("cmb0Tables")->IndexOfCode("ID_LIBRARY_CAT"));
+  const int rows = Rows("grd0TableDesc");
+  Type("txt0Code", "??");
+  Prompt()
+      .Expect(Question, 36, MessageAnswer::Yes)
+      .Expect("This Code does not exist in the table.  Please select a Valid Code to Update.", 48);
+  SelectTab("sstabtables", frmTabulon::DepartmentsTab);
+  // Nothing of the page that was set up before can be reached.
+  for (const char* control : {"cmbShowDepartments", "txt2Department", "grd2Department"})
+    EXPECT_FALSE(IsShown(control)) << control;
+  Shell().LoadDataInGrid();
+  EXPECT_EQ(Rows("grd0TableDesc"), rows);
 }
 
 TEST_F(ShellTest, ClosingWithAnUnchangedRecordEndsWithoutAQuestion) {
@@ -145,7 +197,7 @@ TEST_F(ShellTest, ClosingWithAChangedRecordSavesAndStays) {
 
 TEST_F(ShellTest, ClosingWhileUpdateIsHiddenEndsModifiedOrNot) {
   Start();
-  gbRecordModified = true;
+  Shell().LivePage()->CurrentRecord().Touched();
   ASSERT_FALSE(IsShown("cmdUpdate"));
   Click("cmdClose");
   EXPECT_TRUE(ProcessEnded());

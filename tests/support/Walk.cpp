@@ -98,7 +98,7 @@ void Walk::ThroughDialogs(const Look& look) {
       Fill(*screen);
       look(name, *screen);
     }
-    gbRecordModified = false;
+    if (gbRecordModified) Shell().LivePage()->CurrentRecord().Settled();
   }
 }
 

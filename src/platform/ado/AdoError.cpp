@@ -6,3 +6,9 @@ AdoError::AdoError(quint32 number, QString description, QString source, bool con
       source_(std::move(source)),
       connectionLost_(connectionLost),
       utf8_(description_.toUtf8()) {}
+
+AdoError AdoError::Of(const QString& statement) const {
+  AdoError error = *this;
+  error.statement_ = statement;
+  return error;
+}

@@ -27,6 +27,9 @@ class AdoError : public std::exception {
   QString NumberText() const { return QString::number(static_cast<qint32>(number_)); }
   const QString& Description() const { return description_; }
   const QString& Source() const { return source_; }
+  // The statement as it was composed, secrets included; empty where none was at fault.
+  const QString& Statement() const { return statement_; }
+  AdoError Of(const QString& statement) const;
   // True when the server is gone; whether the statement took effect is then unknown.
   bool ConnectionLost() const { return connectionLost_; }
   // True for the numbers that say "the database refused the delete because the row is in use".
@@ -39,6 +42,7 @@ class AdoError : public std::exception {
   quint32 number_;
   QString description_;
   QString source_;
+  QString statement_;
   bool connectionLost_;
   QByteArray utf8_;
 };

@@ -57,11 +57,12 @@ qint64 Connection::Private::Observed(const QString& text, int allowed, const QSt
     if (!refusal.isEmpty()) throw AdoError(AdoNumber::TextRefused, refusal, source);
     CheckReady(source);
     affected = body();
-  } catch (const AdoError&) {
+  } catch (const AdoError& error) {
     NoteFailure();
     tell(-1, true);
-    throw;
+    throw error.Of(text);
   }
+  if (unit == Unit::Open) lastOfUnit = text;
   tell(affected, false);
   return affected;
 }
@@ -115,6 +116,7 @@ void Connection::BeginTrans() {
   d_->EnsureOpen();
   d_->session.Run(d_->session.dialect().BeginStatement(), source);
   d_->unit = Private::Unit::Open;
+  d_->lastOfUnit.clear();
 }
 
 void Connection::CommitTrans() {
@@ -126,10 +128,10 @@ void Connection::CommitTrans() {
     d_->CheckReady(source);
     d_->session.Run(QStringLiteral("COMMIT"), source);
     d_->unit = Private::Unit::None;
-  } catch (const AdoError&) {
+  } catch (const AdoError& error) {
     d_->NoteFailure();
     RollbackTrans();
-    throw;
+    throw error.Of(d_->lastOfUnit);
   }
 }
 

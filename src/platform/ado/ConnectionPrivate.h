@@ -14,6 +14,7 @@ struct Connection::Private {
 
   Session session;
   Unit unit = Unit::None;
+  QString lastOfUnit;  // the statement that the transaction ran last
   std::vector<std::function<void(const StatementRecord&)>> observers;
   std::map<QString, std::vector<ColumnInfo>> columns;
 

@@ -55,11 +55,12 @@ void CodeComboBox::Clear() {
 
 void CodeComboBox::SetHint(const QString& hint) {
   hint_ = hint;
-  Show(shown_);
+  setAccessibleDescription(shown_.isEmpty() ? hint_ : shown_);
 }
 
 // A text that is no entry of the list; assistive technology reads the chosen entry alone.
 void CodeComboBox::Show(const QString& text) {
+  held_.reset();
   shown_ = text;
   setAccessibleDescription(text.isEmpty() ? hint_ : text);
   update();
@@ -106,7 +107,12 @@ void CodeComboBox::SetText(const QString& text) {
 }
 
 QString CodeComboBox::Code() const {
-  return CodeAt(currentIndex());
+  return held_ ? *held_ : CodeAt(currentIndex());
+}
+
+std::optional<QString> CodeComboBox::Chosen() const {
+  if (held_ || currentIndex() >= 0) return Code();
+  return std::nullopt;
 }
 
 QString CodeComboBox::CodeAt(int index) const {
@@ -127,6 +133,14 @@ bool CodeComboBox::SetCode(const QString& code) {
   if (index < 0) return false;
   SetIndex(index);
   return true;
+}
+
+void CodeComboBox::Hold(const QString& code) {
+  if (SetCode(code)) return;
+  SetIndex(-1);
+  if (code.isNull()) return;
+  Show(code);
+  held_ = code;
 }
 
 int CodeComboBox::IndexOfCode(const QString& code) const {

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QComboBox>
+#include <optional>
 #include <vector>
 
 // A list of descriptions that keeps the code behind each entry. The entry "(none)" (in the letters the screen uses)
 // stands for NULL: its code is a null QString. Equal descriptions are entries of their own. The box never picks an
-// entry by itself; -1 is "nothing chosen", and a text that is no entry can be shown (SetText).
+// entry by itself; -1 is "nothing chosen". A text that is no entry can be shown (SetText), and a code that is none can
+// be held (Hold): a list that lacks a code, or could not be filled, loses none.
 class CodeComboBox : public QComboBox {
   Q_OBJECT
 
@@ -25,8 +27,10 @@ class CodeComboBox : public QComboBox {
   QString Text() const;
   // Chooses the first entry with this text (exact); shows the text without an entry when there is none.
   void SetText(const QString& text);
-  // Null when the chosen entry is "(none)" or nothing is chosen.
+  // The code chosen or held; null when the chosen entry is "(none)" or nothing is chosen.
   QString Code() const;
+  // The same, but nothing where nothing is chosen.
+  std::optional<QString> Chosen() const;
   QString CodeAt(int index) const;
   QString TextAt(int index) const { return itemText(index); }
   // Of the first entry with that description or code; null when there is none.
@@ -34,6 +38,10 @@ class CodeComboBox : public QComboBox {
   QString DescriptionOf(const QString& code) const;
   // Chooses the entry of the code (exact). False when there is none; the box is then left alone.
   bool SetCode(const QString& code);
+  // Chooses the entry of the code. A code that is no entry is shown as it stands, and given back by Code until an entry
+  // is chosen or the list is emptied; a null one without an entry chooses nothing.
+  void Hold(const QString& code);
+  bool HoldsUnknown() const { return held_.has_value(); }
   int IndexOfCode(const QString& code) const;
   int IndexOfText(const QString& text) const;
   // True on the first entry added by AddNone, whatever its letters; also on a shown text that equals it but for case.
@@ -66,5 +74,6 @@ class CodeComboBox : public QComboBox {
   int noneIndex_ = -1;
   QString none_ = QStringLiteral("(none)");
   QString hint_;
+  std::optional<QString> held_;
   QString shown_;  // the text on show while no entry is chosen
 };

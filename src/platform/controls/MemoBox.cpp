@@ -30,16 +30,55 @@ MemoBox::MemoBox(QWidget* parent, const QString& name, int maxLength)
   });
 }
 
+// --- Line ends ---
+
+// Where no line was added or taken out each keeps its end, else those at the beginning and at the end that are as they
+// were filled in.
+QString MemoBox::Stored(const QString& raw) const {
+  if (raw == filledRaw_) return filled_;
+  const QStringList lines = WithLineEnds(raw).split(u'\n');
+  const qsizetype both = std::min(lines.size(), filledLines_.size());
+  qsizetype first = lines.size() == filledLines_.size() ? both : 0, last = 0;
+  while (first < both && lines[first] == filledLines_[first]) ++first;
+  while (last < both - first && lines[lines.size() - 1 - last] == filledLines_[filledLines_.size() - 1 - last]) ++last;
+  QString text;
+  for (qsizetype line = 0; line < lines.size(); ++line) {
+    text += lines[line];
+    const qsizetype fromEnd = lines.size() - 1 - line;  // line ends that follow this one
+    if (fromEnd == 0) break;
+    if (line < first && line < filledEnds_.size())
+      text += filledEnds_[line];
+    else
+      text += fromEnd <= last && fromEnd <= filledEnds_.size() ? filledEnds_[filledEnds_.size() - fromEnd] : lineEnd_;
+  }
+  return text;
+}
+
 QString MemoBox::Text() const {
-  return WithLineEnds(document()->toRawText());
+  return Stored(document()->toRawText());
 }
 
 void MemoBox::SetText(const QString& text) {
-  QString plain = text;
-  plain.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-  if (plain == Text()) return;
-  const QScopedValueRollback filling(filling_, true);
-  setPlainText(plain);
+  filled_ = text;
+  filledLines_ = {QString()};
+  filledEnds_.clear();
+  for (qsizetype at = 0; at < text.size(); ++at) {
+    const bool pair = text[at] == u'\r' && at + 1 < text.size() && text[at + 1] == u'\n';
+    if (text[at] != u'\n' && text[at] != u'\r' && text[at] != QChar::ParagraphSeparator) {
+      filledLines_.back() += text[at];
+      continue;
+    }
+    filledEnds_.append(pair ? QStringLiteral("\r\n") : QString(text[at]));
+    filledLines_.append(QString());
+    if (pair) ++at;
+  }
+  lineEnd_ = filledEnds_.contains(QStringLiteral("\r\n")) ? QStringLiteral("\r\n") : QStringLiteral("\n");
+  const QString plain = filledLines_.join(u'\n');
+  if (plain != WithLineEnds(document()->toRawText())) {
+    const QScopedValueRollback filling(filling_, true);
+    setPlainText(plain);
+  }
+  filledRaw_ = document()->toRawText();
 }
 
 QString MemoBox::TrimInPlace() {
@@ -66,8 +105,19 @@ QSize MemoBox::minimumSizeHint() const {
 
 qsizetype MemoBox::Room() const {
   if (maxLength_ == 0) return std::numeric_limits<qsizetype>::max();
-  // characterCount counts the end of the last paragraph as well.
-  return maxLength_ - (document()->characterCount() - 1 - textCursor().selectedText().size());
+  const QString selected = textCursor().selectedText();
+  return maxLength_ - Text().size() + selected.size() +
+         selected.count(QChar::ParagraphSeparator) * (lineEnd_.size() - 1);
+}
+
+// As much of the text as there is room for, its line ends counted as they would be stored.
+QString MemoBox::Fitting(const QString& text) const {
+  QString stored = text;
+  stored.replace(QLatin1String("\n"), lineEnd_);
+  QString fitting = TextInput::Fitting(stored, Room());
+  fitting.replace(lineEnd_, QLatin1String("\n"));
+  if (fitting.endsWith(u'\r')) fitting.chop(1);  // half a line end
+  return fitting;
 }
 
 bool MemoBox::Refused() {
@@ -81,14 +131,14 @@ void MemoBox::keyPressEvent(QKeyEvent* event) {
   if (isReadOnly() || (!enter && !TextInput::IsTyped(*event))) return QPlainTextEdit::keyPressEvent(event);
   if (Refused()) return event->accept();
   const QString typed = enter ? QStringLiteral("\n") : event->text();
-  if (TextInput::Fitting(typed, Room()) != typed) return event->accept();
+  if (Fitting(typed) != typed) return event->accept();
   QPlainTextEdit::keyPressEvent(event);
 }
 
 void MemoBox::inputMethodEvent(QInputMethodEvent* event) {
   if (isReadOnly() || event->commitString().isEmpty()) return QPlainTextEdit::inputMethodEvent(event);
   QInputMethodEvent composed(event->preeditString(), event->attributes());
-  const QString fitting = Refused() ? QString() : TextInput::Fitting(TextInput::Lines(event->commitString()), Room());
+  const QString fitting = Refused() ? QString() : Fitting(TextInput::Lines(event->commitString()));
   composed.setCommitString(fitting, event->replacementStart(), event->replacementLength());
   QPlainTextEdit::inputMethodEvent(&composed);
   event->setAccepted(composed.isAccepted());
@@ -96,7 +146,7 @@ void MemoBox::inputMethodEvent(QInputMethodEvent* event) {
 
 void MemoBox::insertFromMimeData(const QMimeData* source) {
   if (isReadOnly() || !source->hasText()) return;
-  const QString fitting = TextInput::Fitting(TextInput::Lines(source->text()), Room());
+  const QString fitting = Fitting(TextInput::Lines(source->text()));
   if (fitting.isEmpty()) return;
   textCursor().insertText(fitting);
   ensureCursorVisible();
