@@ -61,12 +61,8 @@ void Copy(const CodeComboBox& from, CodeComboBox& to) {
 void ShowCode(CodeComboBox& box, const QString& code) {
   if (code.isEmpty())
     box.SetIndex(0);
-  else if (!box.SetCode(code))
-    box.SetText(code);
-}
-
-QString CodeOnShow(const CodeComboBox& box) {
-  return box.Index() >= 0 ? box.Code() : box.Text();
+  else
+    box.Hold(code);
 }
 
 }  // namespace CodeLists

@@ -25,7 +25,5 @@ void Copy(const CodeComboBox& from, CodeComboBox& to);
 
 // An empty code is the none entry.
 void ShowCode(CodeComboBox& box, const QString& code);
-// Empty for the none entry and for a box that shows nothing.
-QString CodeOnShow(const CodeComboBox& box);
 
 }  // namespace CodeLists

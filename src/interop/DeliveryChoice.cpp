@@ -81,7 +81,7 @@ void DeliveryChoice::ShowAddress(bool pickup) {
 }
 
 bool DeliveryChoice::PickupIsChosen() const {
-  return IsPickup(CodeLists::CodeOnShow(*cmbDeliveryMethod_));
+  return IsPickup(cmbDeliveryMethod_->Code());
 }
 
 // --- Values ---
@@ -101,9 +101,9 @@ DeliveryChoice::Values DeliveryChoice::OnScreen() const {
   Values values;
   values.allowed = rdAllow_->IsSet(0);
   values.selected = rdDeliverySelect_->IsSet(0);
-  values.method = CodeLists::CodeOnShow(*cmbDeliveryMethod_);
+  values.method = cmbDeliveryMethod_->Code();
   if (PickupIsChosen())
-    values.address = CodeLists::CodeOnShow(*cmbPickupLocation_);
+    values.address = cmbPickupLocation_->Code();
   else if (values.method.isEmpty() || HasAddress(values.method.toUpper()))
     values.address = txtDeliveryAddress_->Text();
   return values;

@@ -4,7 +4,7 @@
 #include <functional>
 
 class Grid;
-class StatementReport;
+class Record;
 
 // A list that is edited in a grid and replaces the rows of its library when the screen closes.
 struct ListRewrite {
@@ -16,6 +16,6 @@ struct ListRewrite {
   std::function<QString(int row)> valuesOf;  // the same columns of a grid row
 
   // In one transaction: all rows of the library go, the rows of the grid come. An AdoError at any of them leaves the
-  // old rows in the table.
-  void Run(const Grid& grid, StatementReport& report) const;
+  // old rows in the table. `list` is the grid's own record: what was not read whole replaces nothing.
+  void Run(const Grid& grid, const Record& list) const;
 };

@@ -1,9 +1,6 @@
 #include "interop/NCIPListScreen.h"
 
-#include "core/ModuleState.h"
-#include "core/OstanaFunctions.h"
 #include "interop/StatementReport.h"
-#include "shell/Messages.h"
 #include "shell/Procedure.h"
 
 NCIPListScreen::NCIPListScreen(const QString& formName, const QString& caption, Grid* grid, QWidget* parent)
@@ -30,16 +27,6 @@ void NCIPListScreen::Run(const QString& handler, const std::function<void()>& bo
   Procedure(objectName() + "." + handler, this).OnFailure(Texts::NotifySupport).Run(body);
 }
 
-int NCIPListScreen::Tell(const QString& text, int style) {
-  return ShowMessage(text, style, Caption(), {}, this);
-}
-
-bool NCIPListScreen::Refuse(const QString& text, QWidget* focus) {
-  Tell(text, MessageStyle::Stop);
-  focus->setFocus(Qt::OtherFocusReason);
-  return false;
-}
-
 // --- Loading ---
 
 void NCIPListScreen::Form_Load() {
@@ -47,19 +34,30 @@ void NCIPListScreen::Form_Load() {
   Procedure("frmNCIPStatusCodes.ReadOstanaInfo()", this)
       .OnFailure("An error has occurred loading the form.  Please Notify Support.")
       .Run([this] {
+        Record::Reading reading(list_);
+        reading.Replaces();
         grid_->Clear();
-        cmdUpdate->setEnabled(false);
         ReadOstanaInfo();
-        if (grid_->Rows() > 1) SelectRow(1);
-        mbListChanged = false;
+        reading.Ended();
       });
+  ApplyRights();
+  if (list_.MayBeWritten() && grid_->Rows() > 1) SelectRow(1);
   KeyBox()->setFocus(Qt::OtherFocusReason);
+}
+
+// A list that was not read whole can be looked at and left, and nothing else.
+void NCIPListScreen::ApplyRights() {
+  const bool whole = list_.MayBeWritten();
+  cmdAdd->setEnabled(whole && rights_.add);
+  cmdUpdate->setEnabled(false);
+  cmdDelete->setEnabled(whole && rights_.remove);
+  cmdClear->setEnabled(whole && rights_.update && rights_.remove);
 }
 
 void NCIPListScreen::SelectRow(int row) {
   grid_->SetRowQuietly(row);
   ShowRow(row);
-  cmdUpdate->setEnabled(true);
+  cmdUpdate->setEnabled(list_.MayBeWritten() && rights_.update);
 }
 
 void NCIPListScreen::Grid_SelChange() {
@@ -73,11 +71,11 @@ void NCIPListScreen::cmdAdd_Click() {
     QStringList cells;
     if (!CellsOnScreen(cells, false)) return;
     if (grid_->FindRow(cells.front(), Key) > 0) {
-      Refuse(DuplicateText(cells.front()), KeyBox());
+      Refuse(this, DuplicateText(cells.front()), MessageStyle::Stop, KeyBox());
       return;
     }
     SelectRow(grid_->AddRow(cells));
-    mbListChanged = true;
+    list_.Touched();
   });
 }
 
@@ -86,29 +84,29 @@ void NCIPListScreen::cmdUpdate_Click() {
   Run("cmdUpdate_Click", [this] {
     const int row = grid_->Row();
     if (grid_->Rows() <= 1 || row < 1) {
-      Tell("There are currently no rows to Update.", MessageStyle::Stop);
+      Tell(this, "There are currently no rows to Update.", MessageStyle::Stop);
       return;
     }
     QStringList cells;
     if (!CellsOnScreen(cells, true)) return;
     for (int index = 0; index < cells.size(); ++index) grid_->SetText(row, Key + index, cells[index]);
-    mbListChanged = true;
+    list_.Touched();
   });
 }
 
 void NCIPListScreen::cmdDelete_Click() {
   const int row = grid_->Row();
   if (row < 1) {
-    Refuse("Please select a row to delete.", grid_);
+    Refuse(this, "Please select a row to delete.", MessageStyle::Stop, grid_);
     return;
   }
   grid_->RemoveRow(row);
   EmptyControls();
-  mbListChanged = true;
+  list_.Touched();
 }
 
 void NCIPListScreen::cmdClear_Click() {
-  if (Tell("Are you sure you wish to clear the screen?", MessageStyle::Question) != MessageAnswer::Yes) return;
+  if (!Confirm(this, "Are you sure you wish to clear the screen?")) return;
   EmptyControls();
   ResetControls();
 }
@@ -116,18 +114,18 @@ void NCIPListScreen::cmdClear_Click() {
 // --- Closing ---
 
 void NCIPListScreen::cmdClose_Click() {
-  if (!mbListChanged) {
+  if (!mbListChanged()) {
     Unload();
     return;
   }
   StatementReport report;
-  if (report.Try([&] { Rewrite().Run(*grid_, report); })) {
-    Tell("Settings updated.", MessageStyle::Information);
+  if (report.Try([&] { Rewrite().Run(*grid_, list_); })) {
+    Tell(this, "Settings updated.", MessageStyle::Information);
     Unload();
     return;
   }
   gclsOF->WriteLog(objectName() + ".cmdClose_Click", report.ErrorText(), "L");
   gclsOF->WriteLog(report.ErrorText(), {}, "S");
   // The words are those of the status codes on both lists.
-  Tell("Unable to update the NCIP Status Codes.\n\n" + report.ErrorText(), MessageStyle::Stop);
+  Tell(this, "Unable to update the NCIP Status Codes.\n\n" + report.ErrorText(), MessageStyle::Stop);
 }

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "interop/ListRewrite.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/Messages.h"
 #include "shell/Screen.h"
 
 // What the two small NCIP lists share. Rows are edited in a grid in memory: Add, Update and Delete touch the grid
@@ -35,7 +38,6 @@ class NCIPListScreen : public Screen {
 
   // The grid under the fields, the buttons under the grid; Tab leads the same way.
   void Compose(QWidget* fields);
-  bool Refuse(const QString& text, QWidget* focus);
   // The frame of an event procedure.
   void Run(const QString& handler, const std::function<void()>& body);
 
@@ -49,7 +51,7 @@ class NCIPListScreen : public Screen {
 
  private:
   void SelectRow(int row);
-  int Tell(const QString& text, int style);
+  void ApplyRights();
   void Grid_SelChange();
   void cmdAdd_Click();
   void cmdUpdate_Click();
@@ -57,5 +59,9 @@ class NCIPListScreen : public Screen {
   void cmdClear_Click();
   void cmdClose_Click();
 
-  bool mbListChanged = false;
+  // The list differs from the table.
+  bool mbListChanged() const { return list_.Modified(); }
+
+  const FunctionRights rights_ = gclsOF->Rights();
+  Record list_;
 };

@@ -45,11 +45,21 @@ void ServerConnection::Form_Load() {
   Procedure(facts_.loadName, this)
       .OnFailure("An error has occurred loading the form.  Please Notify Support.")
       .Run([this] { LoadForm(); });
+  ApplyRights();
   cmbSystem->setFocus(Qt::OtherFocusReason);
+}
+
+// Whether there is a row, and what it holds, is known only when all was read.
+void ServerConnection::ApplyRights() {
+  const bool known = record_.Status() != Record::State::Torn;
+  cmdOK->setEnabled(known && (mbRecordExists ? rights_.update : rights_.add));
+  cmdDelete->setEnabled(known && rights_.remove);
 }
 
 void ServerConnection::LoadForm() {
   mbRecordExists = false;
+  Record::Reading reading(record_);
+  reading.Replaces();
   CodeLists::Fill(*cmbSystem, Select("NCIP_ILS_SYSTEM", "ID_NCIP_ILS_SYSTEM"),
                   "***** SQL error on ID_NCIP_ILS_SYSTEM  (Select) *****", "NCIP_ILS_SYSTEM");
   CodeLists::Fill(*cmbConnect, Select("NCIP_CONNECT_TYPE", "ID_NCIP_CONNECT_TYPE"),
@@ -57,7 +67,10 @@ void ServerConnection::LoadForm() {
   Recordset rows;
   OpenRows(rows, "SELECT   * FROM " + Sql::Table(facts_.table) + " " + OfLibrary(libraryId_),
            "***** SQL error on " + facts_.table + " (Select) *****");
-  if (rows.EOF_()) return;
+  if (rows.EOF_()) {
+    reading.Ended();
+    return record_.Gone();
+  }
   CodeLists::ShowCode(*cmbSystem, Value(rows, facts_.systemColumn));
   CodeLists::ShowCode(*cmbConnect, Value(rows, facts_.typeColumn));
   txtServerAddress->SetText(Value(rows, facts_.hostColumn));
@@ -65,35 +78,28 @@ void ServerConnection::LoadForm() {
   txtPort->SetText(Value(rows, facts_.portColumn));
   ShowRow(rows);
   mbRecordExists = true;
+  reading.Ended();
 }
 
 // --- Frames ---
-
-int ServerConnection::Tell(const QString& text, int style) {
-  return ShowMessage(text, style, Caption(), {}, this);
-}
-
-bool ServerConnection::Refuse(const QString& text, QWidget* focus) {
-  Tell(text, MessageStyle::Stop);
-  focus->setFocus(Qt::OtherFocusReason);
-  return false;
-}
 
 void ServerConnection::RunWrite(const QString& logName, const std::function<void()>& body) {
   StatementReport report;
   if (report.Try(body)) return;
   gclsOF->WriteLog(logName, report.ErrorText(), "L");
-  Tell("An error occurred writing settings to database.  Please check log file for more information.",
+  Tell(this, "An error occurred writing settings to database.  Please check log file for more information.",
        MessageStyle::Stop);
 }
 
 // --- OK ---
 
 bool ServerConnection::Validate() {
-  if (cmbSystem->IsEmptyOrNone()) return Refuse("ILS System is a required field.", cmbSystem);
-  if (cmbConnect->IsEmptyOrNone()) return Refuse("Connection Type is a required field.", cmbConnect);
-  if (txtServerAddress->Text().isEmpty()) return Refuse("Server Address is a required field.", txtServerAddress);
-  if (txtPort->Text().isEmpty()) return Refuse("Port is a required field.", txtPort);
+  if (cmbSystem->IsEmptyOrNone()) return Refuse(this, "ILS System is a required field.", MessageStyle::Stop, cmbSystem);
+  if (cmbConnect->IsEmptyOrNone())
+    return Refuse(this, "Connection Type is a required field.", MessageStyle::Stop, cmbConnect);
+  if (txtServerAddress->Text().isEmpty())
+    return Refuse(this, "Server Address is a required field.", MessageStyle::Stop, txtServerAddress);
+  if (txtPort->Text().isEmpty()) return Refuse(this, "Port is a required field.", MessageStyle::Stop, txtPort);
   return true;
 }
 
@@ -118,7 +124,7 @@ void ServerConnection::cmdOK_Click() {
     if (!Validate()) return;
     Execute(WriteStatement(),
             "***** SQL error on " + facts_.table + (mbRecordExists ? " (Update) *****" : " (Insert) *****"));
-    Tell(mbRecordExists ? "Settings updated." : "Settings added.", MessageStyle::Information);
+    Tell(this, mbRecordExists ? "Settings updated." : "Settings added.", MessageStyle::Information);
     Unload();
   });
 }
@@ -129,13 +135,13 @@ void ServerConnection::cmdOK_Click() {
 void ServerConnection::cmdDelete_Click() {
   RunWrite(facts_.deleteName, [this] {
     if (!mbRecordExists) {
-      Tell("There is no record to delete.", MessageStyle::Stop);
+      Tell(this, "There is no record to delete.", MessageStyle::Stop);
       return;
     }
-    if (Tell("Are you sure you want to delete this record?", MessageStyle::Question) != MessageAnswer::Yes) return;
+    if (!Confirm(this, "Are you sure you want to delete this record?")) return;
     Execute("DELETE FROM " + Sql::Table(facts_.table) + " " + OfLibrary(libraryId_),
             "***** SQL error on " + facts_.table + " (Delete) *****");
-    Tell("Settings deleted.", MessageStyle::Information);
+    Tell(this, "Settings deleted.", MessageStyle::Information);
     Unload();
   });
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/TextBox.h"
@@ -61,10 +63,11 @@ class ServerConnection : public Screen {
   QString WriteStatement() const;
   // Runs a procedure that writes; a failure is logged and told, and the dialog stays.
   void RunWrite(const QString& logName, const std::function<void()>& body);
-  int Tell(const QString& text, int style);
-  bool Refuse(const QString& text, QWidget* focus);
+  void ApplyRights();
 
   const Facts facts_;
   const qint32 libraryId_;  // whose row it is
+  const FunctionRights rights_ = gclsOF->Rights();
+  Record record_;  // none where the library has no row yet
   bool mbRecordExists = false;
 };

@@ -3,19 +3,12 @@
 #include "core/ModuleState.h"
 #include "shell/Procedure.h"
 
-const QString& StatementReport::Note(const QString& sql) {
-  statement_ = sql;
-  return statement_;
-}
-
 bool StatementReport::Try(const std::function<void()>& body) {
   gstrErrorMessage.clear();
-  statement_.clear();
   error_ = Procedure::Try(body);
   // A failure line stands in gstrErrorMessage just as long as its statement runs.
   label_ = gstrErrorMessage;
   gstrErrorMessage.clear();
-  if (label_.isEmpty()) statement_.clear();
   return !error_;
 }
 

@@ -10,15 +10,12 @@
 // the text of the statement that failed.
 class StatementReport {
  public:
-  // Remembers the statement that is about to run and hands it back.
-  const QString& Note(const QString& sql);
-
   // False when the body failed; an open transaction is rolled back by then, and what follows is known.
   bool Try(const std::function<void()>& body);
 
   // Failure line and text of the statement; both are empty when the failure came between two statements.
   const QString& Label() const { return label_; }
-  const QString& Statement() const { return statement_; }
+  QString Statement() const { return error_ ? error_->Statement() : QString(); }
   // "-2147217873 - duplicate key ...": number, " - ", description.
   QString NumberAndDescription() const;
   // "Error: " before it.
@@ -26,6 +23,5 @@ class StatementReport {
 
  private:
   QString label_;
-  QString statement_;
   std::optional<AdoError> error_;
 };

@@ -71,8 +71,8 @@ ServerConnection::Columns frmAPIServerConnection::Values() const {
   // The URL goes into its literal as it stands. One that breaks the statement is refused by Connection before anything
   // is sent.
   const QString url = txtAPIURL->Text().isEmpty() ? QString("Null") : "N'" + txtAPIURL->Text() + "'";
-  return {{"API_ILS_SYSTEM", Sql::National(CodeLists::CodeOnShow(*cmbILSSystem))},
-          {"API_CONNECT_TYPE", Sql::National(CodeLists::CodeOnShow(*cmbConnect))},
+  return {{"API_ILS_SYSTEM", Sql::National(cmbILSSystem->Code())},
+          {"API_CONNECT_TYPE", Sql::National(cmbConnect->Code())},
           {"API_HOST_ADDRESS", Sql::National(txtServerAddress->Text())},
           {"API_HOST_URL", url},
           {"API_HOST_PORT", txtPort->Text()},

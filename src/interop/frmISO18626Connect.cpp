@@ -2,8 +2,6 @@
 
 #include <QApplication>
 
-#include "core/ModuleState.h"
-#include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "interop/CodeLists.h"
 #include "interop/ISO18626Record.h"
@@ -27,31 +25,20 @@ QString OfConnection(const QString& id) {
 
 // --- Frames ---
 
-void frmISO18626Connect::Run(const QString& procedure, const QString& failed,
-                             const std::function<void(StatementReport&)>& body) {
+void frmISO18626Connect::Run(const QString& procedure, const QString& failed, const std::function<void()>& body) {
   StatementReport report;
-  if (report.Try([&] { body(report); })) return;
+  if (report.Try(body)) return;
   if (gclsOF->Tracing()) {
     const QString statement =
         report.Label().isEmpty() ? QString() : report.Label() + " --- SQL Query: " + report.Statement() + "\n\n";
     gclsOF->WriteLog(objectName() + "." + procedure + " - Failed.", statement + report.ErrorText(), "L");
   }
   lblProcessing->hide();
-  Tell(failed, MessageStyle::Stop);
+  Tell(this, failed, MessageStyle::Stop);
 }
 
 void frmISO18626Connect::Log(const QString& procedure, const QString& text) const {
   if (gclsOF->Tracing()) gclsOF->WriteLog(objectName() + "." + procedure + text, {}, "L");
-}
-
-int frmISO18626Connect::Tell(const QString& text, int style) {
-  return ShowMessage(text, style, Caption(), {}, this);
-}
-
-bool frmISO18626Connect::Refuse(const QString& text, QWidget* focus) {
-  Tell(text, MessageStyle::Warning);
-  focus->setFocus(Qt::OtherFocusReason);
-  return false;
 }
 
 void frmISO18626Connect::ShowProcessing(const QString& text) {
@@ -66,12 +53,14 @@ void frmISO18626Connect::ShowProcessing(const QString& text) {
 
 void frmISO18626Connect::Form_Load() {
   cmdSelect->setVisible(gbISO18626SelectionMode);
+  ShowRecordState();
+  cmdAdd->setEnabled(rights_.add);
   PopulateComboBoxes();
   PopulateISOConnectionData(gstrISO18626ConnectionId);
 }
 
 void frmISO18626Connect::Form_Activate() {
-  if (!cmdDelete->isEnabled()) txtConnectionID->setFocus(Qt::OtherFocusReason);
+  if (!record_.MayBeWritten()) txtConnectionID->setFocus(Qt::OtherFocusReason);
 }
 
 bool frmISO18626Connect::Form_Unload() {
@@ -80,19 +69,19 @@ bool frmISO18626Connect::Form_Unload() {
 }
 
 void frmISO18626Connect::PopulateComboBoxes() {
-  const auto fill = [](StatementReport& report, CodeComboBox* box, const QString& code) {
+  const auto fill = [](CodeComboBox* box, const QString& code) {
     const QString table = "ID_" + code;
     CodeLists::FillSorted(*box,
-                          report.Note("SELECT   " + code + ", " + CodeLists::DescriptionColumn(code) + " FROM " +
-                                      Sql::Table(table) + " ORDER BY " + code + " "),
+                          "SELECT   " + code + ", " + CodeLists::DescriptionColumn(code) + " FROM " +
+                              Sql::Table(table) + " ORDER BY " + code + " ",
                           "***** SQL error on " + table + "  (Select) *****", code);
   };
   Run("PopulateComboBoxes", "An error has occurred loading from the database the information required by this Form.",
-      [&](StatementReport& report) {
-        fill(report, cmbILLSystem, "ILL_SYSTEM");
-        fill(report, cmbVersion, "ISO18626_VERSION");
-        fill(report, cmbAuthType, "ISO18626_AUTHN_TYPE");
-        fill(report, cmbConnectionType, "ISO18626_CONNECT_TYPE");
+      [&] {
+        fill(cmbILLSystem, "ILL_SYSTEM");
+        fill(cmbVersion, "ISO18626_VERSION");
+        fill(cmbAuthType, "ISO18626_AUTHN_TYPE");
+        fill(cmbConnectionType, "ISO18626_CONNECT_TYPE");
       });
 }
 
@@ -100,20 +89,20 @@ void frmISO18626Connect::PopulateISOConnectionData(const QString& id) {
   Run("PopulateISOConnectionData",
       "An error has occurred loading from the database the data of the ISO 18626 Connection Ids. Please Notify "
       "Support.",
-      [&](StatementReport& report) {
+      [&] {
         const QString system = CodeLists::DescriptionColumn("ILL_SYSTEM");
         const QString authentication = CodeLists::DescriptionColumn("ISO18626_AUTHN_TYPE");
         Recordset rows;
         OpenRows(rows,
-                 report.Note("SELECT DISTINCT C.ISO18626_CONNECTION_ID, C.ISO18626_HOST_ADDRESS, SY.ILL_SYSTEM, SY." +
-                             system + ", A.ISO18626_AUTHN_TYPE, A." + authentication + " FROM " +
-                             Sql::Table("ID_ISO18626_CONNECT") + " C INNER JOIN " + Sql::Table("ID_ILL_SYSTEM") +
-                             " SY ON C.ILL_SYSTEM = SY.ILL_SYSTEM INNER JOIN " + Sql::Table("ID_ISO18626_AUTHN_TYPE") +
-                             " A ON C.ISO18626_AUTHN_TYPE = A.ISO18626_AUTHN_TYPE ORDER BY C.ISO18626_CONNECTION_ID "),
+                 "SELECT DISTINCT C.ISO18626_CONNECTION_ID, C.ISO18626_HOST_ADDRESS, SY.ILL_SYSTEM, SY." + system +
+                     ", A.ISO18626_AUTHN_TYPE, A." + authentication + " FROM " + Sql::Table("ID_ISO18626_CONNECT") +
+                     " C INNER JOIN " + Sql::Table("ID_ILL_SYSTEM") +
+                     " SY ON C.ILL_SYSTEM = SY.ILL_SYSTEM INNER JOIN " + Sql::Table("ID_ISO18626_AUTHN_TYPE") +
+                     " A ON C.ISO18626_AUTHN_TYPE = A.ISO18626_AUTHN_TYPE ORDER BY C.ISO18626_CONNECTION_ID ",
                  "***** SQL error on ID_ISO18626_CONNECT, ID_LIBRARY, ID_SUPPLIER (Select) *****");
         grdISO18626Connections->Clear();
         ClearData();
-        EnableRecordButtons(false);
+        record_.Gone();
         grdISO18626Connections->BeginLoad();
         for (; !rows.EOF_(); rows.MoveNext())
           grdISO18626Connections->LoadRow({Value(rows, "ISO18626_CONNECTION_ID"), Value(rows, system),
@@ -135,8 +124,8 @@ void frmISO18626Connect::grdISO18626Connections_SelChange() {
   mstrConnectionId = grdISO18626Connections->Text(row, ConnectionId);
   txtConnectionID->setEnabled(false);
   cmdAdd->setEnabled(false);
-  // On again when the record is on the screen: another one must not be saved under this id.
-  EnableRecordButtons(false);
+  // Until its record is on the screen: another one must not be saved under this id.
+  record_.Gone();
   GetConnectionIdData(mstrConnectionId);
 }
 
@@ -144,13 +133,16 @@ void frmISO18626Connect::NoSelection() {
   grdISO18626Connections->SetRowQuietly(0);
   mstrConnectionId.clear();
   ClearData();
-  EnableRecordButtons(false);
+  record_.Gone();
   txtConnectionID->setEnabled(true);
-  cmdAdd->setEnabled(true);
+  cmdAdd->setEnabled(rights_.add);
 }
 
-void frmISO18626Connect::EnableRecordButtons(bool enabled) {
-  for (QPushButton* button : {cmdUpdate, cmdSelect, cmdDelete}) button->setEnabled(enabled);
+void frmISO18626Connect::ShowRecordState() {
+  const bool whole = record_.MayBeWritten();
+  cmdUpdate->setEnabled(whole && rights_.update);
+  cmdDelete->setEnabled(whole && rights_.remove);
+  cmdSelect->setEnabled(whole);
 }
 
 void frmISO18626Connect::btnClear_Click() {
@@ -161,18 +153,18 @@ void frmISO18626Connect::btnClear_Click() {
 void frmISO18626Connect::GetConnectionIdData(const QString& id) {
   Run("GetConnectionIdData",
       "An error has occurred loading the data of the ISO 18626 Connection Id: '" + id + "'. Please Notify Support.",
-      [&](StatementReport& report) {
+      [&] {
         Recordset rows;
-        OpenRows(rows, report.Note("SELECT * FROM " + Sql::Table("ID_ISO18626_CONNECT") + " " + OfConnection(id)),
-                 ConnectSelect);
+        OpenRows(rows, "SELECT * FROM " + Sql::Table("ID_ISO18626_CONNECT") + " " + OfConnection(id), ConnectSelect);
         if (rows.EOF_()) {
-          Tell("Unable to find the data of the ISO 18626 Connection Id: '" + id + "'", MessageStyle::Warning);
+          Tell(this, "Unable to find the data of the ISO 18626 Connection Id: '" + id + "'", MessageStyle::Warning);
           ClearData();
-          EnableRecordButtons(false);
           return;
         }
+        Record::Reading reading(record_);
+        reading.Replaces();
         ShowRecord(rows);
-        EnableRecordButtons(true);
+        reading.Ended();
       });
 }
 
@@ -234,32 +226,47 @@ void frmISO18626Connect::chkPatronInfo_Click() {
 
 // --- Add ---
 
+namespace {
+
+// The first entry stands for none; so does a list that could not be filled.
+bool IsChosen(const CodeComboBox& list) {
+  return list.Index() != 0 && list.Chosen().has_value();
+}
+
+}  // namespace
+
 bool frmISO18626Connect::ValidateConnectionData() {
-  if (txtConnectionID->Trimmed().isEmpty()) return Refuse("The Connection Id is required.", txtConnectionID);
-  if (cmbILLSystem->Index() == 0)
-    return Refuse("The ILL System is required. Please select a valid value", cmbILLSystem);
-  if (cmbVersion->Index() == 0)
-    return Refuse("The Protocol Version is required. Please select a valid value", cmbVersion);
-  if (cmbAuthType->Index() == 0)
-    return Refuse("The Authentication Type is required. Please select a valid value", cmbAuthType);
-  if (cmbConnectionType->Index() == 0)
-    return Refuse("The Connection Type is required. Please select a valid value", cmbConnectionType);
-  if (txtHostAddress->Trimmed().isEmpty()) return Refuse("The Host Address is required.", txtHostAddress);
+  if (txtConnectionID->Trimmed().isEmpty())
+    return Refuse(this, "The Connection Id is required.", MessageStyle::Warning, txtConnectionID);
+  if (!IsChosen(*cmbILLSystem))
+    return Refuse(this, "The ILL System is required. Please select a valid value", MessageStyle::Warning, cmbILLSystem);
+  if (!IsChosen(*cmbVersion))
+    return Refuse(this, "The Protocol Version is required. Please select a valid value", MessageStyle::Warning,
+                  cmbVersion);
+  if (!IsChosen(*cmbAuthType))
+    return Refuse(this, "The Authentication Type is required. Please select a valid value", MessageStyle::Warning,
+                  cmbAuthType);
+  if (!IsChosen(*cmbConnectionType))
+    return Refuse(this, "The Connection Type is required. Please select a valid value", MessageStyle::Warning,
+                  cmbConnectionType);
+  if (txtHostAddress->Trimmed().isEmpty())
+    return Refuse(this, "The Host Address is required.", MessageStyle::Warning, txtHostAddress);
   // The caret goes to the address, not to the port.
-  if (txtPort->Trimmed().isEmpty()) return Refuse("The Host Port is required.", txtHostAddress);
+  if (txtPort->Trimmed().isEmpty())
+    return Refuse(this, "The Host Port is required.", MessageStyle::Warning, txtHostAddress);
   return true;
 }
 
 ISO18626Record frmISO18626Connect::RecordOnScreen(const QString& id) const {
   ISO18626Record record;
   record.id = id;
-  record.illSystem = CodeLists::CodeOnShow(*cmbILLSystem);
-  record.connectType = CodeLists::CodeOnShow(*cmbConnectionType);
+  record.illSystem = cmbILLSystem->Code();
+  record.connectType = cmbConnectionType->Code();
   record.hostAddress = txtHostAddress->Trimmed();
   record.hostUrl = txtUrl->Trimmed();
   record.hostPort = txtPort->Text();
-  record.version = CodeLists::CodeOnShow(*cmbVersion);
-  record.authnType = CodeLists::CodeOnShow(*cmbAuthType);
+  record.version = cmbVersion->Code();
+  record.authnType = cmbAuthType->Code();
   record.retry = chkRetryEnabled->isChecked();
   record.transfer = chkTransferEnabled->isChecked();
   record.patronInfo = chkPatronInfo->isChecked();
@@ -273,52 +280,50 @@ ISO18626Record frmISO18626Connect::RecordOnScreen(const QString& id) const {
   return record;
 }
 
-bool frmISO18626Connect::IsTaken(const QString& id, StatementReport& report) const {
+bool frmISO18626Connect::IsTaken(const QString& id) const {
   bool found = false;
-  FirstValue(
-      report.Note("SELECT ISO18626_CONNECTION_ID FROM " + Sql::Table("ID_ISO18626_CONNECT") + " " + OfConnection(id)),
-      ConnectSelect, &found);
+  FirstValue("SELECT ISO18626_CONNECTION_ID FROM " + Sql::Table("ID_ISO18626_CONNECT") + " " + OfConnection(id),
+             ConnectSelect, &found);
   return found;
 }
 
 void frmISO18626Connect::cmdAdd_Click() {
   const QString procedure = "cmdAdd_Click";
-  Run(procedure, "An error has occurred trying to add the ISO 18626 Connection Id. Please Notify Support.",
-      [&](StatementReport& report) {
-        Log(procedure, " - Validating data for adding the new Connection Id");
-        if (!ValidateConnectionData()) return;
-        const QString id = txtConnectionID->Trimmed();
-        if (IsTaken(id, report)) {
-          Refuse(
-              "The ISO 18626 Connection Id entered already exists. Please enter a different Connection Id and try "
-              "again.",
-              txtConnectionID);
-          Log(procedure, " - No record added. The Connection Id already existed");
-          return;
-        }
-        Log(procedure, " - Adding the ISO 18626 Connection Id: '" + id + "'");
-        const QString insert = report.Note(RecordOnScreen(id).Insert());
-        ShowProcessing("Adding the new Connection Id...");
-        if (Execute(insert, ConnectInsert) == 1) {
-          PopulateISOConnectionData(id);
-          lblProcessing->hide();
-          Log(procedure, " - Connection Id: '" + id + "' successfully added");
-          TellAdded(id);
-          return;
-        }
-        lblProcessing->hide();
-        Log(procedure, " - Error trying to insert the Connection Id: '" + id +
-                           "' into the table ID_ISO18626_CONNECT. No record was inserted.");
-        Tell("Unexpected error trying to add the ISO 18626 Connection Id. Please try again later",
-             MessageStyle::Information);
-      });
+  Run(procedure, "An error has occurred trying to add the ISO 18626 Connection Id. Please Notify Support.", [&] {
+    Log(procedure, " - Validating data for adding the new Connection Id");
+    if (!ValidateConnectionData()) return;
+    const QString id = txtConnectionID->Trimmed();
+    if (IsTaken(id)) {
+      Refuse(this,
+             "The ISO 18626 Connection Id entered already exists. Please enter a different Connection Id and try "
+             "again.",
+             MessageStyle::Warning, txtConnectionID);
+      Log(procedure, " - No record added. The Connection Id already existed");
+      return;
+    }
+    Log(procedure, " - Adding the ISO 18626 Connection Id: '" + id + "'");
+    const QString insert = RecordOnScreen(id).Insert();
+    ShowProcessing("Adding the new Connection Id...");
+    if (Execute(insert, ConnectInsert) == 1) {
+      PopulateISOConnectionData(id);
+      lblProcessing->hide();
+      Log(procedure, " - Connection Id: '" + id + "' successfully added");
+      TellAdded(id);
+      return;
+    }
+    lblProcessing->hide();
+    Log(procedure, " - Error trying to insert the Connection Id: '" + id +
+                       "' into the table ID_ISO18626_CONNECT. No record was inserted.");
+    Tell(this, "Unexpected error trying to add the ISO 18626 Connection Id. Please try again later",
+         MessageStyle::Information);
+  });
 }
 
 void frmISO18626Connect::TellAdded(const QString& id) {
   const QString added = "ISO 18626 Connection Id: '" + id + "' successfully added";
   if (gbISO18626SelectionMode) {
-    Tell(added, MessageStyle::Information);
-  } else if (Tell(added + "\nAdd another Connection Id?", MessageStyle::Question) == MessageAnswer::Yes) {
+    Tell(this, added, MessageStyle::Information);
+  } else if (Tell(this, added + "\nAdd another Connection Id?", MessageStyle::Question) == MessageAnswer::Yes) {
     btnClear_Click();
   }
 }
@@ -327,61 +332,59 @@ void frmISO18626Connect::TellAdded(const QString& id) {
 
 void frmISO18626Connect::cmdUpdate_Click() {
   const QString procedure = "cmdUpdate_Click";
-  Run(procedure, "An error has occurred trying to update the ISO 18626 Connection Id. Please Notify Support.",
-      [&](StatementReport& report) {
-        Log(procedure, " - Validating data for updating the Connection Id");
-        if (!ValidateConnectionData()) return;
-        const QString id = mstrConnectionId;
-        if (id.trimmed().isEmpty()) {
-          Tell("No Connection Id has been selected. Please select on the Grid the Connection Id that will be updated.",
-               MessageStyle::Warning);
-          return;
-        }
-        Log(procedure, " - Updating the ISO 18626 Connection Id: '" + id + "'");
-        if (Execute(report.Note(RecordOnScreen(id).Update()), ConnectUpdate) != 1) {
-          Log(procedure, " - Error trying to update the Connection Id: '" + id + "'. No record was updated.");
-          Tell("Unexpected error trying to update the ISO 18626 Connection Id. Please try again later",
-               MessageStyle::Information);
-          return;
-        }
-        Log(procedure, " - Connection Id: '" + id + "' successfully updated");
-        txtConnectionID->SetText(id);
-        // The row stays where it stands; nothing is read again.
-        const int row = grdISO18626Connections->Row();
-        grdISO18626Connections->SetText(row, IllSystem, cmbILLSystem->Text());
-        grdISO18626Connections->SetText(row, AuthnType, cmbAuthType->Text());
-        grdISO18626Connections->SetText(row, HostAddress, txtHostAddress->Trimmed());
-        Tell("ISO 18626 Connection Id '" + id + "' successfully updated", MessageStyle::Information);
-      });
+  Run(procedure, "An error has occurred trying to update the ISO 18626 Connection Id. Please Notify Support.", [&] {
+    Log(procedure, " - Validating data for updating the Connection Id");
+    if (!ValidateConnectionData()) return;
+    const QString id = mstrConnectionId;
+    if (id.trimmed().isEmpty()) {
+      Tell(this,
+           "No Connection Id has been selected. Please select on the Grid the Connection Id that will be updated.",
+           MessageStyle::Warning);
+      return;
+    }
+    Log(procedure, " - Updating the ISO 18626 Connection Id: '" + id + "'");
+    if (Execute(RecordOnScreen(id).Update(), ConnectUpdate) != 1) {
+      Log(procedure, " - Error trying to update the Connection Id: '" + id + "'. No record was updated.");
+      Tell(this, "Unexpected error trying to update the ISO 18626 Connection Id. Please try again later",
+           MessageStyle::Information);
+      return;
+    }
+    Log(procedure, " - Connection Id: '" + id + "' successfully updated");
+    txtConnectionID->SetText(id);
+    // The row stays where it stands; nothing is read again.
+    const int row = grdISO18626Connections->Row();
+    grdISO18626Connections->SetText(row, IllSystem, cmbILLSystem->Text());
+    grdISO18626Connections->SetText(row, AuthnType, cmbAuthType->Text());
+    grdISO18626Connections->SetText(row, HostAddress, txtHostAddress->Trimmed());
+    Tell(this, "ISO 18626 Connection Id '" + id + "' successfully updated", MessageStyle::Information);
+  });
 }
 
 // --- Delete ---
 
-bool frmISO18626Connect::IsReferenced(const QString& id, StatementReport& report) const {
+bool frmISO18626Connect::IsReferenced(const QString& id) const {
   bool found = false;
-  FirstValue(report.Note("SELECT TOP 1 LIBRARY_ID FROM " + Sql::Table("ID_LIBRARY") + " " + OfConnection(id)),
+  FirstValue("SELECT TOP 1 LIBRARY_ID FROM " + Sql::Table("ID_LIBRARY") + " " + OfConnection(id),
              "***** SQL error on ID_LIBRARY (Select) *****", &found);
   if (found) return true;
-  FirstValue(report.Note("SELECT TOP 1 SUPPLIER_CODE FROM " + Sql::Table("ID_SUPPLIER") + " " + OfConnection(id)),
+  FirstValue("SELECT TOP 1 SUPPLIER_CODE FROM " + Sql::Table("ID_SUPPLIER") + " " + OfConnection(id),
              "***** SQL error on ID_SUPPLIER (Select) *****", &found);
   return found;
 }
 
 // No transaction: references that were cleared stay so when the last statement fails.
-bool frmISO18626Connect::DeleteConnection(const QString& id, bool referenced, StatementReport& report) {
+bool frmISO18626Connect::DeleteConnection(const QString& id, bool referenced) {
   const Hourglass hourglass;
   ShowProcessing("Deleting the Connection Id...");
   Log("cmdDelete_Click", " - Deleting the Connection Id: '" + id + "'");
   if (referenced) {
     const QString clear = "SET ISO18626_CONNECTION_ID = NULL " + OfConnection(id);
-    Execute(report.Note("UPDATE " + Sql::Table("ID_LIBRARY") + " " + clear),
-            "***** SQL error on ID_LIBRARY (Update) *****");
+    Execute("UPDATE " + Sql::Table("ID_LIBRARY") + " " + clear, "***** SQL error on ID_LIBRARY (Update) *****");
     // The failure line names ID_LIBRARY here too; the log's readers know it so.
-    Execute(report.Note("UPDATE " + Sql::Table("ID_SUPPLIER") + " " + clear),
-            "***** SQL error on ID_LIBRARY (Update) *****");
+    Execute("UPDATE " + Sql::Table("ID_SUPPLIER") + " " + clear, "***** SQL error on ID_LIBRARY (Update) *****");
   }
   const qint64 deleted =
-      Execute(report.Note("DELETE FROM " + Sql::Table("ID_ISO18626_CONNECT") + " " + OfConnection(id)), ConnectDelete);
+      Execute("DELETE FROM " + Sql::Table("ID_ISO18626_CONNECT") + " " + OfConnection(id), ConnectDelete);
   if (deleted == 1) PopulateISOConnectionData({});
   lblProcessing->hide();
   return deleted == 1;
@@ -389,41 +392,42 @@ bool frmISO18626Connect::DeleteConnection(const QString& id, bool referenced, St
 
 void frmISO18626Connect::cmdDelete_Click() {
   const QString procedure = "cmdDelete_Click";
-  Run(procedure, "An error has occurred trying to delete the ISO 18626 Connection Id. Please Notify Support.",
-      [&](StatementReport& report) {
-        Log(procedure, " - Validating data for deleting the selected Connection Id");
-        const QString id = mstrConnectionId;  // the reload empties the other
-        if (id.trimmed().isEmpty()) {
-          Tell("No Connection Id has been selected. Please select on the Grid the Connection Id that will be deleted.",
-               MessageStyle::Warning);
-          return;
-        }
-        const bool referenced = IsReferenced(id, report);
-        if (referenced && Tell("The Connection Id: '" + id +
-                                   "' is associated to one or more Library and/or Supplier record(s).\nAre you sure "
-                                   "you want to delete this Connection Id?",
-                               MessageStyle::Warning | MessageStyle::YesNo) != MessageAnswer::Yes)
-          return;
-        if (!DeleteConnection(id, referenced, report)) {
-          Log(procedure, " - Error trying to delete the Connection Id: '" + id +
-                             "' from the table ID_ISO18626_CONNECT. No record was deleted.");
-          Tell("Unexpected error trying to delete the ISO 18626 Connection Id. Please try again later",
-               MessageStyle::Information);
-          return;
-        }
-        Log(procedure, " - Connection Id: '" + id + "' successfully deleted");
-        Tell("ISO 18626 Connection Id: '" + id + "' successfully deleted", MessageStyle::Information);
-        NoSelection();
-        // A caller does not take a dead id back.
-        if (gstrISO18626ConnectionId == id) gstrISO18626ConnectionId.clear();
-      });
+  Run(procedure, "An error has occurred trying to delete the ISO 18626 Connection Id. Please Notify Support.", [&] {
+    Log(procedure, " - Validating data for deleting the selected Connection Id");
+    const QString id = mstrConnectionId;  // the reload empties the other
+    if (id.trimmed().isEmpty()) {
+      Tell(this,
+           "No Connection Id has been selected. Please select on the Grid the Connection Id that will be deleted.",
+           MessageStyle::Warning);
+      return;
+    }
+    const bool referenced = IsReferenced(id);
+    if (referenced && Tell(this,
+                           "The Connection Id: '" + id +
+                               "' is associated to one or more Library and/or Supplier record(s).\nAre you sure "
+                               "you want to delete this Connection Id?",
+                           MessageStyle::Warning | MessageStyle::YesNo) != MessageAnswer::Yes)
+      return;
+    if (!DeleteConnection(id, referenced)) {
+      Log(procedure, " - Error trying to delete the Connection Id: '" + id +
+                         "' from the table ID_ISO18626_CONNECT. No record was deleted.");
+      Tell(this, "Unexpected error trying to delete the ISO 18626 Connection Id. Please try again later",
+           MessageStyle::Information);
+      return;
+    }
+    Log(procedure, " - Connection Id: '" + id + "' successfully deleted");
+    Tell(this, "ISO 18626 Connection Id: '" + id + "' successfully deleted", MessageStyle::Information);
+    NoSelection();
+    // A caller does not take a dead id back.
+    if (gstrISO18626ConnectionId == id) gstrISO18626ConnectionId.clear();
+  });
 }
 
 // --- The picker ---
 
 void frmISO18626Connect::cmdSelect_Click() {
   if (mstrConnectionId.trimmed().isEmpty()) {
-    Tell("Please select an ISO 18626 Connection Id.", MessageStyle::Warning);
+    Tell(this, "Please select an ISO 18626 Connection Id.", MessageStyle::Warning);
     return;
   }
   gstrISO18626ConnectionId = mstrConnectionId;

@@ -2,6 +2,8 @@
 
 #include <QCheckBox>
 
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -10,7 +12,6 @@
 
 class Recordset;
 struct ISO18626Record;
-class StatementReport;
 
 // The connections to ISO 18626 partners. A maintenance screen when it is opened from the main screen; opened from the
 // contact screen (gbISO18626SelectionMode) also a picker, whose choice goes back in gstrISO18626ConnectionId.
@@ -44,7 +45,7 @@ class frmISO18626Connect : public Screen {
   // --- The two states: a row of the grid is selected, or none is ---
   void grdISO18626Connections_SelChange();
   void NoSelection();
-  void EnableRecordButtons(bool enabled);
+  void ShowRecordState();
   void ClearData();
   void chkTransferEnabled_Click();
   void chkPatronInfo_Click();
@@ -52,11 +53,11 @@ class frmISO18626Connect : public Screen {
   // --- Writing ---
   bool ValidateConnectionData();
   ISO18626Record RecordOnScreen(const QString& id) const;
-  bool IsTaken(const QString& id, StatementReport& report) const;
+  bool IsTaken(const QString& id) const;
   // True when a library or a supplier refers to the connection.
-  bool IsReferenced(const QString& id, StatementReport& report) const;
+  bool IsReferenced(const QString& id) const;
   // True when exactly one record went.
-  bool DeleteConnection(const QString& id, bool referenced, StatementReport& report);
+  bool DeleteConnection(const QString& id, bool referenced);
   void TellAdded(const QString& id);
   void cmdAdd_Click();
   void cmdUpdate_Click();
@@ -66,13 +67,13 @@ class frmISO18626Connect : public Screen {
 
   // --- Frames ---
   // Runs a procedure; a failure is logged with its statement and told in these words.
-  void Run(const QString& procedure, const QString& failed, const std::function<void(StatementReport&)>& body);
+  void Run(const QString& procedure, const QString& failed, const std::function<void()>& body);
   // A line of the detailed log.
   void Log(const QString& procedure, const QString& text) const;
-  int Tell(const QString& text, int style);
-  bool Refuse(const QString& text, QWidget* focus);
   void ShowProcessing(const QString& text);
 
+  const FunctionRights rights_ = gclsOF->Rights();
+  Record record_;            // the connection in the fields
   QString mstrConnectionId;  // of the row selected; empty when none is
 
   TextBox* const txtConnectionID = new TextBox(this, "txtConnectionID", 50);

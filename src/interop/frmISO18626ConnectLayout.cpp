@@ -79,6 +79,7 @@ QWidget* frmISO18626Connect::Buttons() {
 }
 
 void frmISO18626Connect::ConnectControls() {
+  record_.Observe([this] { ShowRecordState(); });
   connect(grdISO18626Connections, &Grid::SelChange, this, &frmISO18626Connect::grdISO18626Connections_SelChange);
   connect(chkTransferEnabled, &QCheckBox::clicked, this, &frmISO18626Connect::chkTransferEnabled_Click);
   connect(chkPatronInfo, &QCheckBox::clicked, this, &frmISO18626Connect::chkPatronInfo_Click);

@@ -3,8 +3,6 @@
 
 #include <QScopedValueRollback>
 
-#include "core/ModuleState.h"
-#include "core/OstanaFunctions.h"
 #include "interop/CodeLists.h"
 #include "shell/Messages.h"
 #include "shell/Procedure.h"
@@ -15,18 +13,8 @@ void frmNCIPProfile::Run(const QString& handler, const std::function<void()>& bo
   Procedure("frmNCIPProfile." + handler, this).OnFailure(Texts::NotifySupport).Run(body);
 }
 
-int frmNCIPProfile::Tell(const QString& text, int style) {
-  return ShowMessage(text, style, Caption(), {}, this);
-}
-
-bool frmNCIPProfile::Refuse(const QString& text, QWidget* focus) {
-  Tell(text, MessageStyle::Stop);
-  focus->setFocus(Qt::OtherFocusReason);
-  return false;
-}
-
 void frmNCIPProfile::MarkChanged() {
-  if (!mbLoading) mbProfileChanged = true;
+  if (!mbLoading) profile_.Touched();
 }
 
 // --- Showing ---
@@ -41,7 +29,7 @@ void frmNCIPProfile::ShowRow(int row) {
   const auto yes = [&](Column column) { return grdNCIPProfile->Text(row, column) == "Yes"; };
   copy_->Show({yes(AllowCopy), yes(SelectCopy), codes[MethodCopy], codes[AddressCopy]});
   loan_->Show({yes(AllowLoan), yes(SelectLoan), codes[MethodLoan], codes[AddressLoan]});
-  mbProfileChanged = false;
+  profile_.Shown();
 }
 
 void frmNCIPProfile::ShowCleared() {
@@ -53,6 +41,9 @@ void frmNCIPProfile::ShowCleared() {
   CodeLists::ShowCode(*cmbMessageFormat, mstrDefaultMsgFormat);
   copy_->Clear();
   loan_->Clear();
+  grdNCIPProfile->SetRowQuietly(0);
+  keyOnShow_ = 0;
+  profile_.Gone();
 }
 
 QStringList frmNCIPProfile::CellsOnScreen() const {
@@ -74,7 +65,7 @@ QStringList frmNCIPProfile::CellsOnScreen() const {
 
 frmNCIPProfile::Codes frmNCIPProfile::CodesOnScreen() const {
   Codes codes;
-  for (const List& list : lists_) codes[list.column] = CodeLists::CodeOnShow(*list.box);
+  for (const List& list : lists_) codes[list.column] = list.box->Code();
   const DeliveryChoice::Values copy = copy_->OnScreen(), loan = loan_->OnScreen();
   codes[MethodCopy] = copy.method;
   codes[AddressCopy] = copy.address;
@@ -91,8 +82,10 @@ bool frmNCIPProfile::Validate(bool adding) {
   copy_->TrimAddress();
   loan_->TrimAddress();
   const auto texts = [this] {
-    if (txtProfileCode->Text().isEmpty()) return Refuse("Profile Code is a required field.", txtProfileCode);
-    if (txtDescription->Text().isEmpty()) return Refuse("Description is a required field.", txtDescription);
+    if (txtProfileCode->Text().isEmpty())
+      return Refuse(this, "Profile Code is a required field.", MessageStyle::Stop, txtProfileCode);
+    if (txtDescription->Text().isEmpty())
+      return Refuse(this, "Description is a required field.", MessageStyle::Stop, txtDescription);
     return true;
   };
   const auto copyMethod = [this] {
@@ -108,13 +101,13 @@ bool frmNCIPProfile::Validate(bool adding) {
 }
 
 bool frmNCIPProfile::MethodIsGiven(const DeliveryChoice* choice, const QString& refusal) {
-  return !choice->MethodIsMissing() || Refuse(refusal, choice->MethodBox());
+  return !choice->MethodIsMissing() || Refuse(this, refusal, MessageStyle::Stop, choice->MethodBox());
 }
 
 bool frmNCIPProfile::AddressIsGood(const DeliveryChoice* choice) {
   QString reason;
   return choice->AddressIsValid(reason) ||
-         Refuse("The Delivery Address is not valid.\n\n" + reason, choice->AddressBox());
+         Refuse(this, "The Delivery Address is not valid.\n\n" + reason, MessageStyle::Stop, choice->AddressBox());
 }
 
 // --- Editing the list ---
@@ -124,7 +117,7 @@ void frmNCIPProfile::cmdAdd_Click() {
     if (!Validate(true)) return;
     const QString code = txtProfileCode->Text();
     if (grdNCIPProfile->FindRow(code, ProfileCode) > 0) {
-      Refuse("NCIP Profile Code: " + code + " is already in the grid.", txtProfileCode);
+      Refuse(this, "NCIP Profile Code: " + code + " is already in the grid.", MessageStyle::Stop, txtProfileCode);
       return;
     }
     const int row = AddRow(CellsOnScreen(), CodesOnScreen());
@@ -134,12 +127,13 @@ void frmNCIPProfile::cmdAdd_Click() {
   });
 }
 
+// On a cleared screen no row is on show, and none is written.
 void frmNCIPProfile::cmdUpdate_Click() {
-  if (grdNCIPProfile->Rows() == 1) {
-    Tell("There are currently no rows to Update.", MessageStyle::Stop);
+  if (RowOnShow() == 0) {
+    Tell(this, "There are currently no rows to Update.", MessageStyle::Stop);
     return;
   }
-  Run("cmdUpdate_Click", [this] { UpdateCurrentRow(grdNCIPProfile->Row()); });
+  Run("cmdUpdate_Click", [this] { UpdateCurrentRow(RowOnShow()); });
 }
 
 // Another row may hold the same code already; the write on closing then fails.
@@ -148,14 +142,14 @@ void frmNCIPProfile::UpdateCurrentRow(int row) {
   const QStringList cells = CellsOnScreen();
   for (int index = 0; index < cells.size(); ++index) grdNCIPProfile->SetText(row, ProfileCode + index, cells[index]);
   codes_[grdNCIPProfile->RowData(row)] = CodesOnScreen();
-  mbProfileChanged = false;
+  profile_.Settled();
   gbSettingsChanged = true;
 }
 
 void frmNCIPProfile::cmdDelete_Click() {
   const int row = grdNCIPProfile->Row();
   if (row < 1) {
-    Refuse("Please select a row to delete.", grdNCIPProfile);
+    Refuse(this, "Please select a row to delete.", MessageStyle::Stop, grdNCIPProfile);
     return;
   }
   codes_.erase(grdNCIPProfile->RowData(row));
@@ -166,14 +160,12 @@ void frmNCIPProfile::cmdDelete_Click() {
   } else {
     ShowCleared();
   }
-  mbProfileChanged = false;
   gbSettingsChanged = true;
 }
 
 bool frmNCIPProfile::UpdateIsWanted() {
-  return gclsOF->CanUpdate() && gclsOF->LibraryId() >= 1 && mbProfileChanged &&
-         Tell("This profile has been updated.\nDo you wish to apply the updates before continuing?",
-              MessageStyle::Question) == MessageAnswer::Yes;
+  return list_.MayBeWritten() && rights_.update && gclsOF->LibraryId() >= 1 && mbProfileChanged() &&
+         Confirm(this, "This profile has been updated.\nDo you wish to apply the updates before continuing?");
 }
 
 void frmNCIPProfile::grdNCIPProfile_SelChange() {
@@ -181,15 +173,23 @@ void frmNCIPProfile::grdNCIPProfile_SelChange() {
   Run("grdNCIPProfile_SelChange", [this] {
     // The row that is left, not the one that was chosen.
     const int left = RowOnShow();
-    if (UpdateIsWanted() && left > 0) UpdateCurrentRow(left);
+    if (UpdateIsWanted()) {
+      if (left == 0) {
+        // What was typed on the cleared screen waits there for Add.
+        Tell(this, "There are currently no rows to Update.", MessageStyle::Stop);
+        grdNCIPProfile->SetRowQuietly(0);
+        return;
+      }
+      UpdateCurrentRow(left);
+    }
     if (grdNCIPProfile->Row() > 0) ShowRow(grdNCIPProfile->Row());
-    mbProfileChanged = false;
+    profile_.Settled();
   });
 }
 
 void frmNCIPProfile::cmdClear_Click() {
   if (UpdateIsWanted()) cmdUpdate_Click();
-  if (Tell("Are you sure you wish to clear the screen?", MessageStyle::Question) == MessageAnswer::Yes) ShowCleared();
-  mbProfileChanged = false;
+  if (Confirm(this, "Are you sure you wish to clear the screen?")) ShowCleared();
+  profile_.Settled();
   gbSettingsChanged = true;
 }

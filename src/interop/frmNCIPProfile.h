@@ -3,6 +3,8 @@
 #include <array>
 #include <map>
 
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "interop/DeliveryChoice.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -83,11 +85,15 @@ class frmNCIPProfile : public Screen {
 
   // --- Frames ---
   void Run(const QString& handler, const std::function<void()>& body);
-  int Tell(const QString& text, int style);
-  bool Refuse(const QString& text, QWidget* focus);
+  void ApplyRights();
 
-  bool mbLoading = false;         // code fills the controls
-  bool mbProfileChanged = false;  // the row on screen has been edited
+  // The profile on screen has been edited.
+  bool mbProfileChanged() const { return profile_.Modified(); }
+
+  const FunctionRights rights_ = gclsOF->Rights();
+  Record list_;            // the rows of the table in the grid
+  Record profile_;         // the one in the controls
+  bool mbLoading = false;  // code fills the controls
   const QString mstrDefaultFileFormat = "P";
   const QString mstrDefaultMsgFormat = "T";
   std::map<qint64, Codes> codes_;  // by the number kept with a grid row

@@ -1,8 +1,6 @@
 // The profile list: read from the table into the grid, and written back when the screen closes.
 #include <QScopedValueRollback>
 
-#include "core/ModuleState.h"
-#include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "interop/CodeLists.h"
 #include "interop/ListRewrite.h"
@@ -30,14 +28,26 @@ void frmNCIPProfile::Form_Load() {
   Procedure("frmNCIPProfile.ReadOstanaInfo", this)
       .OnFailure("An error has occurred loading the form.  Please Notify Support.")
       .Run([this] { ReadOstanaInfo(); });
-  mbProfileChanged = false;
+  ApplyRights();
   txtProfileCode->setFocus(Qt::OtherFocusReason);
 }
 
+// A list that was not read whole can be looked at and left, and nothing else.
+void frmNCIPProfile::ApplyRights() {
+  const bool whole = list_.MayBeWritten();
+  cmdAdd->setEnabled(whole && rights_.add);
+  cmdUpdate->setEnabled(whole && rights_.update);
+  cmdDelete->setEnabled(whole && rights_.remove);
+  cmdClear->setEnabled(whole && rights_.update && rights_.remove);
+}
+
 void frmNCIPProfile::ReadOstanaInfo() {
+  Record::Reading reading(list_);
+  reading.Replaces();
   grdNCIPProfile->Clear();
   FillLists();
   ReadProfiles();
+  reading.Ended();
   if (grdNCIPProfile->Rows() == 1) return ShowCleared();
   grdNCIPProfile->SetRowQuietly(1);
   ShowRow(1);
@@ -121,8 +131,8 @@ int frmNCIPProfile::RowOnShow() const {
 
 void frmNCIPProfile::cmdClose_Click() {
   if (UpdateIsWanted()) cmdUpdate_Click();
-  mbProfileChanged = false;
-  if (!gbSettingsChanged) {
+  profile_.Settled();
+  if (!gbSettingsChanged || !list_.MayBeWritten()) {
     Unload();
     return;
   }
@@ -136,8 +146,8 @@ void frmNCIPProfile::cmdClose_Click() {
       "NCIP_DELIVERY_METHOD_L, NCIP_DELIVERY_ADDRESS_L, FILE_FORMAT, MSG_FORMAT, BILLING_TYPE, BILLING_RATE, LOAN_CODE",
       [this](int row) { return ValuesOf(row); }};
   StatementReport report;
-  if (report.Try([&] { list.Run(*grdNCIPProfile, report); })) {
-    Tell("Settings updated.", MessageStyle::Information);
+  if (report.Try([&] { list.Run(*grdNCIPProfile, list_); })) {
+    Tell(this, "Settings updated.", MessageStyle::Information);
     gbSettingsChanged = false;
     Unload();
     return;
@@ -146,7 +156,7 @@ void frmNCIPProfile::cmdClose_Click() {
       QStringList{"frmNCIPProfile.cmdClose_Click", report.Label(), report.Statement(), report.NumberAndDescription()}
           .join(" - "),
       {}, "S");
-  Tell("An error has occurred writing settings to the database.  Please check the log file for more information.",
+  Tell(this, "An error has occurred writing settings to the database.  Please check the log file for more information.",
        MessageStyle::Stop);
 }
 

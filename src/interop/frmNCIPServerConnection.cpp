@@ -129,8 +129,8 @@ QString frmNCIPServerConnection::ActiveMessages() const {
 
 ServerConnection::Columns frmNCIPServerConnection::Values() const {
   const auto optional = [](const TextBox* box) { return Sql::NationalOr(box->Text(), "Null"); };
-  return {{"NCIP_ILS_SYSTEM", Sql::National(CodeLists::CodeOnShow(*cmbNCIPSystem))},
-          {"NCIP_CONNECT_TYPE", Sql::National(CodeLists::CodeOnShow(*cmbConnect))},
+  return {{"NCIP_ILS_SYSTEM", Sql::National(cmbNCIPSystem->Code())},
+          {"NCIP_CONNECT_TYPE", Sql::National(cmbConnect->Code())},
           {"NCIP_HOST_ADDRESS", Sql::National(txtServerAddress->Text())},
           {"NCIP_HOST_URL", optional(txtNCIPURL)},
           {"NCIP_HOST_PORT", txtPort->Text()},

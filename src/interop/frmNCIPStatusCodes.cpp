@@ -65,7 +65,8 @@ void frmNCIPStatusCodes::ResetControls() {
 
 bool frmNCIPStatusCodes::CellsOnScreen(QStringList& cells, bool) {
   const QString code = txtNCIPStatusCode->TrimInPlace();
-  if (code.isEmpty()) return Refuse("NCIP Status Code is a required field.", txtNCIPStatusCode);
+  if (code.isEmpty())
+    return Refuse(this, "NCIP Status Code is a required field.", MessageStyle::Stop, txtNCIPStatusCode);
   cells = {code, rdAllowILL->IsSet(0) ? "Y" : "N"};
   return true;
 }

@@ -65,12 +65,14 @@ void frmNCIPUnitLibraryMapping::EmptyControls() {
 bool frmNCIPUnitLibraryMapping::CellsOnScreen(QStringList& cells, bool forUpdate) {
   const QString name = txtNCIPLibrary->TrimInPlace();
   const QString symbol = txtOstanaLibrary->TrimInPlace();
-  if (name.isEmpty()) return Refuse("NCIP Library is a required field.", txtNCIPLibrary);
-  if (symbol.isEmpty()) return Refuse("Ostana Library is a required field.", txtOstanaLibrary);
+  if (name.isEmpty()) return Refuse(this, "NCIP Library is a required field.", MessageStyle::Stop, txtNCIPLibrary);
+  if (symbol.isEmpty())
+    return Refuse(this, "Ostana Library is a required field.", MessageStyle::Stop, txtOstanaLibrary);
   mlngUnitLibraryId = LibraryIdOfExactSymbol(
       symbol, forUpdate ? "***** SQL error on OSTANA.ID_LIBRARY (Select) *****"  // with the owner on Update only
                         : "***** SQL error on ID_LIBRARY (Select) *****");
-  if (mlngUnitLibraryId == -1) return Refuse("Please enter a valid library symbol.", txtOstanaLibrary);
+  if (mlngUnitLibraryId == -1)
+    return Refuse(this, "Please enter a valid library symbol.", MessageStyle::Stop, txtOstanaLibrary);
   cells = {name, symbol, QString::number(mlngUnitLibraryId)};
   return true;
 }

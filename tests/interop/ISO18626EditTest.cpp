@@ -57,6 +57,43 @@ TEST_F(ISO18626EditTest, WithoutTransferAllPatronColumnsAreNAndAnEmptyUrlIsNull)
       << writing[0].toStdString();
 }
 
+TEST_F(ISO18626EditTest, AListThatCouldNotBeFilledIsNoChoice) {
+  Another("ALTER TABLE ID_ISO18626_VERSION RENAME TO ID_ISO18626_VERSION_AWAY");
+  Prompt().Expect("An error has occurred loading from the database the information required by this Form.", 16);
+  OpenPicker();
+  Another("ALTER TABLE ID_ISO18626_VERSION_AWAY RENAME TO ID_ISO18626_VERSION");
+  Type("txtConnectionID", "NEW");
+  ChooseAt("cmbILLSystem", 1);
+  Prompt().Expect("The Protocol Version is required. Please select a valid value", 48);
+  Click("cmdAdd");
+  EXPECT_EQ(Count("ID_ISO18626_CONNECT"), 0);
+}
+
+TEST_F(ISO18626EditTest, ACodeThatIsInNoListIsWrittenBack) {
+  AddConnection("ONE");
+  Another("ALTER TABLE ID_ISO18626_VERSION RENAME TO ID_ISO18626_VERSION_AWAY");
+  Prompt().Expect("An error has occurred loading from the database the information required by this Form.", 16);
+  OpenPicker("ONE");
+  Another("ALTER TABLE ID_ISO18626_VERSION_AWAY RENAME TO ID_ISO18626_VERSION");
+  EXPECT_EQ(Text("cmbVersion"), "1.2");
+  Type("txtHostAddress", "other.example.org");
+  Prompt().Expect("ISO 18626 Connection Id 'ONE' successfully updated", 64);
+  Click("cmdUpdate");
+  EXPECT_EQ(Ask("SELECT ISO18626_VERSION FROM ID_ISO18626_CONNECT"), "1.2");
+  EXPECT_EQ(Ask("SELECT ISO18626_AUTHN_TYPE FROM ID_ISO18626_CONNECT"), "BASIC");
+}
+
+TEST_F(ISO18626EditTest, TheRightsOfTheOpeningDecideWhatCanBePressed) {
+  AddConnection("ONE");
+  Another("UPDATE ID_USER_FUNCTION SET ADD_FLAG = 'N', UPDATE_FLAG = 'N', DELETE_FLAG = 'N'");
+  ASSERT_TRUE(gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), gclsOF->CurrentFunction()));
+  OpenPicker("ONE");
+  for (const char* button : {"cmdAdd", "cmdUpdate", "cmdDelete"}) EXPECT_FALSE(IsEnabled(button)) << button;
+  EXPECT_TRUE(IsEnabled("cmdSelect"));
+  Click("btnClear");
+  EXPECT_FALSE(IsEnabled("cmdAdd"));
+}
+
 TEST_F(ISO18626EditTest, AnIdThatExistsIsRefused) {
   AddConnection("C1");
   OpenPicker();

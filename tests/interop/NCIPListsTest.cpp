@@ -123,6 +123,44 @@ TEST_F(NCIPListsTest, BothListsLogAFailedLoadUnderTheFirstOnesName) {
   EXPECT_EQ(Logged("* ***** SQL error on ID_NCIP_LIBRARY (Select) *****").size(), 1);
 }
 
+class TornNCIPListTest : public NCIPListsTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(TornNCIPListTest, AListThatCouldNotBeReadIsNotReplaced) {
+  const QString table = GetParam();
+  const QString form = table == "ID_NCIP_STATUS" ? "frmNCIPStatusCodes" : "frmNCIPUnitLibraryMapping";
+  Another("ALTER TABLE " + table + " RENAME TO " + table + "_AWAY");
+  Prompt().Expect("An error has occurred loading the form.  Please Notify Support.", 16);
+  Open(form);
+  Another("ALTER TABLE " + table + "_AWAY RENAME TO " + table);
+  for (const char* button : {"cmdAdd", "cmdUpdate", "cmdDelete", "cmdClear"}) EXPECT_FALSE(IsEnabled(button)) << button;
+  Click("cmdClose");
+  EXPECT_FALSE(IsOpen());
+  EXPECT_EQ(StatusRows(), "AVAILABLE=Y LOST=N ON LOAN=N");
+  EXPECT_EQ(UnitRows(), "MAIN=101 NORTH=303 SOUTH=303");
+}
+
+INSTANTIATE_TEST_SUITE_P(Lists, TornNCIPListTest, testing::Values("ID_NCIP_STATUS", "ID_NCIP_LIBRARY"),
+                         [](const auto& table) { return std::string(table.param); });
+
+TEST_F(NCIPListsTest, AMappingReadByHalfIsNotReplaced) {
+  // The second statement of each row fails: the symbol of its library.
+  Another("ALTER TABLE ID_LIBRARY RENAME COLUMN LIBRARY_SYMBOL TO LIBRARY_SYMBOL_AWAY");
+  Prompt().Expect("An error has occurred loading the form.  Please Notify Support.", 16);
+  OpenMapping();
+  Another("ALTER TABLE ID_LIBRARY RENAME COLUMN LIBRARY_SYMBOL_AWAY TO LIBRARY_SYMBOL");
+  for (const char* button : {"cmdAdd", "cmdUpdate", "cmdDelete", "cmdClear"}) EXPECT_FALSE(IsEnabled(button)) << button;
+  Click("cmdClose");
+  EXPECT_EQ(UnitRows(), "MAIN=101 NORTH=303 SOUTH=303");
+}
+
+TEST_F(NCIPListsTest, TheRightsOfTheOpeningDecideWhatCanBePressed) {
+  Another("UPDATE ID_USER_FUNCTION SET ADD_FLAG = 'N', UPDATE_FLAG = 'N', DELETE_FLAG = 'N'");
+  ASSERT_TRUE(gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), gclsOF->CurrentFunction()));
+  OpenStatus();
+  SelectRowOf("grdNCIPStatusCodes", "LOST");
+  for (const char* button : {"cmdAdd", "cmdUpdate", "cmdDelete", "cmdClear"}) EXPECT_FALSE(IsEnabled(button)) << button;
+}
+
 // --- Status codes ---
 
 TEST_F(NCIPListsTest, ARowShowsItsLetterAsAnOption) {

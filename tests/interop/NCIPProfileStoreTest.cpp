@@ -76,8 +76,9 @@ TEST_F(NCIPProfileStoreTest, EveryKindOfEditIsAskedAbout) {
 TEST_F(NCIPProfileStoreTest, WithoutTheUpdateRightNothingIsAskedButAChangedListIsStillWritten) {
   AddProfile("A");
   AddProfile("B");
-  OpenProfiles();
   WithoutUpdateRight();
+  OpenProfiles();
+  EXPECT_FALSE(IsEnabled("cmdUpdate"));
   SelectRowOf(Grid1, "A");
   Type("txtDescription", "dropped");
   SelectRowOf(Grid1, "B");
@@ -86,6 +87,56 @@ TEST_F(NCIPProfileStoreTest, WithoutTheUpdateRightNothingIsAskedButAChangedListI
   CloseAndStore();
   EXPECT_EQ(Profiles(), "A");
   EXPECT_EQ(Ask("SELECT NCIP_PROFILE_DESC FROM ID_NCIP_PROFILE"), "A desc");
+}
+
+TEST_F(NCIPProfileStoreTest, AfterClearNoRowIsOnShowSoThatYesOverwritesNone) {
+  AddProfile("A");
+  AddProfile("B");
+  OpenProfiles();
+  Prompt().Expect(ClearQuestion, 36, MessageAnswer::Yes);
+  Click("cmdClear");
+  EXPECT_EQ(Row(Grid1), 0);
+  Fill("NEW", "Typed on the cleared screen");
+  Prompt().Expect(Question, 36, MessageAnswer::Yes).Expect("There are currently no rows to Update.", 16);
+  SelectRowOf(Grid1, "B");
+  // What was typed waits for Add.
+  EXPECT_EQ(Text("txtProfileCode"), "NEW");
+  EXPECT_EQ(Row(Grid1), 0);
+  Prompt().Expect("There are currently no rows to Update.", 16);
+  Click("cmdUpdate");
+  Click("cmdAdd");
+  CloseAndStore();
+  EXPECT_EQ(Profiles(), "A B NEW");
+}
+
+// --- What was not read is not written ---
+
+TEST_F(NCIPProfileStoreTest, AListThatCouldNotBeReadIsNotReplaced) {
+  AddProfile("A");
+  AddProfile("B");
+  // Each of the tables behind the lists, and the profiles themselves.
+  for (const char* table : {"ID_PATRON_TYPE", "ID_BILLING_RATE", "ID_PICKUP_LOCATION", "ID_NCIP_PROFILE"}) {
+    SCOPED_TRACE(table);
+    const QString away = QString(table) + "_AWAY";
+    Another(QString("ALTER TABLE ") + table + " RENAME TO " + away);
+    Prompt().Expect("An error has occurred loading the form.  Please Notify Support.", 16);
+    OpenProfiles();
+    Another("ALTER TABLE " + away + " RENAME TO " + table);
+    for (const char* button : {"cmdAdd", "cmdUpdate", "cmdDelete", "cmdClear"})
+      EXPECT_FALSE(IsEnabled(button)) << button;
+    Type("txtDescription", "typed");
+    Click("cmdClose");
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Profiles(), "A B");
+  }
+}
+
+TEST_F(NCIPProfileStoreTest, TheRightsOfTheOpeningDecideWhatCanBePressed) {
+  AddProfile("A");
+  Another("UPDATE ID_USER_FUNCTION SET ADD_FLAG = 'N', UPDATE_FLAG = 'N', DELETE_FLAG = 'N'");
+  ASSERT_TRUE(gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), gclsOF->CurrentFunction()));
+  OpenProfiles();
+  for (const char* button : {"cmdAdd", "cmdUpdate", "cmdDelete", "cmdClear"}) EXPECT_FALSE(IsEnabled(button)) << button;
 }
 
 // --- Delete and Clear ---

@@ -437,6 +437,33 @@ TEST_F(ServerConnectionTest, ADuplicateMadeByAnotherClientKeepsTheDialogOpen) {
   EXPECT_TRUE(lines.last().contains("duplicate", Qt::CaseInsensitive));
 }
 
+TEST_F(ServerConnectionTest, ARowThatCouldNotBeReadIsNeitherWrittenNorDeleted) {
+  AddNcip(Server);
+  for (const char* table : {"ID_NCIP_ILS_SYSTEM", "ID_NCIP_CONNECT_TYPE", "ID_NCIP_CONNECT"}) {
+    SCOPED_TRACE(table);
+    Another(QString("ALTER TABLE %1 RENAME TO %1_AWAY").arg(table));
+    Prompt().Expect("An error has occurred loading the form.  Please Notify Support.", 16);
+    OpenForm(NcipForm);
+    Another(QString("ALTER TABLE %1_AWAY RENAME TO %1").arg(table));
+    EXPECT_FALSE(IsEnabled("cmdOK"));
+    EXPECT_FALSE(IsEnabled("cmdDelete"));
+    Click("cmdCancel");
+  }
+  EXPECT_EQ(Ncip("NCIP_HOST_ADDRESS"), "ncip.example.org");
+}
+
+TEST_F(ServerConnectionTest, OKAsksForTheRightOfWhatItWrites) {
+  AddNcip(Server);
+  Another("UPDATE ID_USER_FUNCTION SET UPDATE_FLAG = 'N', DELETE_FLAG = 'N'");
+  ASSERT_TRUE(gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), gclsOF->CurrentFunction()));
+  OpenForm(NcipForm);
+  EXPECT_FALSE(IsEnabled("cmdOK"));
+  EXPECT_FALSE(IsEnabled("cmdDelete"));
+  Click("cmdCancel");
+  OpenForm(ApiForm);  // has no row yet, which OK adds
+  EXPECT_TRUE(IsEnabled("cmdOK"));
+}
+
 TEST_F(ServerConnectionTest, TheLogNamesAreSpelledAsTheReadersKnowThem) {
   AddApi(Own);
   AddNcip(Server);
