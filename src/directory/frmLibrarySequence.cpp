@@ -41,27 +41,32 @@ void frmLibrarySequence::Form_Load() {
 
 void frmLibrarySequence::Form_Activate() {
   if (!mbLoaded) {
-    ShowMessage("An error has occurred.  Unable to load screen.\n\nIf the error persists Please Notify Support.",
-                MessageStyle::Stop, Caption(), {}, this);
+    Tell(this, "An error has occurred.  Unable to load screen.\n\nIf the error persists Please Notify Support.",
+         MessageStyle::Stop);
     return;
   }
   if (gclsOF->Tracing()) gclsOF->WriteLog("frmLibrarySequence - Loaded.", {}, "L");
 }
 
 bool frmLibrarySequence::LoadSuppliers() {
-  return Procedure("frmLibrarySequence.LoadSuppliers", this)
-      .OnFailure("An error has occurred loading the Supplier list.  Please Notify Support.")
-      .Run([this] { ReadSuppliers(); });
-}
-
-void frmLibrarySequence::ReadSuppliers() {
-  grdSupplierSequencing->Clear();
-  ForEachRow("SELECT   SUPPLIER_CODE, LIBRARY_SEQ, LIBRARY FROM " + Sql::Table("ID_SUPPLIER") +
-                 " WHERE    LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId()) + " ORDER BY LIBRARY_SEQ",
-             "***** SQL error on ID_SUPPLIER (Select) *****", [this](Recordset& rows) {
-               grdSupplierSequencing->AddRow({Value(rows, 0), Value(rows, 1), Value(rows, 2)});
-             });
-  if (grdSupplierSequencing->Rows() > 1) grdSupplierSequencing->SetRow(1);
+  const bool read =
+      Procedure("frmLibrarySequence.LoadSuppliers", this)
+          .OnFailure("An error has occurred loading the Supplier list.  Please Notify Support.")
+          .Run([this] {
+            std::vector<QStringList> rows;
+            suppliers_ = WorkingCopy([&rows] {
+              ForEachRow("SELECT   SUPPLIER_CODE, LIBRARY_SEQ, LIBRARY FROM " + Sql::Table("ID_SUPPLIER") +
+                             " WHERE    LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId()) + " ORDER BY LIBRARY_SEQ",
+                         "***** SQL error on ID_SUPPLIER (Select) *****", [&rows](Recordset& row) {
+                           rows.push_back({Value(row, 0), Value(row, 1), Value(row, 2)});
+                         });
+            });
+            grdSupplierSequencing->Clear();
+            for (const QStringList& row : rows) grdSupplierSequencing->AddRow(row);
+            if (!rows.empty()) grdSupplierSequencing->SetRow(1);
+          });
+  for (QPushButton* button : {cmdUp, cmdDown, cmdSort, cmdSequence}) button->setEnabled(suppliers_.has_value());
+  return read;
 }
 
 void frmLibrarySequence::MoveRow(int by) {
@@ -83,32 +88,35 @@ void frmLibrarySequence::cmdSort_Click() {
 }
 
 bool frmLibrarySequence::cmdSequence_Click() {
-  return Procedure("frmSupplierRouting.cmdSequence", this)
-      .OnFailure(
-          "An error has occurred while attempting to sequence the Supplier(s).  If the error persists notify "
-          "support.")
-      .Run([this] {
-        if (grdSupplierSequencing->Rows() < 2) {
-          ShowMessage("There are no records to sequence.", MessageStyle::Warning, Caption(), {}, this);
-          return;
-        }
-        Transaction transaction(gclsOF->Connection());
-        for (int row = 1; row < grdSupplierSequencing->Rows(); ++row)
-          Execute("UPDATE " + Sql::Table("ID_SUPPLIER") + " SET      LIBRARY_SEQ = " + Sql::Number(row) +
-                      " WHERE    SUPPLIER_CODE = " + Sql::National(grdSupplierSequencing->Text(row, SupplierCode)) +
-                      " AND      LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId()),
-                  "***** SQL error on ID_SUPPLIER (Update) *****");
-        transaction.Commit();
-        ReadSuppliers();
-        mbSequenceChanged = false;
-      });
+  if (grdSupplierSequencing->Rows() < 2) {
+    Tell(this, "There are no records to sequence.", MessageStyle::Warning);
+    return true;
+  }
+  const bool saved = Procedure("frmSupplierRouting.cmdSequence", this)
+                         .OnFailure(
+                             "An error has occurred while attempting to sequence the Supplier(s).  If the error "
+                             "persists notify support.")
+                         .Run([this] { suppliers_.value().Replace([this] { WriteNumbers(); }); });
+  if (!saved) return false;
+  mbSequenceChanged = false;
+  // The order is stored, whether or not it can be read again.
+  for (int row = 1; row < grdSupplierSequencing->Rows(); ++row)
+    grdSupplierSequencing->SetText(row, Sequence, QString::number(row));
+  LoadSuppliers();
+  return true;
+}
+
+void frmLibrarySequence::WriteNumbers() {
+  for (int row = 1; row < grdSupplierSequencing->Rows(); ++row)
+    Execute("UPDATE " + Sql::Table("ID_SUPPLIER") + " SET      LIBRARY_SEQ = " + Sql::Number(row) +
+                " WHERE    SUPPLIER_CODE = " + Sql::National(grdSupplierSequencing->Text(row, SupplierCode)) +
+                " AND      LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId()),
+            "***** SQL error on ID_SUPPLIER (Update) *****");
 }
 
 bool frmLibrarySequence::Form_QueryUnload() {
-  if (!mbSequenceChanged) return false;
-  const int answer =
-      ShowMessage("The sequence has been modified.\n\nWould you like update the sequence before exiting?",
-                  MessageStyle::Question, Caption(), {}, this);
   // A save that failed keeps the screen and the order on it.
-  return answer == MessageAnswer::Yes && !cmdSequence_Click();
+  return mbSequenceChanged &&
+         Confirm(this, "The sequence has been modified.\n\nWould you like update the sequence before exiting?") &&
+         !cmdSequence_Click();
 }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <QPushButton>
+#include <optional>
 
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "shell/Screen.h"
+#include "shell/WorkingCopy.h"
 
 // The order in which the suppliers of the current library are tried. Moving rows changes nothing in the database until
 // the sequence is saved, which numbers the rows from 1.
@@ -23,9 +25,10 @@ class frmLibrarySequence : public Screen {
   enum Column { Marker, SupplierCode, Sequence, Name };
 
   void BuildControls();
-  // False when the list could not be read; the user has been told.
+  // False when the list could not be read: the user has been told, and the one before stays.
   bool LoadSuppliers();
-  void ReadSuppliers();
+  // Gives the rows their numbers.
+  void WriteNumbers();
   // By one place up (-1) or down (+1).
   void MoveRow(int by);
   void cmdSort_Click();
@@ -34,6 +37,7 @@ class frmLibrarySequence : public Screen {
 
   bool mbLoaded = false;
   bool mbSequenceChanged = false;
+  std::optional<WorkingCopy> suppliers_;
 
   Grid* const grdSupplierSequencing = new Grid(this, "grdSupplierSequencing", 4);
   QPushButton* const cmdUp = Form::Button(this, "cmdUp", "Move &Up");

@@ -152,4 +152,38 @@ TEST_F(LibrarySequenceTest, AListThatCannotBeReadIsToldTwice) {
   Another("ALTER TABLE ID_SUPPLIER_AWAY RENAME TO ID_SUPPLIER");
 }
 
+TEST_F(LibrarySequenceTest, AListThatCouldNotBeReadOffersNothingToSave) {
+  Supplier("A", 5);
+  Another("ALTER TABLE ID_SUPPLIER RENAME TO ID_SUPPLIER_AWAY");
+  Prompt()
+      .Expect("An error has occurred loading the Supplier list.  Please Notify Support.", 16)
+      .Expect("An error has occurred.  Unable to load screen.\n\nIf the error persists Please Notify Support.", 16);
+  Screen& screen = Open("frmLibrarySequence");
+  Another("ALTER TABLE ID_SUPPLIER_AWAY RENAME TO ID_SUPPLIER");
+  for (const char* button : {"cmdUp", "cmdDown", "cmdSort", "cmdSequence"}) EXPECT_FALSE(IsEnabled(button)) << button;
+  Click("cmdClose");
+  EXPECT_FALSE(screen.isVisible());
+  EXPECT_EQ(Stored("A"), "5");
+}
+
+TEST_F(LibrarySequenceTest, AFailedReadAfterTheSaveIsToldAsAReadAndTheListStays) {
+  Screen& screen = OpenWith({{"A", 5}, {"B", 9}});
+  SelectRow("grdSupplierSequencing", 1);
+  Click("cmdDown");
+  // The numbers can be written; the names cannot be read.
+  Another("ALTER TABLE ID_SUPPLIER RENAME COLUMN LIBRARY TO MOVED");
+  Prompt().Expect("An error has occurred loading the Supplier list.  Please Notify Support.", 16);
+  Click("cmdSequence");
+  Another("ALTER TABLE ID_SUPPLIER RENAME COLUMN MOVED TO LIBRARY");
+  EXPECT_EQ(Stored("B"), "1");
+  EXPECT_EQ(Stored("A"), "2");
+  EXPECT_EQ(Codes(), QStringList({"B", "A"}));
+  EXPECT_EQ(Cell("grdSupplierSequencing", 1, 2), "1");
+  EXPECT_TRUE(LogHolds("frmLibrarySequence.LoadSuppliers"));
+  EXPECT_FALSE(LogHolds("frmSupplierRouting.cmdSequence"));
+  // Saved: nothing is asked.
+  Click("cmdClose");
+  EXPECT_FALSE(screen.isVisible());
+}
+
 }  // namespace
