@@ -4,15 +4,18 @@
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
+#include "core/Record.h"
 #include "core/SqlText.h"
 
-TemplateTarget::TemplateTarget(QPushButton* toggle, QPushButton* save, QPushButton* remove)
-    : toggle_(toggle), save_(save), remove_(remove) {
+TemplateTarget::TemplateTarget(Record& record, QPushButton* toggle, QPushButton* save, QPushButton* remove)
+    : record_(record), toggle_(toggle), save_(save), remove_(remove) {
+  record.Observe([this] { ShowState(); });
   ShowState();
 }
 
-void TemplateTarget::Toggle() {
+void TemplateTarget::Toggle(const std::function<bool()>& load) {
   systemDefault_ = !systemDefault_;
+  if (!load()) systemDefault_ = !systemDefault_;
   ShowState();
 }
 
@@ -21,7 +24,8 @@ void TemplateTarget::ShowState() {
   toggle_->setToolTip(systemDefault_ ? "Return to previous template." : "Set the system's default template.");
   save_->setToolTip(systemDefault_ ? "Save the system's default template." : "Save this template.");
   remove_->setToolTip(systemDefault_ ? "The system's default template cannot be deleted." : "Delete this template.");
-  remove_->setEnabled(!systemDefault_);
+  save_->setEnabled(record_.MayBeWritten());
+  remove_->setEnabled(record_.MayBeWritten() && !systemDefault_);
 }
 
 qint32 TemplateTarget::LibraryId() const {

@@ -13,11 +13,9 @@ const QString Failed = "A problem occurred while updating this record.  If the p
 frmDeliveryEmailTemplate::frmDeliveryEmailTemplate(QWidget* parent)
     : Screen("frmDeliveryEmailTemplate", "Ostana - E-mail Message Template (Electronic Delivery)", parent) {
   BuildControls();
-  connect(rdForExternalURL, &OptionGroup::Click, this, &frmDeliveryEmailTemplate::Load_TextBoxes);
-  connect(cmdSetSystemDefault, &QPushButton::clicked, this, [this] {
-    target_.Toggle();
-    Load_TextBoxes();
-  });
+  connect(rdForExternalURL, &OptionGroup::Click, this, &frmDeliveryEmailTemplate::rdForExternalURL_Click);
+  connect(cmdSetSystemDefault, &QPushButton::clicked, this,
+          [this] { target_.Toggle([this] { return Load_TextBoxes(); }); });
   connect(cmdOK, &QPushButton::clicked, this, &frmDeliveryEmailTemplate::cmdOK_Click);
   connect(cmdDelete, &QPushButton::clicked, this, &frmDeliveryEmailTemplate::cmdDelete_Click);
   connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(); });
@@ -44,12 +42,10 @@ void frmDeliveryEmailTemplate::BuildControls() {
   resize(820, 620);
 }
 
-int frmDeliveryEmailTemplate::Tell(const QString& text, int style) {
-  return ShowMessage(text, style, Caption(), {}, this);
-}
-
 void frmDeliveryEmailTemplate::Form_Load() {
   rdForExternalURL->Select(1);
+  rdSkipHeaderAndFooter->Select(0);
+  family_ = Family();
   Load_TextBoxes();
   txtSubject->setFocus();
 }
@@ -72,22 +68,39 @@ QString frmDeliveryEmailTemplate::OfTarget() const {
          (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron));
 }
 
-void frmDeliveryEmailTemplate::Load_TextBoxes() {
-  Procedure("frmDeliveryEmailTemplate.Load_TextBoxes", this).Run([this] {
-    fraTemplate->setTitle(QString("Message") + (Family() == "SED_" ? " (Template for External URL)"
-                                                                   : " (Template for Electronic Delivery)"));
-    ClearBoxes();
-    mbRowRead = false;
-    txtInstitution->SetText(target_.Institution());
+// The family on show is not read again: what was typed stays.
+void frmDeliveryEmailTemplate::rdForExternalURL_Click() {
+  if (Family() == family_ && record_.MayBeWritten()) return;
+  if (!Load_TextBoxes()) rdForExternalURL->Select(family_ == "SED_" ? 0 : 1);
+}
+
+bool frmDeliveryEmailTemplate::Load_TextBoxes() {
+  return Procedure("frmDeliveryEmailTemplate.Load_TextBoxes", this).Run([this] {
+    Record::Reading reading(record_);
+    const QString institution = target_.Institution();
+    std::optional<QStringList> row;
     ForEachRow("SELECT   * FROM " + Sql::Table("ID_EMAIL_MESSAGE") + OfTarget(),
-               "***** SQL error on ID_EMAIL_MESSAGE  (Select) *****", [this](Recordset& rows) {
-                 mbRowRead = true;
-                 txtSubject->SetText(Value(rows, Family() + "MESSAGE_SUBJECT"));
-                 txtRequestInfo->SetText(Value(rows, Family() + "MESSAGE_REQUEST"));
-                 txtBody->SetText(Value(rows, Family() + "MESSAGE_BODY"));
-                 rdSkipHeaderAndFooter->Select(Value(rows, Family() + "SKIP_HEADER_FOOTER") == "N" ? 1 : 0);
+               "***** SQL error on ID_EMAIL_MESSAGE  (Select) *****", [&](Recordset& rows) {
+                 row.emplace();
+                 for (const char* column : {"MESSAGE_SUBJECT", "MESSAGE_REQUEST", "MESSAGE_BODY", "SKIP_HEADER_FOOTER"})
+                   row->append(Value(rows, Family() + column));
                });
-    txtPatronName->SetText(target_.PatronName());
+    const QString patron = target_.PatronName();
+    reading.Replaces();
+    family_ = Family();
+    fraTemplate->setTitle(QString("Message") +
+                          (family_ == "SED_" ? " (Template for External URL)" : " (Template for Electronic Delivery)"));
+    txtInstitution->SetText(institution);
+    txtPatronName->SetText(patron);
+    mbRowRead = row.has_value();
+    ClearBoxes();
+    if (row) {
+      txtSubject->SetText(row->at(0));
+      txtRequestInfo->SetText(row->at(1));
+      txtBody->SetText(row->at(2));
+      rdSkipHeaderAndFooter->Select(row->at(3) == "N" ? 1 : 0);
+    }
+    reading.Ended();
   });
 }
 
@@ -125,48 +138,46 @@ QString frmDeliveryEmailTemplate::InsertStatement() const {
 }
 
 void frmDeliveryEmailTemplate::cmdOK_Click() {
-  QString statement;
-  Procedure procedure("frmDeliveryEmailTemplate.cmdOK_Click", this);
-  procedure.OnFailure(Failed)
-      .Finally([&statement] {
-        if (!statement.isEmpty()) gclsOF->WriteLog("SQL statement: " + statement, {}, "S");
+  QString failing;
+  Procedure("frmDeliveryEmailTemplate.cmdOK_Click", this)
+      .OnFailure([&failing](const AdoError& error) {
+        failing = error.Statement();
+        return Failed;
       })
-      .Run([&] {
-        QWidget* const empty = txtSubject->Text().isEmpty() ? static_cast<QWidget*>(txtSubject)
-                               : txtBody->Text().isEmpty()  ? txtBody
-                                                            : nullptr;
-        if (empty) {
-          Tell("This field is required.", MessageStyle::Stop);
-          empty->setFocus();
-          return;
-        }
+      .Finally([&failing] {
+        if (!failing.isEmpty()) gclsOF->WriteLog("SQL statement: " + failing, {}, "S");
+      })
+      .Answers([this] {
+        for (QWidget* box : std::initializer_list<QWidget*>{txtSubject, txtBody})
+          if ((box == txtSubject ? txtSubject->Text() : txtBody->Text()).isEmpty())
+            return Refuse(this, "This field is required.", MessageStyle::Stop, box);
         const bool exists = mbRowRead || RowExists();
-        statement = exists ? UpdateStatement() : InsertStatement();
+        const QString statement = exists ? UpdateStatement() : InsertStatement();
         if (gclsOF->Tracing())
           gclsOF->WriteLog((exists ? "Update Statement: " : "Insert Statement: ") + statement, {}, "L");
-        const qint64 written =
-            ExecuteInTransaction(statement, exists ? "***** SQL Error on ID_EMAIL_MESSAGE (Update) *****"
-                                                   : "***** SQL Error on ID_EMAIL_MESSAGE (Insert) *****");
-        mbRowRead = written != 0;
-        if (written == 0) {
+        mbRowRead = ExecuteInTransaction(statement, exists ? "***** SQL Error on ID_EMAIL_MESSAGE (Update) *****"
+                                                           : "***** SQL Error on ID_EMAIL_MESSAGE (Insert) *****") != 0;
+        if (!mbRowRead) {
           gclsOF->WriteLog("SQL statement: " + statement, {}, "L");
-          Tell("Cannot add/update this record.", MessageStyle::Stop);
-          return;
+          return Refuse(this, "Cannot add/update this record.", MessageStyle::Stop, nullptr);
         }
-        Tell("Email settings Updated.", MessageStyle::Information);
+        Tell(this, "Email settings Updated.", MessageStyle::Information);
+        return true;
       });
 }
 
 void frmDeliveryEmailTemplate::cmdDelete_Click() {
-  Procedure("frmDeliveryEmailTemplate.cmdDelete_Click", this).OnFailure(Texts::NotifySupport).Run([this] {
-    if (Tell("Are you sure you wish to delete this record ?", MessageStyle::Question) != MessageAnswer::Yes) return;
+  Procedure("frmDeliveryEmailTemplate.cmdDelete_Click", this).OnFailure(Texts::NotifySupport).Answers([this] {
+    if (!Confirm(this, "Are you sure you wish to delete this record ?")) return false;
     const QString patron = target_.PatronId();
-    ExecuteInTransaction(
+    const qint64 deleted = ExecuteInTransaction(
         "DELETE FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
             (patron.isEmpty() ? QString(" AND PATRON_ID IS NULL ") : " AND PATRON_ID = " + Sql::National(patron)),
         "***** SQL error on ID_EMAIL_MESSAGE (Delete) *****");
     mbRowRead = false;
-    Tell("Record deleted.", MessageStyle::Information);
+    if (deleted == 0) return Refuse(this, NothingDeleted, MessageStyle::Warning, nullptr);
+    Tell(this, "Record deleted.", MessageStyle::Information);
     ClearBoxes();
+    return true;
   });
 }

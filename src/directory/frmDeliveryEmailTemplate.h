@@ -3,6 +3,7 @@
 #include <QGroupBox>
 #include <QPushButton>
 
+#include "core/Record.h"
 #include "directory/TemplateTarget.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/MemoBox.h"
@@ -23,19 +24,22 @@ class frmDeliveryEmailTemplate : public Screen {
 
  private:
   void BuildControls();
-  void Load_TextBoxes();
+  // False when the template of target and family could not be read; the one on show stays.
+  bool Load_TextBoxes();
+  void rdForExternalURL_Click();
   void ClearBoxes();
   void cmdOK_Click();
   void cmdDelete_Click();
-  // "SED_" for the external URL, "EMAIL_" for electronic delivery.
+  // The family that is chosen: "SED_" for the external URL, "EMAIL_" for electronic delivery.
   QString Family() const;
   QString OfTarget() const;
   bool RowExists() const;
   QString UpdateStatement() const;
   QString InsertStatement() const;
-  int Tell(const QString& text, int style);
 
+  Record record_;
   bool mbRowRead = false;  // the boxes show a row of the table
+  QString family_;         // whose columns the boxes show
 
   OptionGroup* const rdForExternalURL =
       new OptionGroup(this, {{"rdForExternalURLYes", "Yes"}, {"rdForExternalURLNo", "No"}});
@@ -51,5 +55,5 @@ class frmDeliveryEmailTemplate : public Screen {
   QPushButton* const cmdOK = Form::Button(this, "cmdOK", "&OK");
   QPushButton* const cmdDelete = Form::Button(this, "cmdDelete", "&Delete");
   QPushButton* const cmdCancel = Form::Button(this, "cmdCancel", "&Cancel");
-  TemplateTarget target_{cmdSetSystemDefault, cmdOK, cmdDelete};
+  TemplateTarget target_{record_, cmdSetSystemDefault, cmdOK, cmdDelete};
 };

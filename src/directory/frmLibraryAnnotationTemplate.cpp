@@ -17,10 +17,8 @@ const QString SeriousFailure = "A serious error has occurred.  Please contact su
 frmLibraryAnnotationTemplate::frmLibraryAnnotationTemplate(QWidget* parent)
     : Screen("frmLibraryAnnotationTemplate", "Ostana - Annotation Template", parent) {
   BuildControls();
-  connect(cmdSetSystemDefault, &QPushButton::clicked, this, [this] {
-    target_.Toggle();
-    LoadTemplate();
-  });
+  connect(cmdSetSystemDefault, &QPushButton::clicked, this,
+          [this] { target_.Toggle([this] { return LoadTemplate(); }); });
   connect(cmdOK, &QPushButton::clicked, this, &frmLibraryAnnotationTemplate::cmdOK_Click);
   connect(cmdDelete, &QPushButton::clicked, this, &frmLibraryAnnotationTemplate::cmdDelete_Click);
   connect(cmdCancel, &QPushButton::clicked, this, [this] { Unload(); });
@@ -49,11 +47,8 @@ void frmLibraryAnnotationTemplate::BuildControls() {
   resize(720, 320);
 }
 
-int frmLibraryAnnotationTemplate::Tell(const QString& text, int style) {
-  return ShowMessage(text, style, Caption(), {}, this);
-}
-
 void frmLibraryAnnotationTemplate::Form_Load() {
+  ShowDefaults();
   LoadTemplate();
   txtAnnotationText->setFocus();
 }
@@ -75,28 +70,41 @@ QString frmLibraryAnnotationTemplate::SelectStatement() const {
          " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause();
 }
 
-void frmLibraryAnnotationTemplate::LoadTemplate() {
+bool frmLibraryAnnotationTemplate::LoadTemplate() {
   QString query;
-  Procedure("frmLibraryAnnotationTemplate.LoadTemplate", this)
+  return Procedure("frmLibraryAnnotationTemplate.LoadTemplate", this)
+      .OnFailure([&query](const AdoError& error) {
+        query = error.Statement();
+        return gstrErrorMessage;
+      })
       .Finally([&query] {
         if (!query.isEmpty()) gclsOF->WriteLog("Query: " + query, {}, "S");
       })
-      .Run([&] {
-        ShowDefaults();
-        mbRowRead = false;
-        txtInstitution->SetText(target_.Institution());
-        txtPatronName->SetText(target_.PatronName());
-        query = SelectStatement();
-        ForEachRow(query, "***** SQL error on ID_ANNOTATION (Select) *****", [this](Recordset& rows) {
-          mbRowRead = true;
-          optUseAnnotation->Select(Value(rows, "USE_ANNOTATION") == "N" ? 1 : 0);
-          txtAnnotationText->SetText(Value(rows, "ANNOTATION"));
-          // A value that is not in its list falls back to the default.
-          const QString size = Value(rows, "TEXT_FONT_SIZE"), place = Value(rows, "TEXT_ORIENTATION");
-          if (cmbTextFontSize->IndexOfText(size) >= 0) cmbTextFontSize->SetText(size);
-          if (cmbTextOrientation->IndexOfText(place) >= 0) cmbTextOrientation->SetText(place);
+      .Run([this] {
+        Record::Reading reading(record_);
+        const QString institution = target_.Institution(), patron = target_.PatronName();
+        std::optional<QStringList> row;
+        ForEachRow(SelectStatement(), "***** SQL error on ID_ANNOTATION (Select) *****", [&row](Recordset& rows) {
+          row.emplace();
+          for (const char* column : {"USE_ANNOTATION", "ANNOTATION", "TEXT_FONT_SIZE", "TEXT_ORIENTATION"})
+            row->append(Value(rows, column));
         });
+        reading.Replaces();
+        txtInstitution->SetText(institution);
+        txtPatronName->SetText(patron);
+        mbRowRead = row.has_value();
+        ShowDefaults();
+        if (row) ShowTemplate(*row);
+        reading.Ended();
       });
+}
+
+void frmLibraryAnnotationTemplate::ShowTemplate(const QStringList& row) {
+  optUseAnnotation->Select(row[0] == "N" ? 1 : 0);
+  txtAnnotationText->SetText(row[1]);
+  // A value that is not in its list falls back to the default.
+  if (cmbTextFontSize->IndexOfText(row[2]) >= 0) cmbTextFontSize->SetText(row[2]);
+  if (cmbTextOrientation->IndexOfText(row[3]) >= 0) cmbTextOrientation->SetText(row[3]);
 }
 
 QString frmLibraryAnnotationTemplate::UpdateStatement() const {
@@ -132,39 +140,40 @@ void frmLibraryAnnotationTemplate::LogFailure(const QString& opening, const QStr
 }
 
 void frmLibraryAnnotationTemplate::cmdOK_Click() {
-  QString opening, statement;
+  QString opening;  // of the log line, as soon as there is something to write
   Procedure("frmLibraryAnnotationTemplate.cmdOK_Click", this)
       .OnFailure([&](const AdoError& error) {
-        if (!statement.isEmpty()) LogFailure(opening, statement, error.Description());
+        if (!opening.isEmpty()) LogFailure(opening, error.Statement(), error.Description());
         return SeriousFailure;
       })
-      .Run([&] {
+      .Answers([&] {
         // Asked before a row is added: two rows without a patron break no key, and another client's may stand there.
         bool exists = mbRowRead;
         if (!exists) FirstValue(SelectStatement(), "***** SQL error on ID_ANNOTATION (Select) *****", &exists);
         opening = exists ? "Update SQL: " : "Insert Statement: ";
-        statement = exists ? UpdateStatement() : InsertStatement();
-        const qint64 written =
-            ExecuteInTransaction(statement, exists ? "***** SQL Error on ID_ANNOTATION (Update) *****"
-                                                   : "***** SQL Error on ID_ANNOTATION (Insert) *****");
-        mbRowRead = written != 0;
-        if (written == 0) {
+        const QString statement = exists ? UpdateStatement() : InsertStatement();
+        mbRowRead = ExecuteInTransaction(statement, exists ? "***** SQL Error on ID_ANNOTATION (Update) *****"
+                                                           : "***** SQL Error on ID_ANNOTATION (Insert) *****") != 0;
+        if (!mbRowRead) {
           LogFailure(opening, statement, "no row was written");
-          Tell("Cannot add record to database.", MessageStyle::Stop);
-          return;
+          return Refuse(this, "Cannot add record to database.", MessageStyle::Stop, nullptr);
         }
-        Tell("Annotation Email settings Updated.", MessageStyle::Information);
+        Tell(this, "Annotation Email settings Updated.", MessageStyle::Information);
+        return true;
       });
 }
 
 void frmLibraryAnnotationTemplate::cmdDelete_Click() {
-  Procedure("frmLibraryAnnotationTemplate.cmdDelete_Click", this).OnFailure(SeriousFailure).Run([this] {
-    if (Tell("Are you sure you wish to delete this record ?", MessageStyle::Question) != MessageAnswer::Yes) return;
-    ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_ANNOTATION") +
-                             " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause(),
-                         "***** SQL error on ID_ID_ANNOTATION (Delete) *****");
+  Procedure("frmLibraryAnnotationTemplate.cmdDelete_Click", this).OnFailure(SeriousFailure).Answers([this] {
+    if (!Confirm(this, "Are you sure you wish to delete this record ?")) return false;
+    const qint64 deleted = ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_ANNOTATION") +
+                                                    " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) +
+                                                    " " + PatronClause(),
+                                                "***** SQL error on ID_ID_ANNOTATION (Delete) *****");
     mbRowRead = false;
-    Tell("Record deleted.", MessageStyle::Information);
+    if (deleted == 0) return Refuse(this, NothingDeleted, MessageStyle::Warning, nullptr);
+    Tell(this, "Record deleted.", MessageStyle::Information);
     ShowDefaults();
+    return true;
   });
 }

@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 
+#include "core/Record.h"
 #include "directory/TemplateTarget.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
@@ -21,8 +22,11 @@ class frmLibraryAnnotationTemplate : public Screen {
 
  private:
   void BuildControls();
-  void LoadTemplate();
+  // False when the template of the target could not be read; the one on show stays.
+  bool LoadTemplate();
   void ShowDefaults();
+  // Use, text, size, orientation.
+  void ShowTemplate(const QStringList& row);
   void cmdOK_Click();
   void cmdDelete_Click();
   QString SelectStatement() const;
@@ -31,7 +35,6 @@ class frmLibraryAnnotationTemplate : public Screen {
   QString UpdateStatement() const;
   QString InsertStatement() const;
   void LogFailure(const QString& opening, const QString& statement, const QString& error);
-  int Tell(const QString& text, int style);
 
   TextBox* const txtInstitution = new TextBox(this, "txtInstitution", 100);
   TextBox* const txtPatronName = new TextBox(this, "txtPatronName", 101);
@@ -44,6 +47,7 @@ class frmLibraryAnnotationTemplate : public Screen {
   QPushButton* const cmdOK = Form::Button(this, "cmdOK", "&OK");
   QPushButton* const cmdDelete = Form::Button(this, "cmdDelete", "&Delete");
   QPushButton* const cmdCancel = Form::Button(this, "cmdCancel", "&Cancel");
+  Record record_;
   bool mbRowRead = false;  // the controls show a row of the table
-  TemplateTarget target_{cmdSetSystemDefault, cmdOK, cmdDelete};
+  TemplateTarget target_{record_, cmdSetSystemDefault, cmdOK, cmdDelete};
 };

@@ -273,4 +273,137 @@ TEST_F(AnnotationTest, AFailureIsToldAndLoggedWithItsStatement) {
   Another("DROP TABLE ID_BLOCK");
 }
 
+// --- Reads that fail ---
+
+// The two screens, and the table of each.
+struct Template {
+  const char* form;
+  const char* table;
+  const char* box;
+};
+
+class TemplateReadTest : public TemplatesTest, public testing::WithParamInterface<Template> {
+ protected:
+  void SetUp() override {
+    TemplatesTest::SetUp();
+    if (Table() == "ID_ANNOTATION") {
+      Another(
+          "INSERT INTO ID_ANNOTATION (LIBRARY_ID, USE_ANNOTATION, ANNOTATION, TEXT_FONT_SIZE, TEXT_ORIENTATION) VALUES "
+          "(71, 'N', 'kept', 12, 'TopLeft')");
+    } else {
+      Another(
+          "INSERT INTO ID_EMAIL_MESSAGE (LIBRARY_ID, EMAIL_SKIP_HEADER_FOOTER, EMAIL_MESSAGE_SUBJECT, "
+          "EMAIL_MESSAGE_BODY) VALUES (71, 'N', 'kept', 'kept')");
+    }
+  }
+  static QString Table() { return GetParam().table; }
+  void Break() { Another("ALTER TABLE " + Table() + " RENAME TO ID_TEST_AWAY"); }
+  void Mend() { Another("ALTER TABLE ID_TEST_AWAY RENAME TO " + Table()); }
+  QString Stored() {
+    return Ask(Table() == "ID_ANNOTATION" ? "SELECT ANNOTATION FROM ID_ANNOTATION WHERE LIBRARY_ID = 71"
+                                          : "SELECT EMAIL_MESSAGE_SUBJECT FROM ID_EMAIL_MESSAGE WHERE LIBRARY_ID = 71");
+  }
+};
+INSTANTIATE_TEST_SUITE_P(Screens, TemplateReadTest,
+                         testing::Values(Template{"frmDeliveryEmailTemplate", "ID_EMAIL_MESSAGE", "txtSubject"},
+                                         Template{"frmLibraryAnnotationTemplate", "ID_ANNOTATION",
+                                                  "txtAnnotationText"}));
+
+TEST_P(TemplateReadTest, ATemplateThatCouldNotBeReadIsNotWritten) {
+  Break();
+  Prompt().ExpectStart("***** SQL error on " + Table(), 16);
+  Open(GetParam().form);
+  Mend();
+  EXPECT_FALSE(IsEnabled("cmdOK"));
+  EXPECT_FALSE(IsEnabled("cmdDelete"));
+  EXPECT_EQ(Stored(), "kept");
+}
+
+TEST_P(TemplateReadTest, AFailedReadOfTheDefaultLeavesTheTemplateOnShow) {
+  Open(GetParam().form);
+  Break();
+  Prompt().ExpectStart("***** SQL error on " + Table(), 16);
+  Click("cmdSetSystemDefault");
+  Mend();
+  EXPECT_EQ(Text("cmdSetSystemDefault"), "&Set System Default");
+  EXPECT_EQ(Text("txtInstitution"), "First Library");
+  EXPECT_EQ(Text(GetParam().box), "kept");
+  EXPECT_TRUE(IsEnabled("cmdOK"));
+  EXPECT_TRUE(IsEnabled("cmdDelete"));
+  Click("cmdSetSystemDefault");
+  EXPECT_EQ(Text("cmdSetSystemDefault"), "&Return");
+  EXPECT_EQ(Text(GetParam().box), "");
+  EXPECT_TRUE(IsEnabled("cmdOK"));
+  EXPECT_FALSE(IsEnabled("cmdDelete"));
+}
+
+TEST_P(TemplateReadTest, DeletingARowThatIsGoneSaysSo) {
+  Open(GetParam().form);
+  Another("DELETE FROM " + Table());
+  Prompt()
+      .Expect("Are you sure you wish to delete this record ?", 36, MessageAnswer::Yes)
+      .Expect("Nothing was deleted.  Make sure you have a valid record selected.", 48);
+  Click("cmdDelete");
+}
+
+TEST_F(EmailTemplateTest, TheFamilyThatIsOnShowIsNotReadAgain) {
+  Open("frmDeliveryEmailTemplate");
+  Fill("Your article", "body");
+  Statements();
+  Click("rdForExternalURLNo");
+  EXPECT_TRUE(Statements().isEmpty());
+  EXPECT_EQ(Text("txtSubject"), "Your article");
+}
+
+TEST_F(EmailTemplateTest, AFailedReadOfTheOtherFamilyLeavesTheOneOnShow) {
+  Open("frmDeliveryEmailTemplate");
+  Fill("Your article", "body");
+  Another("ALTER TABLE ID_EMAIL_MESSAGE RENAME TO ID_TEST_AWAY");
+  Prompt().ExpectStart("***** SQL error on ID_EMAIL_MESSAGE", 16);
+  Click("rdForExternalURLYes");
+  Another("ALTER TABLE ID_TEST_AWAY RENAME TO ID_EMAIL_MESSAGE");
+  EXPECT_TRUE(IsChecked("rdForExternalURLNo"));
+  EXPECT_EQ(Text("txtSubject"), "Your article");
+  Prompt().Expect("Email settings Updated.", 64);
+  Click("cmdOK");
+  EXPECT_EQ(Ask("SELECT EMAIL_MESSAGE_SUBJECT FROM ID_EMAIL_MESSAGE"), "Your article");
+}
+
+// --- Log ---
+
+TEST_F(EmailTemplateTest, AFailedStatementStandsInTheLog) {
+  Open("frmDeliveryEmailTemplate");
+  Fill("Your article", "body");
+  Another("ALTER TABLE ID_EMAIL_MESSAGE RENAME COLUMN EMAIL_MESSAGE_BODY TO MOVED");
+  Prompt().ExpectStart("A problem occurred while updating this record.", 16);
+  Click("cmdOK");
+  Another("ALTER TABLE ID_EMAIL_MESSAGE RENAME COLUMN MOVED TO EMAIL_MESSAGE_BODY");
+  EXPECT_TRUE(LogHolds("* frmDeliveryEmailTemplate.cmdOK_Click"));
+  EXPECT_TRUE(LogHolds("***** SQL Error on ID_EMAIL_MESSAGE (Insert) *****"));
+  EXPECT_TRUE(LogHolds("* SQL statement: INSERT INTO ID_EMAIL_MESSAGE (LIBRARY_ID, "));
+}
+
+TEST_F(AnnotationTest, AFailedReadLeavesItsQueryInTheLog) {
+  Another("ALTER TABLE ID_ANNOTATION RENAME TO ID_TEST_AWAY");
+  Prompt().Expect("***** SQL error on ID_ANNOTATION (Select) *****", 16);
+  Open("frmLibraryAnnotationTemplate");
+  Another("ALTER TABLE ID_TEST_AWAY RENAME TO ID_ANNOTATION");
+  EXPECT_TRUE(LogHolds("* Query: SELECT   * FROM ID_ANNOTATION WHERE        LIBRARY_ID  = 71 AND PATRON_ID IS NULL"));
+}
+
+TEST_F(AnnotationTest, AFailedWriteLeavesFourLinesInTheLog) {
+  Open("frmLibraryAnnotationTemplate");
+  Type("txtAnnotationText", "Reader's copy");
+  Another("ALTER TABLE ID_ANNOTATION RENAME COLUMN TEXT_ORIENTATION TO MOVED");
+  Prompt().Expect("A serious error has occurred.  Please contact suppler.", 16);
+  Click("cmdOK");
+  Another("ALTER TABLE ID_ANNOTATION RENAME COLUMN MOVED TO TEXT_ORIENTATION");
+  EXPECT_TRUE(LogHolds("* Insert Statement: INSERT INTO ID_ANNOTATION ( LIBRARY_ID, "));
+  EXPECT_TRUE(LogHolds("* SQL Error: "));
+  EXPECT_TRUE(LogHolds("* Values: 71, , Y, Reader's copy, 8, BottomLeft"));
+  EXPECT_TRUE(
+      LogHolds("* Fields: LIBRARY_ID, PATRON_ID, USE_ANNOTATION, ANNOTATION, TEXT_FONT_SIZE, "
+               "TEXT_ORIENTATION"));
+}
+
 }  // namespace
