@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QHBoxLayout>
 
+#include "core/SqlText.h"
 #include "platform/controls/FormLayout.h"
 #include "shell/Messages.h"
 #include "shell/Procedure.h"
@@ -57,12 +58,33 @@ void AgencyIdList::Run(const QWidget* button, const QString& failed, const std::
 // --- Rows ---
 
 void AgencyIdList::Clear() {
+  copy_.reset();
   grid_->Clear();
   ShowNewRow(false);
 }
 
-void AgencyIdList::AddSavedRow(const QStringList& cellsFromColumn1) {
-  grid_->AddRow(cellsFromColumn1);
+void AgencyIdList::Show(const Content& content) {
+  Clear();
+  for (const QStringList& row : content.rows) grid_->AddRow(row);
+  copy_ = content.copy;
+}
+
+// Both statements go under the failure line of the first. The inserts are one text.
+void AgencyIdList::Write(qint32 libraryId) const {
+  QString inserts;
+  const std::vector<int> rows = SavedRows();
+  for (const int row : rows) inserts += "INSERT INTO " + Sql::Table(Table()) + " " + RowValues(row, libraryId) + "; ";
+  gstrErrorMessage = "***** SQL error on " + Table() + " (Delete) *****";
+  copy_.value().Replace([&] {
+    Connection& connection = gclsOF->Connection();
+    connection.Execute("DELETE FROM " + Sql::Table(Table()) + " WHERE LIBRARY_ID= " + Sql::Number(libraryId));
+    if (!rows.empty()) connection.Execute(inserts, static_cast<int>(rows.size()));
+  });
+  gstrErrorMessage.clear();
+}
+
+QString AgencyIdList::SelectFailed(const QString& table) {
+  return "***** SQL error on " + table + " (Select) *****";
 }
 
 std::vector<int> AgencyIdList::SavedRows() const {
@@ -98,8 +120,7 @@ QString AgencyIdList::LengthRefusal(const QString& id) {
 }
 
 void AgencyIdList::Refuse(const QString& text, int row, int col) {
-  ShowMessage(text, MessageStyle::Warning, window()->windowTitle(), {}, this);
-  grid_->setFocus(Qt::OtherFocusReason);
+  ::Refuse(this, text, MessageStyle::Warning, grid_);
   grid_->EditCell(row, col);
 }
 
@@ -152,21 +173,28 @@ void AgencyIdList::Cancel_Click() {
   });
 }
 
+// A text that was refused, or could not be tested, does not stay in its cell.
 void AgencyIdList::AfterEdit(int row, int col, const QString& old) {
-  Procedure(window()->objectName() + "." + facts_.grid + "_AfterEdit", this).OnFailure(Failed).Run([&] {
-    QStringList before;
-    for (int cell = 0; cell < grid_->Cols(); ++cell) before.append(cell == col ? old : grid_->Text(row, cell));
-    CellEdited(row, col);
-    // The buttons of a new row test for themselves, or drop the row.
-    const bool isNew = grid_->RowData(row) == New;
-    if (isNew && fraNew_->isAncestorOf(QApplication::focusWidget())) return;
-    for (const Rule& rule : rules_) {
-      if (rule.col != col) continue;
-      const QString refusal = rule.refusal(row);
-      if (refusal.isEmpty()) continue;
-      for (int cell = 0; cell < grid_->Cols(); ++cell) grid_->SetText(row, cell, before[cell]);
-      return Refuse(refusal, row, col);
-    }
-    if (!isNew) Q_EMIT Changed();
-  });
+  QStringList before;
+  for (int cell = 0; cell < grid_->Cols(); ++cell) before.append(cell == col ? old : grid_->Text(row, cell));
+  const auto putBack = [&] {
+    for (int cell = 0; cell < grid_->Cols(); ++cell) grid_->SetText(row, cell, before[cell]);
+  };
+  Procedure(window()->objectName() + "." + facts_.grid + "_AfterEdit", this)
+      .OnFailure(Failed)
+      .Finally(putBack)
+      .Run([&] {
+        CellEdited(row, col);
+        // The buttons of a new row test for themselves, or drop the row.
+        const bool isNew = grid_->RowData(row) == New;
+        if (isNew && fraNew_->isAncestorOf(QApplication::focusWidget())) return;
+        for (const Rule& rule : rules_) {
+          if (rule.col != col) continue;
+          const QString refusal = rule.refusal(row);
+          if (refusal.isEmpty()) continue;
+          putBack();
+          return Refuse(refusal, row, col);
+        }
+        if (!isNew) Q_EMIT Changed();
+      });
 }

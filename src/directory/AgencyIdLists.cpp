@@ -4,40 +4,13 @@
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 
-namespace {
-
-const QString Receive = "ID_ISO18626_AGENCY_ID_RECEIVE", Send = "ID_ISO18626_AGENCY_ID_SEND";
-
-QString SelectFailed(const QString& table) {
-  return "***** SQL error on " + table + " (Select) *****";
-}
-
-// Both statements go under the failure line of the first. The inserts are one text.
-void Replace(const QString& table, qint32 libraryId, const QStringList& inserts) {
-  Connection& connection = gclsOF->Connection();
-  gstrErrorMessage = "***** SQL error on " + table + " (Delete) *****";
-  Transaction transaction(connection);
-  const QString remove = "DELETE FROM " + Sql::Table(table) + " WHERE LIBRARY_ID= " + Sql::Number(libraryId);
-  gclsOF->SetLastSQL(remove);
-  connection.Execute(remove);
-  if (!inserts.isEmpty()) {
-    gclsOF->SetLastSQL(inserts.join(QString()));
-    connection.Execute(inserts.join(QString()), static_cast<int>(inserts.size()));
-  }
-  transaction.Commit();
-  gclsOF->SetLastSQL({});
-  gstrErrorMessage.clear();
-}
-
-}  // namespace
-
 // --- Receive ---
 
 AgencyIdReceiveList::AgencyIdReceiveList(QWidget* parent)
     : AgencyIdList(parent,
-                   {"fraAgencyIdReceive", "Agency Ids for receiving messages", "grdISO18626AgencyIdReceive",
-                    "cmdAddISO18626AgencyIdReceive", "cmdDeleteISO18626AgencyIdReceive", "fraNewAgencyIdReceive",
-                    "cmdSaveAgencyIdReceive", "cmdCancelAgencyIdReceive",
+                   {"ID_ISO18626_AGENCY_ID_RECEIVE", "fraAgencyIdReceive", "Agency Ids for receiving messages",
+                    "grdISO18626AgencyIdReceive", "cmdAddISO18626AgencyIdReceive", "cmdDeleteISO18626AgencyIdReceive",
+                    "fraNewAgencyIdReceive", "cmdSaveAgencyIdReceive", "cmdCancelAgencyIdReceive",
                     "Unexpected error trying to add a row in the Grid of 'ISO 18626 Agency IDs for receiving "
                     "messages'. Please try again later.",
                     "An error occurred trying to add the new ISO 18626 Agency ID for receiving messages. Please "
@@ -57,26 +30,26 @@ AgencyIdReceiveList::AgencyIdReceiveList(QWidget* parent)
 QString AgencyIdReceiveList::OtherLibraryRefusal(const QString& id) const {
   bool taken = false;
   ForEachRow(
-      "SELECT DISTINCT LIBRARY_ID FROM " + Sql::Table(Receive) + " WHERE    ISO18626_AGENCY_ID = " + Sql::National(id),
-      SelectFailed(Receive), [&](Recordset& rows) { taken |= Value(rows, 0).toInt() != gclsOF->LibraryId(); });
+      "SELECT DISTINCT LIBRARY_ID FROM " + Sql::Table(Table()) + " WHERE    ISO18626_AGENCY_ID = " + Sql::National(id),
+      SelectFailed(Table()), [&](Recordset& rows) { taken |= Value(rows, 0).toInt() != gclsOF->LibraryId(); });
   if (!taken) return {};
   return "The Agency Id entered is already assigned to another Library. The Agency Id must be unique. Please enter a "
          "different value.";
 }
 
-void AgencyIdReceiveList::Read(qint32 libraryId) {
-  Clear();
-  ForEachRow("SELECT DISTINCT ISO18626_AGENCY_ID FROM " + Sql::Table(Receive) +
-                 " WHERE    LIBRARY_ID = " + Sql::Number(libraryId),
-             SelectFailed(Receive), [this](Recordset& rows) { AddSavedRow({Value(rows, 0)}); });
+AgencyIdList::Content AgencyIdReceiveList::Read(qint32 libraryId) const {
+  std::vector<QStringList> ids;
+  const WorkingCopy copy([&] {
+    ForEachRow("SELECT DISTINCT ISO18626_AGENCY_ID FROM " + Sql::Table(Table()) +
+                   " WHERE    LIBRARY_ID = " + Sql::Number(libraryId),
+               SelectFailed(Table()), [&](Recordset& rows) { ids.push_back({Value(rows, 0)}); });
+  });
+  return {copy, ids};
 }
 
-void AgencyIdReceiveList::Write(qint32 libraryId) const {
-  QStringList inserts;
-  for (const int row : SavedRows())
-    inserts.append("INSERT INTO " + Sql::Table(Receive) + " (ISO18626_AGENCY_ID, LIBRARY_ID) VALUES (" +
-                   Sql::National(grid_->Text(row, AgencyId)) + ", " + Sql::Number(libraryId) + "); ");
-  Replace(Receive, libraryId, inserts);
+QString AgencyIdReceiveList::RowValues(int row, qint32 libraryId) const {
+  return "(ISO18626_AGENCY_ID, LIBRARY_ID) VALUES (" + Sql::National(grid_->Text(row, AgencyId)) + ", " +
+         Sql::Number(libraryId) + ")";
 }
 
 // --- Send ---
@@ -84,9 +57,9 @@ void AgencyIdReceiveList::Write(qint32 libraryId) const {
 AgencyIdSendList::AgencyIdSendList(QWidget* parent)
     : AgencyIdList(
           parent,
-          {"fraAgencyIdSend", "Agency Ids for sending messages", "grdISO18626AgencyIdSend",
-           "cmdAddISO18626AgencyIdSend", "cmdDeleteISO18626AgencyIdSend", "fraNewAgencyIdSend", "cmdSaveAgencyIdSend",
-           "cmdCancelAgencyIdSend",
+          {"ID_ISO18626_AGENCY_ID_SEND", "fraAgencyIdSend", "Agency Ids for sending messages",
+           "grdISO18626AgencyIdSend", "cmdAddISO18626AgencyIdSend", "cmdDeleteISO18626AgencyIdSend",
+           "fraNewAgencyIdSend", "cmdSaveAgencyIdSend", "cmdCancelAgencyIdSend",
            "Unexpected error trying to add a row in the Grid of 'ISO 18626 Agency IDs for sending messages'. Please "
            "try again later.",
            "An error occurred trying to add the new ISO 18626 Agency ID for sending messages. Please Notify Support."},
@@ -112,36 +85,35 @@ void AgencyIdSendList::CellEdited(int row, int col) {
   if (col == IllSystem) grid_->SetText(row, SystemCode, codeOf_.value(grid_->Text(row, IllSystem)));
 }
 
-void AgencyIdSendList::ReadSystems() {
+AgencyIdList::Content AgencyIdSendList::Read(qint32 libraryId) const {
+  std::vector<QStringList> ids;
+  std::vector<std::pair<QString, QString>> systems;
+  const QString description = "ILL_SYSTEM_DESC" + gclsOF->LanguageSuffix(), system = Sql::Table("ID_ILL_SYSTEM");
+  const WorkingCopy copy([&] {
+    ForEachRow("SELECT DISTINCT ILL_SYSTEM, " + description + " FROM " + system, SelectFailed("ID_ILL_SYSTEM"),
+               [&](Recordset& rows) { systems.emplace_back(Value(rows, 1), Value(rows, 0)); });
+    ForEachRow("SELECT DISTINCT A.EXTERNAL_ILL_SYSTEM, SY." + description + ", A.ISO18626_AGENCY_ID FROM " +
+                   Sql::Table(Table()) + " A INNER JOIN " + system +
+                   " SY ON A.EXTERNAL_ILL_SYSTEM = SY.ILL_SYSTEM WHERE    A.LIBRARY_ID = " + Sql::Number(libraryId),
+               SelectFailed(Table()), [&](Recordset& rows) {
+                 ids.push_back({Value(rows, 1), Value(rows, 2), Value(rows, 0)});
+               });
+  });
+  return {copy, ids, systems};
+}
+
+void AgencyIdSendList::Show(const Content& content) {
   codeOf_.clear();
   QStringList descriptions;
-  ForEachRow(
-      "SELECT DISTINCT ILL_SYSTEM, ILL_SYSTEM_DESC" + gclsOF->LanguageSuffix() + " FROM " + Sql::Table("ID_ILL_SYSTEM"),
-      SelectFailed("ID_ILL_SYSTEM"), [&](Recordset& rows) {
-        const QString description = Value(rows, 1);
-        if (!codeOf_.contains(description)) codeOf_.insert(description, Value(rows, 0));
-        descriptions.append(description);
-      });
+  for (const auto& [description, code] : content.choices) {
+    if (!codeOf_.contains(description)) codeOf_.insert(description, code);
+    descriptions.append(description);
+  }
+  AgencyIdList::Show(content);
   grid_->SetEditable(IllSystem, 0, descriptions);
 }
 
-void AgencyIdSendList::Read(qint32 libraryId) {
-  Clear();
-  ReadSystems();
-  ForEachRow("SELECT DISTINCT A.EXTERNAL_ILL_SYSTEM, SY.ILL_SYSTEM_DESC" + gclsOF->LanguageSuffix() +
-                 ", A.ISO18626_AGENCY_ID FROM " + Sql::Table(Send) + " A INNER JOIN " + Sql::Table("ID_ILL_SYSTEM") +
-                 " SY ON A.EXTERNAL_ILL_SYSTEM = SY.ILL_SYSTEM WHERE    A.LIBRARY_ID = " + Sql::Number(libraryId),
-             SelectFailed(Send), [this](Recordset& rows) {
-               AddSavedRow({Value(rows, 1), Value(rows, 2), Value(rows, 0)});
-             });
-}
-
-void AgencyIdSendList::Write(qint32 libraryId) const {
-  QStringList inserts;
-  for (const int row : SavedRows())
-    inserts.append("INSERT INTO " + Sql::Table(Send) +
-                   " (LIBRARY_ID, EXTERNAL_ILL_SYSTEM, ISO18626_AGENCY_ID) VALUES (" + Sql::Number(libraryId) + ", " +
-                   Sql::National(grid_->Text(row, SystemCode)) + ", " + Sql::National(grid_->Text(row, AgencyId)) +
-                   "); ");
-  Replace(Send, libraryId, inserts);
+QString AgencyIdSendList::RowValues(int row, qint32 libraryId) const {
+  return "(LIBRARY_ID, EXTERNAL_ILL_SYSTEM, ISO18626_AGENCY_ID) VALUES (" + Sql::Number(libraryId) + ", " +
+         Sql::National(grid_->Text(row, SystemCode)) + ", " + Sql::National(grid_->Text(row, AgencyId)) + ")";
 }

@@ -13,9 +13,10 @@ class AgencyIdReceiveList : public AgencyIdList {
 
   enum Column { AgencyId = 1, ColumnCount };
 
-  void Read(qint32 libraryId);
-  // Replaces the rows of the library in one transaction.
-  void Write(qint32 libraryId) const;
+  Content Read(qint32 libraryId) const override;
+
+ protected:
+  QString RowValues(int row, qint32 libraryId) const override;
 
  private:
   QString OtherLibraryRefusal(const QString& id) const;
@@ -31,14 +32,13 @@ class AgencyIdSendList : public AgencyIdList {
   // The code behind the description stands in a hidden column.
   enum Column { IllSystem = 1, AgencyId, SystemCode, ColumnCount };
 
-  void Read(qint32 libraryId);
-  void Write(qint32 libraryId) const;
+  Content Read(qint32 libraryId) const override;
+  void Show(const Content& content) override;
 
  protected:
   void CellEdited(int row, int col) override;
+  QString RowValues(int row, qint32 libraryId) const override;
 
  private:
-  void ReadSystems();
-
   QHash<QString, QString> codeOf_;  // by description; the first of equal ones
 };

@@ -16,13 +16,14 @@ void DefaultCode::Configure(const CustomText& texts) {
                             facts_.failureLine);
 }
 
-void DefaultCode::Choose(QWidget* form) {
-  box_->SetIndex(-1);
-  box_->SetCode(*facts_.builtIn ? QString(facts_.builtIn) : QString());
+void DefaultCode::Choose(QWidget* form, bool listWasRead) {
+  box_->Hold(*facts_.builtIn ? QString(facts_.builtIn) : QString());
   if (code_.isEmpty() || box_->SetCode(code_)) return;
+  if (!listWasRead) return box_->Hold(code_);
   if (*facts_.warning)
-    ShowMessage(facts_.warning + (description_.isEmpty() ? code_ : description_) +
-                    "* has not been registered and cannot be set.",
-                MessageStyle::Warning, form->windowTitle(), {}, form);
+    Tell(form,
+         facts_.warning + (description_.isEmpty() ? code_ : description_) +
+             "* has not been registered and cannot be set.",
+         MessageStyle::Warning);
   code_.clear();
 }

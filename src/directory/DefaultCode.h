@@ -23,9 +23,11 @@ class DefaultCode {
   DefaultCode(CodeComboBox* box, Facts facts) : box_(box), facts_(facts) {}
 
   void Configure(const CustomText& texts);
-  // Chooses the start entry. A configured code that the list does not hold is told once and forgotten.
-  void Choose(QWidget* form);
+  // Chooses the start entry. A configured code that the list does not hold is told once and forgotten, unless the list
+  // was not read: then nobody knows, and the code is held.
+  void Choose(QWidget* form, bool listWasRead);
   const QString& Code() const { return code_; }
+  const CodeComboBox* Box() const { return box_; }
 
  private:
   CodeComboBox* box_;

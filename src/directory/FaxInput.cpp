@@ -18,7 +18,7 @@ FaxInput::FaxInput(TextBox* box, QCheckBox* free, QString enterMessage)
   // One width for both lengths: the form keeps its shape when the tick comes and goes.
   box_->setMinimumWidth(Form::FieldWidth(box_, FreeLength));
   box_->SetKeyPress([this](char16_t key) { return KeyPress(key); });
-  connect(box_, &TextBox::Change, this, &FaxInput::Change);
+  connect(box_, &TextBox::Edited, this, &FaxInput::Change);
   connect(free_, &QCheckBox::toggled, this, &FaxInput::SetLimit);
   SetLimit();
 }
@@ -40,20 +40,19 @@ void FaxInput::Reset() {
 }
 
 void FaxInput::Show(const QString& stored) {
-  // The limit first: the shorter one would cut the number.
-  free_->setChecked(!gclsOF->FaxAvailable() || (!stored.isEmpty() && !IsShaped(stored)));
+  // The limit comes behind the number, which it would cut.
+  box_->setMaxLength(std::max(FreeLength, static_cast<int>(stored.size())));
   box_->SetText(stored);
+  free_->setChecked(!gclsOF->FaxAvailable() || (!stored.isEmpty() && !IsShaped(stored)));
   SetLimit();
 }
 
 void FaxInput::SetLimit() {
-  const int formatted = std::max(FormattedLength, static_cast<int>(box_->Text().size()));
-  box_->setMaxLength(IsFormatting() ? formatted : FreeLength);
+  box_->setMaxLength(std::max(IsFormatting() ? FormattedLength : FreeLength, static_cast<int>(box_->Text().size())));
 }
 
 void FaxInput::TellUnfinished() {
-  QWidget* const form = box_->window();
-  ShowMessage(enterMessage_, MessageStyle::Stop, form->windowTitle(), {}, form);
+  Tell(box_->window(), enterMessage_, MessageStyle::Stop);
 }
 
 char16_t FaxInput::KeyPress(char16_t key) {
@@ -74,7 +73,7 @@ char16_t FaxInput::KeyPress(char16_t key) {
 
 // Each mark comes when the character behind it has been typed, or where it stands at the end of its group.
 void FaxInput::Change() {
-  if (gbFillingFields || !IsFormatting() || gbFaxBackspace) return;
+  if (!IsFormatting() || gbFaxBackspace) return;
   const QString text = box_->Text();
   if (text.size() == 1 && text[0] != '(') {
     Put("(" + text, 2);

@@ -23,28 +23,20 @@ bool LibraryScreen::Run(const QString& handler, const std::function<void()>& bod
 }
 
 bool LibraryScreen::RunUpdate(const QString& handler, const QString& closingText, const std::function<void()>& body) {
-  gclsOF->SetLastSQL({});
+  QString statement;
   return Procedure(LogName(handler), this)
-      .OnFailure(closingText)
-      .Finally([] {
-        if (!gclsOF->LastSQL().isEmpty()) gclsOF->WriteLog(gclsOF->LastSQL(), {}, "S");
+      .OnFailure([&](const AdoError& error) {
+        statement = error.Statement();
+        return closingText;
+      })
+      .Finally([&] {
+        if (!statement.isEmpty()) gclsOF->WriteLog(statement, {}, "S");
       })
       .Run(body);
 }
 
-qint64 LibraryScreen::ExecuteUpdate(const QString& sql, const QString& failureLine, bool inTransaction) {
-  gclsOF->SetLastSQL(sql);
-  const qint64 affected = inTransaction ? ExecuteInTransaction(sql, failureLine) : Execute(sql, failureLine);
-  gclsOF->SetLastSQL({});
-  return affected;
-}
-
-int LibraryScreen::Tell(const QString& text, int style, const QString& title) {
-  return ShowMessage(text, style, title.isEmpty() ? Caption() : title, {}, this);
-}
-
 bool LibraryScreen::Refuse(const QString& text, QWidget* box) {
-  Tell(text, MessageStyle::Stop);
+  Tell(this, text, MessageStyle::Stop);
   if (box == txtLibrarySymbol) {
     FocusSymbol();
   } else if (auto* const field = qobject_cast<TextBox*>(box)) {
@@ -59,22 +51,33 @@ bool LibraryScreen::Refuse(const QString& text, QWidget* box) {
 
 void LibraryScreen::Form_Load() {
   const Hourglass hourglass;
+  rights_ = gclsOF->Rights();
+  record_.Observe([this] { FollowRecord(); });
   Run("Form_Load", [this] {
     {
-      const FillingFields filling;
+      const Record::Filling filling(record_);
       LoadSettings();
       PutBuiltInTips(*this, TextKeys());
       if (!gclsOF->CustomConfigFile().isEmpty()) LoadText();
-      // A list that cannot be filled is told and leaves the rest of the screen usable.
-      Procedure(LogName("PopulateComboBoxes"), this)
-          .OnFailure("An error has occurred loading the drop down lists.  Please Notify Support.")
-          .Run([this] { PopulateComboBoxes(); });
+      PopulateComboBoxes();
     }
     ApplyCaller();
     ReadAtLoad();
     ApplyRights();
-    mbRecordModified = false;
+    record_.Settled();
   });
+}
+
+// Each list fails for itself: the others are filled all the same, and the screen is usable.
+void LibraryScreen::PopulateComboBoxes() {
+  Procedure procedure(LogName("PopulateComboBoxes"), this);
+  unreadLists_.clear();
+  for (const CodeList& list : CodeLists())
+    if (!procedure.Step([&list] { list.Fill(); }))
+      for (const CodeComboBox* box : list.boxes) unreadLists_.insert(box);
+  ChooseDefaults();
+  if (!unreadLists_.isEmpty())
+    Tell(this, "An error has occurred loading the drop down lists.  Please Notify Support.", MessageStyle::Stop);
 }
 
 void LibraryScreen::LoadText() {
@@ -94,72 +97,84 @@ void LibraryScreen::ApplyCaller() {
 }
 
 void LibraryScreen::ReadAtLoad() {
-  EnableRecord(false);
-  mbRecordDisplayed = false;
+  SetDisplayed(false);
   {
-    const FillingFields filling;
+    const Record::Filling filling(record_);
     ShowNoRecord();
   }
   if (gclsOF->LibraryId() >= 1) Read(gclsOF->LibraryId());
 }
 
 void LibraryScreen::ApplyRights() {
-  ShowButton(cmdUpdate, gclsOF->CanUpdate());
+  ShowButton(cmdUpdate, rights_.update);
 }
 
 // Another session of the library screens may have run over this one.
 void LibraryScreen::Form_Activate() {
-  if (mbRecordDisplayed) gbLibraryActive = RecordIsActive();
+  if (record_.MayBeWritten()) gbLibraryActive = RecordIsActive();
 }
 
 // --- The record ---
 
 LibraryScreen::ReadResult LibraryScreen::Read(qint32 libraryId) {
   ReadResult result = ReadResult::Failed;
-  bool replaced = false;
-  const bool read = Run(facts_.readProcedure, [&] {
+  Run(facts_.readProcedure, [&] {
     const Hourglass hourglass;
+    Record::Reading reading(record_);
     Recordset rows;
     OpenRows(rows,
              "SELECT   LIBRARY_ACTIVE, LIBRARY_SYMBOL, INSTITUTION_NAME, LIBRARY, CONTACT" + Columns() + " FROM " +
                  Sql::Table("ID_LIBRARY") + " WHERE    LIBRARY_ID = " + Sql::Number(libraryId),
              LibrarySelectFailed);
     if (rows.EOF_()) {
-      EnableRecord(false);
+      SetDisplayed(false);
       result = ReadResult::NoRow;
       return;
     }
-    replaced = true;
-    const FillingFields filling;
-    gclsOF->SetLibraryId(libraryId);
+    ReadFurther(rows, libraryId);
+    reading.Replaces();
+    TakeInHand({libraryId, Value(rows, "LIBRARY_SYMBOL"), Value(rows, "LIBRARY_ACTIVE")});
     FillBanner(rows);
     ShowRecord(rows);
-    mbRecordModified = false;
-    mbRecordDisplayed = true;
-    EnableRecord(true);
+    reading.Ended();
     result = ReadResult::Found;
   });
-  if (!read && replaced) {
-    // Half a record is on the screen; it must not be saved over the whole one.
-    mbRecordModified = false;
-    mbRecordDisplayed = false;
-    EnableRecord(false);
-  }
   return result;
 }
 
+void LibraryScreen::TakeInHand(const LibraryInHand& library) {
+  library_ = library;
+  gclsOF->SetLibraryId(library.id);
+  ShowActiveLetter(library.activeLetter);
+  SetDisplayed(true);
+}
+
+void LibraryScreen::LetGo() {
+  library_ = {};
+  gclsOF->SetLibraryId(0);
+  displayed_ = false;
+  record_.Gone();
+  FollowRecord();
+}
+
+void LibraryScreen::SetDisplayed(bool displayed) {
+  displayed_ = displayed;
+  FollowRecord();
+}
+
+void LibraryScreen::FollowRecord() {
+  EnableRecord(displayed_ && record_.MayBeWritten());
+}
+
 void LibraryScreen::FillBanner(const Recordset& rows) {
-  mstrDisplayedSymbol = Value(rows, "LIBRARY_SYMBOL");
-  mstrEnteredSymbol = mstrDisplayedSymbol;
-  txtLibrarySymbol->SetText(mstrDisplayedSymbol);
+  txtLibrarySymbol->SetText(library_.symbol);
   txtInstitution->SetText(Value(rows, "INSTITUTION_NAME"));
   txtLibraryName->SetText(Value(rows, "LIBRARY"));
   txtContact->SetText(Value(rows, "CONTACT"));
-  ShowActiveLetter(Value(rows, "LIBRARY_ACTIVE"));
 }
 
 void LibraryScreen::ShowActiveLetter(const QString& letter) {
-  mstrActiveLetter = letter;
+  library_.activeLetter = letter;
   gbLibraryActive = letter != "N";
   lblLibraryInactiveMessage->setVisible(letter == "N");
   lblLibraryPendingMessage->setVisible(letter == "P");
@@ -171,20 +186,15 @@ void LibraryScreen::ReadOrClear(qint32 libraryId) {
 
 void LibraryScreen::ClearScreen() {
   {
-    const FillingFields filling;
+    const Record::Filling filling(record_);
     for (TextBox* box : {txtLibrarySymbol, txtInstitution, txtLibraryName, txtContact}) box->clear();
     ClearFields();
     cmbLibrarySymbol->Clear();
     cmbLibrarySymbol->lineEdit()->clear();
   }
-  gclsOF->SetLibraryId(0);
   lblLibraryInactiveMessage->hide();
   lblLibraryPendingMessage->hide();
-  mbRecordModified = false;
-  mbRecordDisplayed = false;
-  mstrDisplayedSymbol.clear();
-  mstrEnteredSymbol.clear();
-  EnableRecord(false);
+  LetGo();
   Display("TextBox");
 }
 
@@ -215,21 +225,20 @@ void LibraryScreen::FocusSymbol() {
     cmbLibrarySymbol->setFocus(Qt::OtherFocusReason);
 }
 
-// --- Changed fields ---
-
-void LibraryScreen::MarkModified() {
-  if (!gbFillingFields) mbRecordModified = true;
+void LibraryScreen::ShowCode(CodeComboBox* box, const QString& code) {
+  box->Hold(code.isEmpty() ? QString() : code);
 }
 
+// --- Changed fields ---
+
 bool LibraryScreen::GuardPassed(const QString& firstLine) {
-  if (firstLine.isEmpty() || !gclsOF->CanUpdate() || gclsOF->LibraryId() < 1 || !mbRecordModified) return true;
-  const int answer = Tell(firstLine + "\nDo you wish to apply the updates before continuing?", MessageStyle::Question);
-  if (answer == MessageAnswer::Yes) {
+  if (firstLine.isEmpty() || !rights_.update || !HasRecord() || !record_.Modified()) return true;
+  if (Confirm(this, firstLine + "\nDo you wish to apply the updates before continuing?")) {
     // Not a click: the button is off while a typed symbol has not been searched.
     cmdUpdate_Click();
     return false;
   }
-  const FillingFields filling;
+  const Record::Filling filling(record_);
   DropEdits();
   return true;
 }
@@ -239,14 +248,14 @@ bool LibraryScreen::Form_QueryUnload() {
   return gbVetoUnload;
 }
 
+bool LibraryScreen::HasRecord() const {
+  return record_.MayBeWritten() && library_.id >= 1 && gclsOF->LibraryId() == library_.id && !library_.symbol.isEmpty();
+}
+
 bool LibraryScreen::HasRecordToUpdate(const QString& unchanged) {
-  if (!mbRecordModified) {
-    Tell(unchanged, MessageStyle::Stop);
-    return false;
-  }
-  if (gclsOF->LibraryId() >= 1 && !mstrDisplayedSymbol.isEmpty()) return true;
-  Tell("A record must be displayed before you can update.", MessageStyle::Stop);
-  return false;
+  if (record_.Modified() && HasRecord()) return true;
+  const QString text = record_.Modified() ? "A record must be displayed before you can update." : unchanged;
+  return ::Refuse(this, text, MessageStyle::Stop, nullptr);
 }
 
 bool LibraryScreen::SymbolIsGiven() {
@@ -258,17 +267,24 @@ QString LibraryScreen::PresentDate() {
   return gclsOF->SqlDate(Clock::Now());
 }
 
-QString LibraryScreen::UpdateOfRecord(const ColumnValues& values) {
+QString LibraryScreen::UpdateOfRecord(const ColumnValues& values) const {
   return "UPDATE " + Sql::Table("ID_LIBRARY") + " SET      " + values.Assignments() +
-         " WHERE    LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId());
+         " WHERE    LIBRARY_ID = " + Sql::Number(library_.id);
+}
+
+// Another client has deleted the library: what is on show may be added again, not written.
+bool LibraryScreen::RowWasFound(qint64 affected) {
+  if (affected > 0) return true;
+  LetGo();
+  return ::Refuse(this, "Record not found.", MessageStyle::Information, nullptr);
 }
 
 void LibraryScreen::TellUpdated() {
-  Tell("Library Symbol: (" + txtLibrarySymbol->Text() + ") has been updated.", MessageStyle::Information);
-  mbRecordModified = false;
+  Tell(this, "Library Symbol: (" + library_.symbol + ") has been updated.", MessageStyle::Information);
+  record_.Settled();
 }
 
 qint64 LibraryScreen::ResetLoadBalancing() {
-  return ExecuteUpdate("UPDATE " + Sql::Table("ID_LIBRARY") + " SET      REQUESTS_PROCESSED = 0",
-                       "***** SQL error on ID_LIBRARY (Update) *****");
+  return ExecuteInTransaction("UPDATE " + Sql::Table("ID_LIBRARY") + " SET      REQUESTS_PROCESSED = 0",
+                              "***** SQL error on ID_LIBRARY (Update) *****");
 }

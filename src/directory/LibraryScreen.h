@@ -2,7 +2,11 @@
 
 #include <QHash>
 #include <QMenu>
+#include <QSet>
 
+#include "core/Record.h"
+#include "core/UserRights.h"
+#include "directory/CodeList.h"
 #include "directory/CustomText.h"
 #include "directory/LibraryScreenFacts.h"
 #include "platform/ado/Recordset.h"
@@ -16,9 +20,17 @@ class DateBox;
 class OptionGroup;
 class QCheckBox;
 
+// The row of ID_LIBRARY that a screen works on, as it was read.
+struct LibraryInHand {
+  qint32 id = 0;  // below 1: none
+  QString symbol;
+  QString activeLetter;  // LIBRARY_ACTIVE
+};
+
 // What the five library screens share. A library is one row of ID_LIBRARY; each screen edits its slice of it, and the
-// record goes with the user from one to the next through the current library id of the common services. A screen adds
-// its fields, the columns it reads, how it shows and empties them, its checks and its UPDATE.
+// record goes with the user from one to the next through the current library id of the common services. What may be
+// done to it follows from how it was read: a reading that fails leaves the library before in hand, its id included. A
+// screen adds its fields, the columns it reads, how it shows and empties them, its checks and its UPDATE.
 class LibraryScreen : public Screen {
   Q_OBJECT
 
@@ -31,12 +43,16 @@ class LibraryScreen : public Screen {
   // --- What a screen tells of itself ---
   // Columns it reads besides active letter, symbol, institution, library and contact, each with a leading ", ".
   virtual QString Columns() const = 0;
-  // Fills the fields of the screen. Further reads that belong to the record are made here.
+  // Reads what belongs to the record besides its row, before anything on the screen is replaced.
+  virtual void ReadFurther(const Recordset&, qint32 /*libraryId*/) {}
+  // Fills the fields of the screen from the row and from what was read further.
   virtual void ShowRecord(const Recordset& rows) = 0;
   // Empties the fields of the screen, lists and defaults included; symbol, banner and state are done already.
   virtual void ClearFields() = 0;
   virtual void cmdUpdate_Click() = 0;
-  virtual void PopulateComboBoxes() {}
+  // Its lists of codes, in the order in which they are read, and what they start on.
+  virtual std::vector<CodeList> CodeLists() const { return {}; }
+  virtual void ChooseDefaults() {}
   // Its keys beyond those that all five have, and what of its section is no caption.
   virtual std::span<const TextKey> TextKeys() const { return {}; }
   virtual void ReadFurtherText(const CustomText&) {}
@@ -49,9 +65,9 @@ class LibraryScreen : public Screen {
   // Buttons and entries that work on the record on show.
   virtual void EnableRecord(bool enabled);
   // The answer No: the edits are dropped, the record stays.
-  virtual void DropEdits() { mbRecordModified = false; }
+  virtual void DropEdits() { record_.Settled(); }
   // Whether the record on show may be given requests.
-  virtual bool RecordIsActive() const { return mstrActiveLetter != "N"; }
+  virtual bool RecordIsActive() const { return library_.activeLetter != "N"; }
 
   // --- Building ---
   // Puts the screen together around its own fields: menu, symbol row, banner, content, the ways to other screens
@@ -72,17 +88,13 @@ class LibraryScreen : public Screen {
   void Watch(std::initializer_list<CodeComboBox*> boxes);
   void Watch(std::initializer_list<OptionGroup*> groups);
   void Watch(std::initializer_list<DateBox*> boxes);
-  void MarkModified();
 
   // --- Steps ---
   // The frame of an event procedure of this screen; `handler` as in "cmdSearch_Click".
   bool Run(const QString& handler, const std::function<void()>& body);
   // The same around a statement that writes the record: a failure leaves the statement in the log as well.
   bool RunUpdate(const QString& handler, const QString& closingText, const std::function<void()>& body);
-  // Executes and remembers the statement as the one that may fail.
-  static qint64 ExecuteUpdate(const QString& sql, const QString& failureLine, bool inTransaction = true);
   QString LogName(const QString& handler) const;
-  int Tell(const QString& text, int style, const QString& title = {});
   // A stop message, then the box has the focus with its text selected. Always False.
   bool Refuse(const QString& text, QWidget* box);
   // True when the handler may go on. Empty words ask nothing.
@@ -94,16 +106,26 @@ class LibraryScreen : public Screen {
   bool SymbolIsGiven();
   // LAST_MODIFIED and DATE_ENTERED of a statement written now.
   static QString PresentDate();
-  // "UPDATE ID_LIBRARY SET ..." of the current library.
-  static QString UpdateOfRecord(const ColumnValues& values);
+  // "UPDATE ID_LIBRARY SET ..." of the library in hand.
+  QString UpdateOfRecord(const ColumnValues& values) const;
+  // True when the statement found the row. Otherwise that is told, and no library is in hand any more.
+  bool RowWasFound(qint64 affected);
   // "Library Symbol: (...) has been updated."; nothing is left to save.
   void TellUpdated();
   // Sets the request counters of all libraries to 0. Rows found.
   static qint64 ResetLoadBalancing();
 
+  // The code's entry, or the code as it stands; an empty one is the none entry where the list has one.
+  static void ShowCode(CodeComboBox* box, const QString& code);
+  bool ListWasRead(const CodeComboBox* box) const { return !unreadLists_.contains(box); }
+
   enum class ReadResult { Found, NoRow, Failed };
-  // Reads the library and makes it the current one. A failure has been told and leaves the screen as it stood.
+  // Reads the library and takes it in hand. A failure has been told and leaves the screen as it stood; so does a
+  // missing row, but for the commands that work on the record.
   ReadResult Read(qint32 libraryId);
+  // A library that was written or read just now.
+  void TakeInHand(const LibraryInHand& library);
+  bool HasRecord() const;
   // As after a search: a record that is gone empties the screen.
   void ReadOrClear(qint32 libraryId);
   void ShowActiveLetter(const QString& letter);
@@ -117,11 +139,9 @@ class LibraryScreen : public Screen {
   // Unloads this screen and shows the form in its place; `afterwards` runs when it and what follows it are closed.
   void UnloadAndShow(const QString& formName, std::function<void()> afterwards = {});
 
-  bool mbRecordModified = false;
-  bool mbRecordDisplayed = false;
-  QString mstrDisplayedSymbol;
-  QString mstrEnteredSymbol;
-  QString mstrActiveLetter;  // LIBRARY_ACTIVE as read last
+  Record& record() { return record_; }
+  const LibraryInHand& library() const { return library_; }
+  const FunctionRights& rights() const { return rights_; }
 
   TextBox* const txtLibrarySymbol = new TextBox(this, "txtLibrarySymbol", 25);
   CodeComboBox* const cmbLibrarySymbol = new CodeComboBox(this, "cmbLibrarySymbol");
@@ -162,6 +182,7 @@ class LibraryScreen : public Screen {
   QWidget* Banner();
   QLayout* NavigationRow(std::initializer_list<QPushButton*> doors);
   void LoadText();
+  void PopulateComboBoxes();
   void ApplyCaller();
   void ReadAtLoad();
 
@@ -175,14 +196,22 @@ class LibraryScreen : public Screen {
   void Sibling_Click(LibrarySibling target);
   void Request_Click(const QString& button, const QString& formName);
   bool RecordIsOnShow(const QString& title);
+  // Commands that work on the record follow its state, and whether its symbol still stands in the box.
+  void FollowRecord();
+  void SetDisplayed(bool displayed);
+  void LetGo();
   void ShowMatches(const QString& text);
-  void StayOnRecord();
   void FillBanner(const Recordset& rows);
 
   const LibrarySibling self_;
   const LibraryScreenFacts& facts_;
   QHash<LibrarySibling, QPushButton*> siblings_;
   QHash<QPushButton*, QAction*> entries_;
+  QSet<const CodeComboBox*> unreadLists_;
+  FunctionRights rights_;  // that the screen was opened under
+  Record record_;
+  LibraryInHand library_;
+  bool displayed_ = false;  // the symbol of the record stands in the box; a typed one is no record until it is searched
 };
 
 // Failure line of reading a library.

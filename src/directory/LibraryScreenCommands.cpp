@@ -13,9 +13,7 @@
 
 // A typed symbol is no record until it is searched. It is no change of the record either.
 void LibraryScreen::txtLibrarySymbol_Change() {
-  mstrEnteredSymbol = txtLibrarySymbol->Text();
-  mbRecordDisplayed = false;
-  EnableRecord(false);
+  SetDisplayed(false);
 }
 
 void LibraryScreen::cmbLibrarySymbol_Change() {
@@ -32,8 +30,7 @@ void LibraryScreen::cmbLibrarySymbol_Change() {
 
 void LibraryScreen::cmbLibrarySymbol_Click() {
   Run("cmbLibrarySymbol_Click", [this] {
-    if (cmbLibrarySymbol->Index() < 0) return;
-    if (Read(cmbLibrarySymbol->Code().toInt()) == ReadResult::Found) EnableRecord(gclsOF->LibraryId() >= 1);
+    if (cmbLibrarySymbol->Index() >= 0) Read(cmbLibrarySymbol->Code().toInt());
   });
 }
 
@@ -41,8 +38,7 @@ void LibraryScreen::cmdSearch_Click() {
   Run("cmdSearch_Click", [this] {
     if (!GuardPassed(facts_.guard.search)) return;
     SearchFrom(txtLibrarySymbol, [this](const QString& text, qint32& id, qint32& count) {
-      mstrEnteredSymbol = text;
-      return SearchLibrarySymbol(mbRecordDisplayed, mstrDisplayedSymbol, mstrEnteredSymbol, id, count);
+      return SearchLibrarySymbol(displayed_ && HasRecord(), library_.symbol, text, id, count);
     });
   });
 }
@@ -50,34 +46,31 @@ void LibraryScreen::cmdSearch_Click() {
 void LibraryScreen::SearchFrom(TextBox* box,
                                const std::function<bool(const QString& text, qint32& id, qint32& count)>& lookUp) {
   const auto focus = [this, box] { box == txtLibrarySymbol ? FocusSymbol() : box->SelectAllAndFocus(); };
-  const bool modified = mbRecordModified;
-  const QString text = box->TrimInPlace();
-  mbRecordModified = modified;
+  QString text;
+  {
+    const Record::Filling filling(record_);
+    text = box->TrimInPlace();
+  }
   if (text == "%") {
-    Tell("Search string too broad. Please enter a valid search criteria.", MessageStyle::Stop);
+    Tell(this, "Search string too broad. Please enter a valid search criteria.", MessageStyle::Stop);
     return focus();
   }
   qint32 id = 0, count = 0;
   if (!lookUp(text, id, count)) return;
-  if (id == -1) return StayOnRecord();
-  if (id < 1 && count > 1) return ShowMatches(text);
+  if (id == -1) return FocusSymbol();  // the record on show is meant
+  // The pattern of another symbol is none of the library's.
+  if (id < 1 && count > 1) return ShowMatches(box == txtLibrarySymbol ? text : QString());
   if (id >= 1 || count == 1) {
     Display("TextBox");
     return ReadOrClear(id >= 1 ? id : gLibraryMatches.front().LibraryID);
   }
   ClearScreen();
   {
-    const FillingFields filling;
+    const Record::Filling filling(record_);
     box->SetText(text);
   }
-  if (box == txtLibrarySymbol) mstrEnteredSymbol = text;
   focus();
-  Tell("Record not found.", MessageStyle::Information);
-}
-
-void LibraryScreen::StayOnRecord() {
-  EnableRecord(gclsOF->LibraryId() >= 1 && mbRecordDisplayed);
-  FocusSymbol();
+  Tell(this, "Record not found.", MessageStyle::Information);
 }
 
 void LibraryScreen::ShowMatches(const QString& text) {
@@ -92,14 +85,18 @@ void LibraryScreen::ShowMatches(const QString& text) {
 void LibraryScreen::cmdAdvanced_Click() {
   Run("cmdAdvanced_Click", [this] {
     if (!GuardPassed(facts_.guard.search)) return;
+    const qint32 inHand = gclsOF->LibraryId();
     ::ShowModal("frmLibrarySearch", this);
-    if (gclsOF->LibraryId() >= 1) {
-      Display("TextBox");
-      if (Read(gclsOF->LibraryId()) == ReadResult::Found) txtLibrarySymbol->SelectAllAndFocus();
+    const qint32 chosen = gclsOF->LibraryId();
+    // The library in hand stays there until the one that was chosen has been read.
+    gclsOF->SetLibraryId(inHand);
+    if (chosen < 1) {
+      SetDisplayed(false);
     } else {
-      EnableRecord(false);
+      Display("TextBox");
+      if (Read(chosen) == ReadResult::Found) txtLibrarySymbol->SelectAllAndFocus();
     }
-    mbRecordModified = false;
+    record_.Settled();
   });
 }
 
@@ -146,7 +143,7 @@ void LibraryScreen::UnloadAndShow(const QString& formName, std::function<void()>
 
 bool LibraryScreen::RecordIsOnShow(const QString& title) {
   if (gclsOF->LibraryId() >= 1) return true;
-  Tell("A record must be displayed before placing a request.", MessageStyle::Stop, title);
+  ShowMessage("A record must be displayed before placing a request.", MessageStyle::Stop, title, {}, this);
   return false;
 }
 
@@ -157,7 +154,7 @@ void LibraryScreen::Request_Click(const QString& button, const QString& formName
     if (!GuardPassed(facts_.guard.request)) return;
     if (!recordFirst && !RecordIsOnShow("Ostana - Book/Article")) return;
     if (!gbLibraryActive) {
-      Tell("This library is currently inactive.  Requests may only be placed for active libraries.",
+      Tell(this, "This library is currently inactive.  Requests may only be placed for active libraries.",
            MessageStyle::Stop);
       return;
     }
@@ -178,7 +175,7 @@ void LibraryScreen::cmdClose_Click() {
     if (back == callers.constEnd()) {
       Unload();
     } else if (!gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), caller)) {
-      Tell(gclsOF->LastError(), MessageStyle::Stop);
+      Tell(this, gclsOF->LastError(), MessageStyle::Stop);
     } else if (back->isEmpty()) {
       Unload();
     } else {

@@ -43,6 +43,8 @@ LibraryScreen::LibraryScreen(LibrarySibling self, QWidget* parent)
   cmbLibrarySymbol->setEditable(true);
   cmbLibrarySymbol->setInsertPolicy(QComboBox::NoInsert);
   cmbLibrarySymbol->setCompleter(nullptr);
+  // The toolkit would pick the entry that a typed symbol names as soon as the focus leaves the list.
+  disconnect(cmbLibrarySymbol->lineEdit(), &QLineEdit::editingFinished, cmbLibrarySymbol, nullptr);
   cmbLibrarySymbol->hide();
   lblFound->hide();
   txtFound->hide();
@@ -191,17 +193,17 @@ bool LibraryScreen::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void LibraryScreen::Watch(std::initializer_list<TextBox*> boxes) {
-  for (TextBox* box : boxes) connect(box, &TextBox::Change, this, &LibraryScreen::MarkModified);
+  for (TextBox* box : boxes) connect(box, &TextBox::Change, this, [this] { record_.Touched(); });
 }
 
 void LibraryScreen::Watch(std::initializer_list<CodeComboBox*> boxes) {
-  for (CodeComboBox* box : boxes) connect(box, &CodeComboBox::Click, this, &LibraryScreen::MarkModified);
+  for (CodeComboBox* box : boxes) connect(box, &CodeComboBox::Click, this, [this] { record_.Touched(); });
 }
 
 void LibraryScreen::Watch(std::initializer_list<OptionGroup*> groups) {
-  for (OptionGroup* group : groups) connect(group, &OptionGroup::Click, this, &LibraryScreen::MarkModified);
+  for (OptionGroup* group : groups) connect(group, &OptionGroup::Click, this, [this] { record_.Touched(); });
 }
 
 void LibraryScreen::Watch(std::initializer_list<DateBox*> boxes) {
-  for (DateBox* box : boxes) connect(box, &DateBox::Change, this, &LibraryScreen::MarkModified);
+  for (DateBox* box : boxes) connect(box, &DateBox::Change, this, [this] { record_.Touched(); });
 }

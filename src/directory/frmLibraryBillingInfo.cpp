@@ -4,7 +4,6 @@
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "directory/ColumnValues.h"
-#include "shell/Lists.h"
 #include "shell/Messages.h"
 #include "shell/NumericFields.h"
 #include "shell/Procedure.h"
@@ -13,18 +12,9 @@ namespace {
 
 const QString Processed = "#######0", Weight = "#####0.00", Quota = "######0";
 
-QString ListOf(const QString& code, const QString& table) {
-  const QString description = code + "_DESC" + gclsOF->LanguageSuffix();
-  return "SELECT   " + code + ", " + description + " FROM " + Sql::Table(table) + " ORDER BY " + description;
-}
-
 // In the writing of the machine; a NULL leaves the box empty.
 QString Shown(const QString& stored, const QString& mask) {
   return stored.isEmpty() ? QString() : Numbers::Format(Numbers::Val(stored), mask);
-}
-
-void ShowCode(CodeComboBox* box, const QString& code) {
-  if (code.isEmpty() || !box->SetCode(code)) box->SetCode({});
 }
 
 }  // namespace
@@ -38,16 +28,18 @@ void frmLibraryBillingInfo::LoadSettings() {
   mnuOptionsResetLoadBalancing->setVisible(gbUseLoadBalancing);
 }
 
-void frmLibraryBillingInfo::PopulateComboBoxes() {
-  FillCombo(*cboBillingType, "(None)", ListOf("BILLING_TYPE", "ID_BILLING_TYPE"),
-            "***** SQL error on ID_BILLING_TYPE (Select) *****", 1, 0);
-  FillCombo(*cboBillingRate, "(None)", ListOf("BILLING_RATE", "ID_BILLING_RATE"),
-            "***** SQL error on ID_BILLING_RATE (Select) *****", 1, 0);
-  FillCombo(*cmbCurrency, "(None)", ListOf("CURRENCY_CODE", "ID_CURRENCY_CODE"),
-            "***** SQL error on ID_CURRENCY_CODE (Select) *****", 1, 0);
-  FillCombo(*cboCCType, "(None)", ListOf("CREDIT_CARD", "ID_CREDIT_CARD"),
-            "***** SQL error on ID_CREDIT_CARD (Select) *****", 1, 0);
-  for (DefaultCode* code : Defaults()) code->Choose(this);
+std::vector<CodeList> frmLibraryBillingInfo::CodeLists() const {
+  const auto list = [](CodeComboBox* box, const QString& code) {
+    const QString table = "ID_" + code;
+    return CodeList{
+        SelectCodes("SELECT   ", code, table), "***** SQL error on " + table + " (Select) *****", {box}, "(None)"};
+  };
+  return {list(cboBillingType, "BILLING_TYPE"), list(cboBillingRate, "BILLING_RATE"),
+          list(cmbCurrency, "CURRENCY_CODE"), list(cboCCType, "CREDIT_CARD")};
+}
+
+void frmLibraryBillingInfo::ChooseDefaults() {
+  for (DefaultCode* code : Defaults()) code->Choose(this, ListWasRead(code->Box()));
 }
 
 void frmLibraryBillingInfo::ShowNoRecord() {
@@ -67,6 +59,14 @@ QString frmLibraryBillingInfo::Columns() const {
          "BILL_POST_ZIPCODE, BILL_CONTACT, BILL_PHONE, BILL_FAX, LIBRARY_ACCOUNT, CURRENCY_CODE, CREDIT_CARD, "
          "CREDIT_CARD_NAME, CREDIT_CARD_NUM, CREDIT_CARD_EXP, CREDIT_CARD_CODE, QUOTA_TOTAL, QUOTA_FILLED, "
          "QUOTA_RESET_DATE, REQUESTS_PROCESSED, WEIGHTING_FACTOR";
+}
+
+void frmLibraryBillingInfo::ReadFurther(const Recordset&, qint32 libraryId) {
+  FirstValue(
+      "SELECT   SUPPLIER_CODE "
+      " FROM " +
+          Sql::Table("ID_SUPPLIER") + " WHERE    LIBRARY_ID = " + Sql::Number(libraryId),
+      "***** SQL error on ID_SUPPLIER (Select) *****", &hasSuppliers_);
 }
 
 void frmLibraryBillingInfo::ShowRecord(const Recordset& rows) {
@@ -91,17 +91,7 @@ void frmLibraryBillingInfo::ShowRecord(const Recordset& rows) {
   // A stored card is never shown again. What these boxes hold is what the next Update stores.
   for (TextBox* box : {txtCCName, txtCCNumber, txtCCExpirationDate, txtCCCode}) box->clear();
   cboCCType->SetCode({});
-  ShowSequence(gclsOF->LibraryId());
-}
-
-void frmLibraryBillingInfo::ShowSequence(qint32 libraryId) {
-  bool found = false;
-  FirstValue(
-      "SELECT   SUPPLIER_CODE "
-      " FROM " +
-          Sql::Table("ID_SUPPLIER") + " WHERE    LIBRARY_ID = " + Sql::Number(libraryId),
-      "***** SQL error on ID_SUPPLIER (Select) *****", &found);
-  ShowButton(cmdSequenceSupplier, found);
+  ShowButton(cmdSequenceSupplier, hasSuppliers_);
 }
 
 void frmLibraryBillingInfo::ClearFields() {
@@ -109,7 +99,7 @@ void frmLibraryBillingInfo::ClearFields() {
                        txtBillingContact, txtPhone, txtFax, txtAccountNumber, txtNumberProcessed, txtWeightingFactor,
                        txtCCName, txtCCNumber, txtCCExpirationDate, txtCCCode, txtQFilled})
     box->clear();
-  for (DefaultCode* code : Defaults()) code->Choose(this);
+  ChooseDefaults();
   txtQTotal->SetText(defaultQuotaTotal_);
   txtQuotaResetDate->SetNone();
   ShowButton(cmdSequenceSupplier, false);
@@ -121,14 +111,14 @@ void frmLibraryBillingInfo::cmdUpdate_Click() {
   RunUpdate("cmdUpdate_Click", Texts::NotifySupport, [this] {
     if (!HasRecordToUpdate() || !SymbolIsGiven()) return;
     {
-      const FillingFields filling;
+      const Record::Filling filling(record());
       for (TextBox* box :
            {txtLibrarySymbol, txtInstitution, txtBillingContact, txtNumberProcessed, txtWeightingFactor, txtQTotal})
         box->TrimInPlace();
     }
     if (!ResetDateIsValid()) return;
-    ExecuteUpdate(UpdateStatement(), "***** SQL error on ID_library (Insert) *****");
-    TellUpdated();
+    if (RowWasFound(ExecuteInTransaction(UpdateStatement(), "***** SQL error on ID_library (Insert) *****")))
+      TellUpdated();
   });
 }
 
@@ -172,14 +162,14 @@ void frmLibraryBillingInfo::mnuOptionsResetLoadBalancing_Click() {
   const QString failed =
       "An error has occurred while attempting to reset Load Balancing.  If the error persists notify support.";
   RunUpdate("mnuOptionsResetLoadBalancing_Click", failed, [this] {
-    if (Tell("Are you sure wish to reset Load Balancing?", MessageStyle::Question) != MessageAnswer::Yes) return;
+    if (!Confirm(this, "Are you sure wish to reset Load Balancing?")) return;
     ResetLoadBalancing();
     // The number on show would bring the old counter back with the next Update.
-    if (mbRecordDisplayed) {
-      const FillingFields filling;
+    if (record().Status() != Record::State::None) {
+      const Record::Filling filling(record());
       txtNumberProcessed->SetText(Numbers::Format(0, Processed));
     }
-    Tell("Load Balancing has been reset.", MessageStyle::Information);
+    Tell(this, "Load Balancing has been reset.", MessageStyle::Information);
     gclsOF->WriteLog("Load Balancing has been reset.", {}, "L");
   });
 }

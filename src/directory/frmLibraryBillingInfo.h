@@ -14,10 +14,12 @@ class frmLibraryBillingInfo : public LibraryScreen {
 
  protected:
   QString Columns() const override;
+  void ReadFurther(const Recordset& rows, qint32 libraryId) override;
   void ShowRecord(const Recordset& rows) override;
   void ClearFields() override;
   void cmdUpdate_Click() override;
-  void PopulateComboBoxes() override;
+  std::vector<CodeList> CodeLists() const override;
+  void ChooseDefaults() override;
   std::span<const TextKey> TextKeys() const override;
   void ReadFurtherText(const CustomText& texts) override;
   void LoadSettings() override;
@@ -29,7 +31,6 @@ class frmLibraryBillingInfo : public LibraryScreen {
   QWidget* AddressPart();
   QWidget* AccountPart();
   void mnuOptionsResetLoadBalancing_Click();
-  void ShowSequence(qint32 libraryId);
   bool ResetDateIsValid();
   QString UpdateStatement() const;
   std::array<DefaultCode*, 4> Defaults() {
@@ -76,4 +77,5 @@ class frmLibraryBillingInfo : public LibraryScreen {
 
   DefaultCode defaultBillingType_, defaultBillingRate_, defaultCurrency_, defaultCreditCard_;
   QString defaultQuotaTotal_;
+  bool hasSuppliers_ = false;  // of the library read last
 };

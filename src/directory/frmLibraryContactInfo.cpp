@@ -60,6 +60,13 @@ QString frmLibraryContactInfo::Columns() const {
          "ADD_CURRENT_SUPPLIER, NCIP_SERVER_LIBRARY_ID, NCIP_USE_SERVER_PROFILE, ISO18626_CONNECTION_ID";
 }
 
+void frmLibraryContactInfo::ReadFurther(const Recordset& rows, qint32 libraryId) {
+  const qint32 server = Value(rows, "NCIP_SERVER_LIBRARY_ID").toInt();
+  const QString symbol = server > 0 ? LibrarySymbolOf(server) : QString();
+  AgencyIdList::Content receive = receiveIds_->Read(libraryId);
+  further_ = Further{server, symbol, std::move(receive), sendIds_->Read(libraryId)};
+}
+
 void frmLibraryContactInfo::ShowRecord(const Recordset& rows) {
   const auto show = [&](TextBox* box, const char* column) { box->SetText(Value(rows, column)); };
   show(txtEmail, "CONTACT_EMAIL");
@@ -79,12 +86,12 @@ void frmLibraryContactInfo::ShowRecord(const Recordset& rows) {
   optSendCurrentSupplier->Select(supplier == "Y" ? SupplierYes : supplier == "N" ? SupplierNo : SupplierDefault);
   optUseThisProfile->Select(Value(rows, "NCIP_USE_SERVER_PROFILE") == "Y" ? ProfileYes : ProfileNo);
   show(txtConnectionID, "ISO18626_CONNECTION_ID");
-  glngFoundLibraryId = Value(rows, "NCIP_SERVER_LIBRARY_ID").toInt();
-  txtNCIPServerLibrary->SetText(glngFoundLibraryId > 0 ? LibrarySymbolOf(glngFoundLibraryId) : QString());
+  glngFoundLibraryId = further_->serverLibrary;
+  txtNCIPServerLibrary->SetText(further_->serverSymbol);
   // Anew for this record, also where the text is the one that stood here before.
   txtNCIPServerLibrary_Change();
-  receiveIds_->Read(gclsOF->LibraryId());
-  sendIds_->Read(gclsOF->LibraryId());
+  receiveIds_->Show(further_->receive);
+  sendIds_->Show(further_->send);
 }
 
 void frmLibraryContactInfo::ClearFields() {
@@ -107,7 +114,7 @@ void frmLibraryContactInfo::ClearFields() {
 bool frmLibraryContactInfo::EndDateMayBeLeft() {
   if (dtpNoticeEndDate->IsNone()) return true;
   if (dtpNoticeStartDate->IsNone()) {
-    Tell("Please select a Start Date first.", MessageStyle::Stop);
+    Tell(this, "Please select a Start Date first.", MessageStyle::Stop);
     dtpNoticeEndDate->SetNone();
     dtpNoticeStartDate->SetDate(Clock::Today());
     // Behind the press or key that is leaving now.
@@ -116,13 +123,13 @@ bool frmLibraryContactInfo::EndDateMayBeLeft() {
     return true;
   }
   if (dtpNoticeEndDate->Date() > dtpNoticeStartDate->Date()) return true;
-  Tell("End Date must after Start Date.", MessageStyle::Stop);
+  Tell(this, "End Date must after Start Date.", MessageStyle::Stop);
   return false;
 }
 
 bool frmLibraryContactInfo::StartDateMayBeLeft() {
   if (!dtpNoticeStartDate->IsNone() || dtpNoticeEndDate->IsNone()) return true;
-  Tell("Cannot have an End Date without a Start Date.", MessageStyle::Stop);
+  Tell(this, "Cannot have an End Date without a Start Date.", MessageStyle::Stop);
   return false;
 }
 
@@ -191,15 +198,15 @@ void frmLibraryContactInfo::cmdUpdate_Click() {
     TrimFields();
     if (!ServerLibraryIsKnown() || !ReplyAddressesAreValid() || !ConnectionIsKnown()) return;
     // Three transactions, one after another: a failure in a later one leaves the earlier ones in force.
-    ExecuteUpdate(UpdateStatement(), "***** SQL error on ID_library (Update) *****");
-    receiveIds_->Write(gclsOF->LibraryId());
-    sendIds_->Write(gclsOF->LibraryId());
+    if (!RowWasFound(ExecuteInTransaction(UpdateStatement(), "***** SQL error on ID_library (Update) *****"))) return;
+    receiveIds_->Write(library().id);
+    sendIds_->Write(library().id);
     TellUpdated();
   });
 }
 
 void frmLibraryContactInfo::TrimFields() {
-  const FillingFields filling;
+  const Record::Filling filling(record());
   for (TextBox* box :
        {txtLibrarySymbol, txtContact, txtPhone, txtFax, txtEmail, txtAltPhone, txtAltFax, txtAltEmail, txtNote,
         txtNotice, txtReplyAddressSMTP, txtReplyAddressTCP, txtReplyAddressGSM, txtNCIPServerLibrary, txtConnectionID})

@@ -15,6 +15,7 @@ class frmLibraryContactInfo : public LibraryScreen {
 
  protected:
   QString Columns() const override;
+  void ReadFurther(const Recordset& rows, qint32 libraryId) override;
   void ShowRecord(const Recordset& rows) override;
   void ClearFields() override;
   void cmdUpdate_Click() override;
@@ -85,4 +86,12 @@ class frmLibraryContactInfo : public LibraryScreen {
   AgencyIdSendList* const sendIds_ = new AgencyIdSendList(this);
 
   QAction* mnuOptionsConfigureAPI = nullptr;
+
+  // What was read besides the row: the library whose server is used, and the two lists.
+  struct Further {
+    qint32 serverLibrary;
+    QString serverSymbol;
+    AgencyIdList::Content receive, send;
+  };
+  std::optional<Further> further_;
 };

@@ -33,7 +33,9 @@ constexpr TextKey Keys[] = {
      "Symbol of the library whose NCIP server is used"},
     {"LIBRARY_pbFindLibrary", "cmdFindLibrary"},
     {"ID_LIBRARY.NCIP_USE_SERVER_PROFILE", "lblUseThisProfile"},
-    {"ID_LIBRARY.NCIP_USE_SERVER_PROFILEToolTip", "lblUseThisProfile", 0,
+    {"ID_LIBRARY.NCIP_USE_SERVER_PROFILEToolTip", "optUseThisProfileYes", 0,
+     "Whether the server library's profile is used"},
+    {"ID_LIBRARY.NCIP_USE_SERVER_PROFILEToolTip", "optUseThisProfileNo", 0,
      "Whether the server library's profile is used"},
     {"LIBRARY_optUseThisProfileYes", "optUseThisProfileYes"},
     {"LIBRARY_optUseThisProfileNo", "optUseThisProfileNo"},
@@ -140,8 +142,8 @@ void frmLibraryContactInfo::ConnectControls() {
          txtReplyAddressSMTP, txtReplyAddressTCP, txtReplyAddressGSM, txtNCIPServerLibrary, txtConnectionID});
   Watch({optSendCurrentSupplier, optUseThisProfile});
   Watch({dtpNoticeStartDate, dtpNoticeEndDate});
-  connect(receiveIds_, &AgencyIdList::Changed, this, &frmLibraryContactInfo::MarkModified);
-  connect(sendIds_, &AgencyIdList::Changed, this, &frmLibraryContactInfo::MarkModified);
+  connect(receiveIds_, &AgencyIdList::Changed, this, [this] { record().Touched(); });
+  connect(sendIds_, &AgencyIdList::Changed, this, [this] { record().Touched(); });
   dtpNoticeStartDate->SetLeaveCheck([this] { return StartDateMayBeLeft(); });
   dtpNoticeEndDate->SetLeaveCheck([this] { return EndDateMayBeLeft(); });
   connect(txtNCIPServerLibrary, &TextBox::Change, this, &frmLibraryContactInfo::txtNCIPServerLibrary_Change);

@@ -5,7 +5,6 @@
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
-#include "shell/Lists.h"
 #include "shell/Messages.h"
 #include "shell/Procedure.h"
 
@@ -35,9 +34,6 @@ frmLibraryLoginInfo::frmLibraryLoginInfo(QWidget* parent) : LibraryScreen(Librar
   BuildControls();
   Watch({txtUserID, txtPassword, txtConfirmPassword});
   Watch({cboLanguageCode});
-  for (TextBox* box : {txtUserID, txtPassword, txtConfirmPassword})
-    connect(box, &TextBox::Change, this, &frmLibraryLoginInfo::MarkLoginChanged);
-  connect(cboLanguageCode, &CodeComboBox::Click, this, &frmLibraryLoginInfo::MarkLoginChanged);
   connect(optActive, &OptionGroup::Click, this, &frmLibraryLoginInfo::optActive_Click);
   connect(chkLibraryPending, &QCheckBox::clicked, this, &frmLibraryLoginInfo::chkLibraryPending_Click);
 }
@@ -58,45 +54,41 @@ void frmLibraryLoginInfo::BuildControls() {
   static_cast<QBoxLayout*>(active->layout())->insertWidget(optActive->Count(), chkLibraryPending);
   rows.Add("lblLibraryActive", "Library Active:", active);
   rows.Stretch();
-  Form::Require({txtUserID, txtPassword, txtConfirmPassword});
   Compose(content, {cmdUpdate, cmdClear, cmdClose});
   resize(900, 480);
 }
 
-void frmLibraryLoginInfo::PopulateComboBoxes() {
-  const QString suffix = gclsOF->LanguageSuffix();
-  FillCombo(*cboLanguageCode, "(None)",
-            "SELECT   LANGUAGE_CODE, LANGUAGE_CODE_DESC" + suffix + " FROM " + Sql::Table("ID_LANGUAGE_CODE") +
-                " ORDER BY LANGUAGE_CODE_DESC" + suffix,
-            "***** SQL error on ID_LANGUAGE_CODE (Select) *****", 1, 0);
-  cboLanguageCode->SetCode({});
+std::vector<CodeList> frmLibraryLoginInfo::CodeLists() const {
+  return {{SelectCodes("SELECT   ", "LANGUAGE_CODE", "ID_LANGUAGE_CODE"),
+           "***** SQL error on ID_LANGUAGE_CODE (Select) *****",
+           {cboLanguageCode},
+           "(None)"}};
 }
 
 // --- The record ---
 
 void frmLibraryLoginInfo::ShowRecord(const Recordset& rows) {
-  mstrUserIdAsRead = Value(rows, "USER_LOGIN");
-  txtUserID->SetText(mstrUserIdAsRead);
+  txtUserID->SetText(Value(rows, "USER_LOGIN"));
   const QString password = Value(rows, "USER_PASSWORD");
   txtPassword->SetText(password);
   txtConfirmPassword->SetText(password);
-  const QString language = Value(rows, "LANGUAGE_CODE");
-  if (language.isEmpty() || !cboLanguageCode->SetCode(language)) cboLanguageCode->SetCode({});
-  const bool active = mstrActiveLetter != "N", pending = mstrActiveLetter == "P";
+  ShowCode(cboLanguageCode, Value(rows, "LANGUAGE_CODE"));
+  loginAsRead_ = LoginOnShow();
+  const bool active = library().activeLetter != "N", pending = library().activeLetter == "P";
   SetActive(active, pending);
   RememberActive(active, pending);
   mbWasActive = active;
-  gbLibraryActiveChanged = false;
-  mbLoginChanged = false;
 }
 
 void frmLibraryLoginInfo::ClearFields() {
   for (TextBox* box : {txtUserID, txtPassword, txtConfirmPassword}) box->clear();
   SetActive(true, false);
   cboLanguageCode->SetCode({});
-  mstrUserIdAsRead.clear();
-  gbLibraryActiveChanged = false;
-  mbLoginChanged = false;
+  loginAsRead_ = LoginOnShow();
+}
+
+frmLibraryLoginInfo::Login frmLibraryLoginInfo::LoginOnShow() const {
+  return {txtUserID->Text(), txtPassword->Text(), txtConfirmPassword->Text(), cboLanguageCode->Code()};
 }
 
 void frmLibraryLoginInfo::SetActive(bool active, bool pending) {
@@ -114,24 +106,14 @@ void frmLibraryLoginInfo::DropEdits() {
   LibraryScreen::DropEdits();
   gbLibraryActive = mbActiveAsRead;
   SetActive(mbActiveAsRead, mbPendingAsRead);
-  gbLibraryActiveChanged = false;
 }
 
 // --- Active state ---
 
-void frmLibraryLoginInfo::MarkActiveChanged() {
-  mbRecordModified = true;
-  gbLibraryActiveChanged = true;
-}
-
-void frmLibraryLoginInfo::MarkLoginChanged() {
-  if (!gbFillingFields) mbLoginChanged = true;
-}
-
 void frmLibraryLoginInfo::optActive_Click() {
   chkLibraryPending->setChecked(false);
   gbLibraryActive = optActive->IsSet(Yes);
-  MarkActiveChanged();
+  record().Touched();
 }
 
 // A pending library counts as active. Without the tick it is what the options say.
@@ -142,7 +124,7 @@ void frmLibraryLoginInfo::chkLibraryPending_Click() {
   } else if (chkLibraryPending->checkState() == Qt::PartiallyChecked) {
     chkLibraryPending->setCheckState(Qt::Checked);
   }
-  MarkActiveChanged();
+  record().Touched();
 }
 
 QString frmLibraryLoginInfo::StateLetter() const {
@@ -154,33 +136,31 @@ QString frmLibraryLoginInfo::StateLetter() const {
 
 void frmLibraryLoginInfo::cmdUpdate_Click() {
   RunUpdate("cmdUpdate_Click", UpdateFailed, [this] {
-    if (gclsOF->LibraryId() < 1 || mstrDisplayedSymbol.isEmpty()) {
+    if (!HasRecord()) {
       Refuse("A record must be displayed before you can update it.", txtLibrarySymbol);
       return;
     }
-    if (!mbRecordModified && !gbLibraryActiveChanged) {
-      Tell("Nothing has been changed.", MessageStyle::Stop);
+    if (!record().Modified()) {
+      Tell(this, "Nothing has been changed.", MessageStyle::Stop);
       return;
     }
-    // What follows does not bring them back: a refused update counts as seen.
-    mbRecordModified = false;
-    gbLibraryActiveChanged = false;
+    // What follows does not bring the mark back: a refused update counts as seen.
+    record().Settled();
     {
-      const FillingFields filling;
+      const Record::Filling filling(record());
       for (TextBox* box : {txtUserID, txtPassword, txtConfirmPassword}) box->TrimInPlace();
     }
-    if (mbLoginChanged && !LoginIsValid()) return;
+    if (LoginOnShow() != loginAsRead_ && !LoginIsValid()) return;
 
     const QString letter = StateLetter();
-    ExecuteUpdate(UpdateStatement(letter), "***** SQL error on ID_Library (Update) *****");
+    if (!RowWasFound(ExecuteInTransaction(UpdateStatement(letter), "***** SQL error on ID_Library (Update) *****")))
+      return;
     RememberActive(gbLibraryActive, letter == "P");
-    mstrUserIdAsRead = txtUserID->Text();
+    loginAsRead_ = LoginOnShow();
     SetActive(gbLibraryActive, letter == "P");
     ShowActiveLetter(letter);
-    Tell("Library  " + mstrDisplayedSymbol + "  has been updated.", MessageStyle::Information);
-    mbRecordModified = false;
-    gbLibraryActiveChanged = false;
-    mbLoginChanged = false;
+    Tell(this, "Library  " + library().symbol + "  has been updated.", MessageStyle::Information);
+    record().Settled();
     OfferReset();
     mbWasActive = gbLibraryActive;
     FocusSymbol();
@@ -192,7 +172,7 @@ bool frmLibraryLoginInfo::LoginIsValid() {
   const QString user = txtUserID->Text(), password = txtPassword->Text(), confirm = txtConfirmPassword->Text();
   if (user.isEmpty() && password.isEmpty()) return true;
   if (user.isEmpty()) return Refuse("User ID is a required field.", txtUserID);
-  if (user != mstrUserIdAsRead && !UserIdIsFree()) return Refuse("The User ID must be unique.  Retry.", txtUserID);
+  if (user != loginAsRead_.user && !UserIdIsFree()) return Refuse("The User ID must be unique.  Retry.", txtUserID);
   if (password.isEmpty()) return Refuse("Password is a required field.", txtPassword);
   if (confirm.isEmpty()) return Refuse("Confirm Password is a required field.", txtConfirmPassword);
   if (password != confirm) return Refuse("Password Confirmation failed.  Retry.", txtConfirmPassword);
@@ -215,14 +195,13 @@ QString frmLibraryLoginInfo::UpdateStatement(const QString& letter) const {
          "', LAST_MODIFIED = " + PresentDate() + ", USER_LOGIN = " + Sql::NationalOr(txtUserID->Text(), "Null") +
          " , USER_PASSWORD = " + Sql::NationalOr(txtPassword->Text(), "Null") +
          " , LANGUAGE_CODE = " + Sql::NationalOr(cboLanguageCode->Code(), "NULL") +
-         " WHERE Library_ID = " + Sql::Number(gclsOF->LibraryId());
+         " WHERE Library_ID = " + Sql::Number(library().id);
 }
 
 // A library that comes back into the rota starts level with the others.
 void frmLibraryLoginInfo::OfferReset() {
   if (!gbUseLoadBalancing || mbWasActive || !gbLibraryActive) return;
-  const int answer =
-      Tell("This Library record has been made active.\n\nDo you wish to reset Load Balancing?", MessageStyle::Question);
-  if (answer == MessageAnswer::Yes && ResetLoadBalancing() >= 1)
-    Tell("Load Balancing has been reset.", MessageStyle::Information);
+  if (Confirm(this, "This Library record has been made active.\n\nDo you wish to reset Load Balancing?") &&
+      ResetLoadBalancing() >= 1)
+    Tell(this, "Load Balancing has been reset.", MessageStyle::Information);
 }

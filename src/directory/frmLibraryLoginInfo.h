@@ -17,7 +17,8 @@ class frmLibraryLoginInfo : public LibraryScreen {
   void ShowRecord(const Recordset& rows) override;
   void ClearFields() override;
   void cmdUpdate_Click() override;
-  void PopulateComboBoxes() override;
+  std::vector<CodeList> CodeLists() const override;
+  void ChooseDefaults() override { cboLanguageCode->SetCode({}); }
   std::span<const TextKey> TextKeys() const override;
   void ShowNoRecord() override { SetActive(true, false); }
   void DropEdits() override;
@@ -26,14 +27,19 @@ class frmLibraryLoginInfo : public LibraryScreen {
  private:
   enum ActiveOption { Yes, No };
 
+  // What the screen edits. An update tests a login that is another than the one read or saved last.
+  struct Login {
+    QString user, password, confirm, language;
+    bool operator==(const Login&) const = default;
+  };
+
   void BuildControls();
   void optActive_Click();
   void chkLibraryPending_Click();
-  void MarkActiveChanged();
   // Options and tick as the state wants them; no handler runs.
   void SetActive(bool active, bool pending);
   void RememberActive(bool active, bool pending);
-  void MarkLoginChanged();
+  Login LoginOnShow() const;
   // The tests of user id and passwords. On False the user has been told.
   bool LoginIsValid();
   bool UserIdIsFree();
@@ -41,12 +47,10 @@ class frmLibraryLoginInfo : public LibraryScreen {
   QString UpdateStatement(const QString& letter) const;
   void OfferReset();
 
-  bool gbLibraryActiveChanged = false;  // the active state was touched
-  bool mbLoginChanged = false;          // a login box or the language was changed since the last read or save
   bool mbActiveAsRead = true;
   bool mbPendingAsRead = false;
   bool mbWasActive = true;  // before this save
-  QString mstrUserIdAsRead;
+  Login loginAsRead_;
 
   TextBox* const txtUserID = new TextBox(this, "txtUserID", 20);
   TextBox* const txtPassword = new TextBox(this, "txtPassword", 20);

@@ -7,7 +7,6 @@
 #include "directory/FaxInput.h"
 #include "directory/NextLibrary.h"
 #include "directory/TimeZones.h"
-#include "shell/Lists.h"
 #include "shell/Messages.h"
 #include "shell/Procedure.h"
 #include "shell/Screens.h"
@@ -18,11 +17,6 @@ const QString UsualTimeZone = "Eastern Standard Time";
 const QString DeliveryDeactivated = "The current Delivery Method has been deactivated.";
 const QString WriteFailed = "***** SQL error on ID_library (Insert) *****";
 constexpr const char* ActiveOnly = "WHERE    ACTIVE_FLAG = N'Y' ";
-
-QString ListOf(const char* select, const char* table, const char* order, const char* where = "") {
-  const QString suffix = gclsOF->LanguageSuffix();
-  return select + suffix + " FROM " + Sql::Table(table) + " " + where + "ORDER BY " + order + suffix;
-}
 
 }  // namespace
 
@@ -37,35 +31,34 @@ void frmLibraryRegistration::LoadSettings() {
   messagingFax_->Reset();
 }
 
-void frmLibraryRegistration::PopulateComboBoxes() {
-  for (CodeComboBox* box : {cmbDeliveryMethodCopy, cmbDeliveryMethodLoan}) box->Clear();
-  ForEachRow(ListOf("SELECT   DELIV_METHOD, DELIV_METHOD_DESC", "ID_DELIV_METHOD", "DELIV_METHOD_DESC", ActiveOnly),
-             "***** SQL error on ID_DELIV_METHOD (Select) *****", [this](Recordset& rows) {
-               const QString code = Value(rows, 0);
-               if (code == "P") return;
-               for (CodeComboBox* box : {cmbDeliveryMethodCopy, cmbDeliveryMethodLoan}) box->Add(Value(rows, 1), code);
-             });
-  defaultCopy_.Choose(this);
-  defaultLoan_.Choose(this);
-  FillCombo(*cboMsgMethod, {},
-            ListOf("SELECT MSG_METHOD, MSG_METHOD_DESC", "ID_MSG_METHOD", "MSG_METHOD_DESC", ActiveOnly),
-            "***** SQL error on ID_MSG_METHOD (Select) *****", 1, 0);
-  defaultMessaging_.Choose(this);
-  FillCombo(*cboFileFormat, {}, ListOf("SELECT   FILE_FORMAT, FILE_FORMAT_DESC", "ID_FILE_FORMAT", "FILE_FORMAT_DESC"),
-            "***** SQL error on ID_FILE_FORMAT (Select) *****", 1, 0);
-  FillCombo(*cmbEmailMsgFormat, {}, ListOf("SELECT   MSG_FORMAT, MSG_FORMAT_DESC", "ID_MSG_FORMAT", "MSG_FORMAT_DESC"),
-            "***** SQL error on ID_MSG_FORMAT (Select) *****", 1, 0);
-  defaultMsgFormat_.Choose(this);
-  defaultFileFormat_.Choose(this);
-  cmbTimeZone->Clear();
-  for (const TimeZoneEntry& zone : TimeZoneList()) cmbTimeZone->Add(zone.displayText, zone.id);
+std::vector<CodeList> frmLibraryRegistration::CodeLists() const {
+  return {{SelectCodes("SELECT   ", "DELIV_METHOD", "ID_DELIV_METHOD", ActiveOnly),
+           "***** SQL error on ID_DELIV_METHOD (Select) *****",
+           {cmbDeliveryMethodCopy, cmbDeliveryMethodLoan},
+           {},
+           "P"},
+          {SelectCodes("SELECT ", "MSG_METHOD", "ID_MSG_METHOD", ActiveOnly),
+           "***** SQL error on ID_MSG_METHOD (Select) *****",
+           {cboMsgMethod}},
+          {SelectCodes("SELECT   ", "FILE_FORMAT", "ID_FILE_FORMAT"),
+           "***** SQL error on ID_FILE_FORMAT (Select) *****",
+           {cboFileFormat}},
+          {SelectCodes("SELECT   ", "MSG_FORMAT", "ID_MSG_FORMAT"),
+           "***** SQL error on ID_MSG_FORMAT (Select) *****",
+           {cmbEmailMsgFormat}}};
+}
+
+void frmLibraryRegistration::ChooseDefaults() {
+  for (DefaultCode* code : Defaults()) code->Choose(this, ListWasRead(code->Box()));
+  if (cmbTimeZone->Count() == 0)
+    for (const TimeZoneEntry& zone : TimeZoneList()) cmbTimeZone->Add(zone.displayText, zone.id);
   cmbTimeZone->SetCode(defaultTimeZone_);
 }
 
 void frmLibraryRegistration::ApplyRights() {
   LibraryScreen::ApplyRights();
-  ShowButton(cmdAdd, gclsOF->CanAdd());
-  ShowButton(cmdDelete, gclsOF->CanDelete());
+  ShowButton(cmdAdd, rights().add);
+  ShowButton(cmdDelete, rights().remove);
   // Whoever places no requests for a library opens none of its other records either.
   const bool others = FactsOf(LibrarySibling::Registration).noRequestsFor.contains(gclsOF->CallingFunction());
   ShowButton(cmdSupplier, !others);
@@ -95,8 +88,8 @@ void frmLibraryRegistration::ShowRecord(const Recordset& rows) {
   txtStateProvince->SetText(Value(rows, "PRIME_PROV_STATE"));
   txtCountry->SetText(Value(rows, "PRIME_COUNTRY"));
   txtZipPostalCode->SetText(Value(rows, "PRIME_POST_ZIPCODE"));
-  cboFileFormat->SetCode(orElse(Value(rows, "FILE_FORMAT"), "P"));
-  cmbEmailMsgFormat->SetCode(orElse(Value(rows, "MSG_FORMAT"), "T"));
+  ShowCode(cboFileFormat, orElse(Value(rows, "FILE_FORMAT"), "P"));
+  ShowCode(cmbEmailMsgFormat, orElse(Value(rows, "MSG_FORMAT"), "T"));
   deliveryFax_->Show(Value(rows, "DELIV_FAX"));
   txtDeliveryEmail->SetText(Value(rows, "DELIV_EMAIL"));
   messagingFax_->Show(Value(rows, "MSG_FAX"));
@@ -105,43 +98,35 @@ void frmLibraryRegistration::ShowRecord(const Recordset& rows) {
   txtOdyssey->SetText(Value(rows, "ODYSSEY_ADDRESS"));
   txtDeliveryService->SetText(Value(rows, "DELIVERY_SERVICE"));
   txtDocview->SetText(Value(rows, "DOCVIEW_ADDRESS"));
-  const QString zone = Value(rows, "TIMEZONE");
-  // A zone that the list does not know stays on the record as it is.
-  if (!zone.isEmpty() && cmbTimeZone->IndexOfCode(zone) < 0) cmbTimeZone->Add(zone);
-  cmbTimeZone->SetIndex(zone.isEmpty() ? -1 : cmbTimeZone->IndexOfCode(zone));
+  ShowCode(cmbTimeZone, Value(rows, "TIMEZONE"));
   ShowMethod(cmbDeliveryMethodCopy, Value(rows, "DELIV_METHOD_COPY"), DeliveryDeactivated);
   ShowMethod(cmbDeliveryMethodLoan, Value(rows, "DELIV_METHOD_LOAN"), DeliveryDeactivated);
   ShowMethod(cboMsgMethod, Value(rows, "MSG_METHOD"), "The current Messaging Method has been deactivated.");
 }
 
-// The change to Mail is on the screen only, until the user updates.
+// The change to Mail is on the screen only, until the user updates. Where the list was not read, nobody knows whether a
+// method is still active.
 void frmLibraryRegistration::ShowMethod(CodeComboBox* box, const QString& stored, const QString& deactivated) {
-  if (!stored.isEmpty() && box->SetCode(stored)) return;
-  if (!stored.isEmpty()) Tell(deactivated + "\n\nResetting to Mail.", MessageStyle::Information);
-  box->SetIndex(-1);
-  box->SetCode("M");
+  ShowCode(box, stored.isEmpty() ? "M" : stored);
+  if (stored.isEmpty() || !box->HoldsUnknown() || !ListWasRead(box)) return;
+  Tell(this, deactivated + "\n\nResetting to Mail.", MessageStyle::Information);
+  ShowCode(box, "M");
 }
 
 void frmLibraryRegistration::ClearFields() {
   for (TextBox* box : {txtStreet1, txtStreet2, txtCity, txtStateProvince, txtCountry, txtZipPostalCode, txtDeliveryFax,
                        txtDeliveryEmail, txtMsgFax, txtMsgEmail, txtAriel, txtOdyssey, txtDeliveryService, txtDocview})
     box->clear();
-  for (DefaultCode* code : {&defaultCopy_, &defaultLoan_, &defaultMessaging_, &defaultFileFormat_, &defaultMsgFormat_})
-    code->Choose(this);
-  cmbTimeZone->SetCode(defaultTimeZone_);
+  ChooseDefaults();
   deliveryFax_->Reset();
   messagingFax_->Reset();
   Enable(cmdAdd, true);
 }
 
-void frmLibraryRegistration::ClearForm() {
-  ClearScreen();
-}
-
 // --- Add ---
 
 bool frmLibraryRegistration::RequiredFieldsGiven(const QString& hint) {
-  const FillingFields filling;
+  const Record::Filling filling(record());
   const QString symbol = txtLibrarySymbol->TrimInPlace();
   const QString institution = txtInstitution->TrimInPlace();
   if (symbol.isEmpty()) return Refuse("Library Symbol is a required field." + hint, txtLibrarySymbol);
@@ -162,7 +147,7 @@ void frmLibraryRegistration::cmdAdd_Click() {
       return;
     }
     if (!GetNextLibraryID(id)) return TellNoNumber(id);
-    ExecuteUpdate(InsertStatement(id), WriteFailed);
+    ExecuteInTransaction(InsertStatement(id), WriteFailed);
     ShowAdded(id);
   });
 }
@@ -220,14 +205,9 @@ void frmLibraryRegistration::AddAddress(ColumnValues& row, const QString& prefix
 }
 
 void frmLibraryRegistration::ShowAdded(qint32 id) {
-  mbRecordModified = false;
-  mbRecordDisplayed = true;
-  mstrDisplayedSymbol = txtLibrarySymbol->Text();
-  mstrEnteredSymbol = mstrDisplayedSymbol;
-  gclsOF->SetLibraryId(id);
-  ShowActiveLetter("Y");
-  EnableRecord(true);
-  Tell("Library Symbol: '" + mstrDisplayedSymbol + "' has been added.", MessageStyle::Information);
+  TakeInHand({id, txtLibrarySymbol->Text(), "Y"});
+  record().Shown();
+  Tell(this, "Library Symbol: '" + library().symbol + "' has been added.", MessageStyle::Information);
 }
 
 // --- Update ---
@@ -236,9 +216,9 @@ void frmLibraryRegistration::cmdUpdate_Click() {
   RunUpdate("cmdUpdate_Click", Texts::NotifySupport, [this] {
     if (!HasRecordToUpdate() || !RequiredFieldsGiven("\nPlease enter a value.") || !ValidateInput(ChosenMethods()))
       return;
-    ExecuteUpdate(UpdateStatement(), WriteFailed, false);
-    Tell("Library Symbol: '" + txtLibrarySymbol->Text() + "' has been updated.", MessageStyle::Information);
-    mbRecordModified = false;
+    if (!RowWasFound(Execute(UpdateStatement(), WriteFailed))) return;
+    Tell(this, "Library Symbol: '" + library().symbol + "' has been updated.", MessageStyle::Information);
+    record().Settled();
   });
 }
 
@@ -273,21 +253,21 @@ void frmLibraryRegistration::cmdDelete_Click() {
   // The refusal is the database's; its failure is told in these words whatever the cause.
   const QString refused = "This Library has Requests attached.  Unable to Delete.";
   Procedure(LogName("cmdDelete_Click"), this).OnFailure(refused).Run([this] {
-    if (gclsOF->LibraryId() < 1 || mstrDisplayedSymbol.isEmpty()) {
-      Tell("A record must be displayed before it can be Deleted.", MessageStyle::Stop);
+    if (!HasRecord()) {
+      Tell(this, "A record must be displayed before it can be Deleted.", MessageStyle::Stop);
       return;
     }
-    const int answer = Tell(
-        "If any Requests are attached to this record you will not be able to delete it.\n\n"
-        "Are you sure you wish to delete this record ?",
-        MessageStyle::Question | MessageStyle::DefaultButton2);
-    if (answer != MessageAnswer::Yes) return FocusSymbol();
-    ExecuteInTransaction(
-        "DELETE FROM " + Sql::Table("ID_LIBRARY") + " WHERE    LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId()),
+    if (!Confirm(this,
+                 "If any Requests are attached to this record you will not be able to delete it.\n\n"
+                 "Are you sure you wish to delete this record ?",
+                 MessageStyle::Question | MessageStyle::DefaultButton2))
+      return FocusSymbol();
+    const qint64 deleted = ExecuteInTransaction(
+        "DELETE FROM " + Sql::Table("ID_LIBRARY") + " WHERE    LIBRARY_ID = " + Sql::Number(library().id),
         "***** SQL error on ID_library (Delete) *****");
-    Tell("Library deleted.", MessageStyle::Information);
-    ClearForm();
-    mbRecordModified = false;
+    if (!RowWasFound(deleted)) return;
+    Tell(this, "Library deleted.", MessageStyle::Information);
+    ClearScreen();
     FocusSymbol();
   });
 }
@@ -311,15 +291,12 @@ void frmLibraryRegistration::ReadSupplier() {
                              Sql::Table("ID_SUPPLIER") + " WHERE    LIBRARY_ID = " + Sql::Number(gclsOF->LibraryId()),
                          "***** SQL error on ID_SUPPLIER (Select) *****", &found)
                          .trimmed();
-  if (!found)
-    gbAddSupplier =
-        Tell("Supplier does not exist, would you like to add one?", MessageStyle::Question) == MessageAnswer::Yes;
+  if (!found) gbAddSupplier = Confirm(this, "Supplier does not exist, would you like to add one?");
 }
 
 bool frmLibraryRegistration::BorrowRight(const QString& function) {
   if (gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), function)) return true;
-  Tell(Texts::NoAccess, MessageStyle::Stop);
-  return false;
+  return ::Refuse(this, Texts::NoAccess, MessageStyle::Stop, nullptr);
 }
 
 void frmLibraryRegistration::cmdSupplier_Click() {

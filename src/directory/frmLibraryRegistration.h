@@ -21,7 +21,8 @@ class frmLibraryRegistration : public LibraryScreen {
   void ShowRecord(const Recordset& rows) override;
   void ClearFields() override;
   void cmdUpdate_Click() override;
-  void PopulateComboBoxes() override;
+  std::vector<CodeList> CodeLists() const override;
+  void ChooseDefaults() override;
   std::span<const TextKey> TextKeys() const override;
   void ReadFurtherText(const CustomText& texts) override;
   void LoadSettings() override;
@@ -49,8 +50,6 @@ class frmLibraryRegistration : public LibraryScreen {
   void cmdSupplier_Click();
   void cmdPatron_Click();
   void cmdMessageFormat_Click();
-  // Empties the screen for a new record.
-  void ClearForm();
 
   // Symbol and institution trimmed and given; `hint` follows the message.
   bool RequiredFieldsGiven(const QString& hint);
@@ -66,6 +65,9 @@ class frmLibraryRegistration : public LibraryScreen {
   QString InsertStatement(qint32 id) const;
   QString UpdateStatement() const;
   // The six address boxes as columns of that prefix.
+  std::array<DefaultCode*, 5> Defaults() {
+    return {&defaultCopy_, &defaultLoan_, &defaultMessaging_, &defaultMsgFormat_, &defaultFileFormat_};
+  }
   void AddAddress(ColumnValues& row, const QString& prefix) const;
   void ShowAdded(qint32 id);
   void TellNoNumber(qint32 id);

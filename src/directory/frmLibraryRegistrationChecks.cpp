@@ -51,7 +51,7 @@ bool frmLibraryRegistration::ArielIsValid() {
   }
   QString reason;
   if (gclsOF->ValidateNetworkAddress(text, reason)) return true;
-  Tell(reason, MessageStyle::Stop, "Ostana - " + Caption());
+  ShowMessage(reason, MessageStyle::Stop, "Ostana - " + Caption(), {}, this);
   txtAriel->SelectAllAndFocus();
   return false;
 }

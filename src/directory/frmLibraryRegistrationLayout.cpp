@@ -78,8 +78,7 @@ std::span<const TextKey> frmLibraryRegistration::TextKeys() const {
 }
 
 void frmLibraryRegistration::ReadFurtherText(const CustomText& texts) {
-  for (DefaultCode* code : {&defaultCopy_, &defaultLoan_, &defaultMessaging_, &defaultFileFormat_, &defaultMsgFormat_})
-    code->Configure(texts);
+  for (DefaultCode* code : Defaults()) code->Configure(texts);
 }
 
 void frmLibraryRegistration::BuildControls() {

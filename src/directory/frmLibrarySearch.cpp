@@ -120,11 +120,6 @@ void frmLibrarySearch::ID_LoadLibrarySearchText() {
   LoadCustomText(*this, {"frmLibrarySerach.LoadLibrarySearchText", "Library Search", missing}, TextKeys());
 }
 
-bool frmLibrarySearch::Refuse(const QString& text) {
-  ShowMessage(text, MessageStyle::Stop, Caption(), {}, this);
-  return false;
-}
-
 void frmLibrarySearch::ShowResults(bool shown) {
   grdViewSearchResults->setVisible(shown);
   lblFound->setVisible(shown);
@@ -146,7 +141,7 @@ QString frmLibrarySearch::Criteria() {
     return value == "%" ? QString() : value;
   };
   const auto refused = [this](const QString& text) {
-    Refuse(text);
+    Tell(this, text, MessageStyle::Stop);
     return QString();
   };
   QString criteria;
@@ -193,8 +188,7 @@ void frmLibrarySearch::ShowRows(const QString& criteria) {
   const int found = grdViewSearchResults->Rows() - 1;
   ShowResults(found > 0);
   if (found == 0) {
-    ShowMessage("There are not records matching the Search Criteria. Try again.", MessageStyle::Information, Caption(),
-                {}, this);
+    Tell(this, "There are not records matching the Search Criteria. Try again.", MessageStyle::Information);
     return;
   }
   lblValue->setText(QString::number(found));

@@ -33,7 +33,6 @@ class frmLibrarySearch : public Screen {
   QString Criteria();
   void ShowRows(const QString& criteria);
   void ShowResults(bool shown);
-  bool Refuse(const QString& text);
 
   QGroupBox* const fraSimpleSearch = Form::Frame(this, "fraSimpleSearch", "Simple Search");
   QLabel* const lblSimpleSearch =

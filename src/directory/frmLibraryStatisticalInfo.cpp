@@ -1,12 +1,12 @@
 #include "directory/frmLibraryStatisticalInfo.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "directory/ColumnValues.h"
 #include "directory/LibrarySearch.h"
-#include "shell/Lists.h"
 #include "shell/Messages.h"
 #include "shell/NumericFields.h"
 
@@ -14,54 +14,45 @@ namespace {
 
 const QString UsualService = "2";
 
-QString ListOf(const QString& code, const QString& table) {
-  const QString description = code + "_DESC" + gclsOF->LanguageSuffix();
-  return "SELECT   " + code + ", " + description + " FROM " + Sql::Table(table) + " ORDER BY " + description;
-}
-
-void ShowCode(CodeComboBox* box, const QString& code) {
-  if (code.isEmpty() || !box->SetCode(code)) box->SetCode({});
-}
-
 QString Cost(const QString& stored) {
   return stored.isEmpty() ? QString() : Numbers::Format(Numbers::Val(stored), "###0.00");
 }
 
-// Long date and long time of the machine.
+// Long date and long time of the machine, the zone left out.
 QString LongMoment(const QString& stored) {
+  static const QRegularExpression zone("[ (]*t+\\)?\\s*");
   const QDateTime moment = QDateTime::fromString(stored, Qt::ISODate);
   if (!moment.isValid()) return stored;
   const QLocale locale;
-  return locale.toString(moment.date(), QLocale::LongFormat) + " " + locale.toString(moment.time(), "h:mm:ss AP");
+  const QString time = locale.timeFormat(QLocale::LongFormat).remove(zone);
+  return locale.toString(moment.date(), QLocale::LongFormat) + " " + locale.toString(moment.time(), time);
 }
 
 }  // namespace
 
 // --- Lists ---
 
-void frmLibraryStatisticalInfo::PopulateComboBoxes() {
-  FillCombo(*cmbServiceType, {}, ListOf("VORN_SERVICE", "ID_VORN_SERVICE"),
-            "***** SQL error on VORN_SERVICE  (Select) *****", 1, 0);
-  cmbServiceType->SetCode(UsualService);
-  const std::array categories = {cboStatsCat1, cboStatsCat2, cboStatsCat3};
-  for (CodeComboBox* box : categories) {
-    box->Clear();
-    box->AddNone("(None)");
-  }
-  ForEachRow(ListOf("STATS_CAT_LIB", "ID_STATS_CAT_LIB"), "***** SQL error on ID_STATS_CAT_LIB (Select) *****",
-             [&](Recordset& rows) {
-               for (CodeComboBox* box : categories) box->Add(Value(rows, 1), Value(rows, 0));
-             });
-  for (DefaultCode* code : {&defaultStatsCat1_, &defaultStatsCat2_, &defaultStatsCat3_}) code->Choose(this);
-  FillCombo(*cboCategory, "(None)", ListOf("LIBRARY_CAT", "ID_LIBRARY_CAT"),
-            "***** SQL error on LIBRARY_CAT  (Select) *****", 1, 0);
-  defaultCategory_.Choose(this);
-  FillCombo(*cboLibraryType, "(None)", ListOf("LIBRARY_TYPE", "ID_LIBRARY_TYPE"),
-            "***** SQL error on ID_LIBRARY_TYPE  (Select) *****", 1, 0);
-  defaultType_.Choose(this);
-  FillCombo(*cmbLoanCode, "(None)", ListOf("LOAN_CODE", "ID_LOAN_CODE"),
-            "***** SQL error on ID_LOAN_CODE  (Select) *****", 1, 0);
-  defaultLoanCode_.Choose(this);
+std::vector<CodeList> frmLibraryStatisticalInfo::CodeLists() const {
+  const auto list = [](const QString& code, const QString& failed, std::vector<CodeComboBox*> boxes,
+                       const QString& none = "(None)") {
+    return CodeList{SelectCodes("SELECT   ", code, "ID_" + code), "***** SQL error on " + failed + " (Select) *****",
+                    std::move(boxes), none};
+  };
+  return {list("VORN_SERVICE", "VORN_SERVICE ", {cmbServiceType}, {}),
+          list("STATS_CAT_LIB", "ID_STATS_CAT_LIB", {cboStatsCat1, cboStatsCat2, cboStatsCat3}),
+          list("LIBRARY_CAT", "LIBRARY_CAT ", {cboCategory}),
+          list("LIBRARY_TYPE", "ID_LIBRARY_TYPE ", {cboLibraryType}),
+          list("LOAN_CODE", "ID_LOAN_CODE ", {cmbLoanCode})};
+}
+
+void frmLibraryStatisticalInfo::ChooseDefaults() {
+  ChooseUsualService();
+  for (DefaultCode* code : Defaults()) code->Choose(this, ListWasRead(code->Box()));
+}
+
+// Nothing where the site does not have it.
+void frmLibraryStatisticalInfo::ChooseUsualService() {
+  cmbServiceType->SetIndex(cmbServiceType->IndexOfCode(UsualService));
 }
 
 void frmLibraryStatisticalInfo::ShowNoRecord() {
@@ -88,8 +79,7 @@ void frmLibraryStatisticalInfo::ShowRecord(const Recordset& rows) {
   text(txtVORNPassword, "VORN_PASSWORD");
   text(txtVORNConfirmPassword, "VORN_PASSWORD");
   const QString service = Value(rows, "VORN_SERVICE");
-  cmbServiceType->SetIndex(-1);
-  cmbServiceType->SetCode(service.isEmpty() ? UsualService : service);
+  service.isEmpty() ? ChooseUsualService() : ShowCode(cmbServiceType, service);
   SelectIFM(Value(rows, "VORN_USE_IFM") == "Y" ? Yes : No);
   txtIFMMaxCost->SetText(Cost(Value(rows, "VORN_IFM_MAX_COST")));
   text(txtBLUserID, "BL_USER_ID");
@@ -126,7 +116,7 @@ void frmLibraryStatisticalInfo::ClearFields() {
     box->clear();
   SelectIFM(No);
   optRapidAllowLocal->Select(No);
-  cmbServiceType->SetCode(UsualService);
+  ChooseUsualService();
   // Not the defaults that the screen was loaded with.
   for (CodeComboBox* box : {cboStatsCat1, cboStatsCat2, cboStatsCat3, cboCategory, cboLibraryType, cmbLoanCode})
     box->SetCode({});
@@ -161,13 +151,13 @@ void frmLibraryStatisticalInfo::cmdUpdate_Click() {
     if (!HasRecordToUpdate()) return;
     TrimFields();
     if (!SymbolIsGiven() || !RapidIsValid() || !VornIsValid() || !BritishLibraryIsValid()) return;
-    ExecuteUpdate(UpdateStatement(), "***** SQL error on ID_library (Insert) *****");
-    TellUpdated();
+    if (RowWasFound(ExecuteInTransaction(UpdateStatement(), "***** SQL error on ID_library (Insert) *****")))
+      TellUpdated();
   });
 }
 
 void frmLibraryStatisticalInfo::TrimFields() {
-  const FillingFields filling;
+  const Record::Filling filling(record());
   for (TextBox* box : {txtLibrarySymbol,
                        txtVORNSymbol,
                        txtVORNUserID,

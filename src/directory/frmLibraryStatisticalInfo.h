@@ -18,7 +18,8 @@ class frmLibraryStatisticalInfo : public LibraryScreen {
   void ShowRecord(const Recordset& rows) override;
   void ClearFields() override;
   void cmdUpdate_Click() override;
-  void PopulateComboBoxes() override;
+  std::vector<CodeList> CodeLists() const override;
+  void ChooseDefaults() override;
   std::span<const TextKey> TextKeys() const override;
   void ReadFurtherText(const CustomText& texts) override;
   void ShowNoRecord() override;
@@ -50,6 +51,7 @@ class frmLibraryStatisticalInfo : public LibraryScreen {
   QWidget* OptionRow(OptionGroup* options, const QString& labelName);
   void ConnectControls();
 
+  void ChooseUsualService();
   void SearchOutside(const OutsideSymbol& symbol);
   void optUseIFM_Click();
   // Options and the state of the maximum that goes with them.

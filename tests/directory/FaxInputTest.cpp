@@ -180,4 +180,17 @@ TEST_F(FaxInputTest, TypingAFaxIsAChange) {
   Click("cmdClear");
 }
 
+TEST_F(FaxInputTest, ALongNumberIsShownWholeAndStoredWhole) {
+  const QString fax = "(613) 555-0101 ext 7";
+  SetColumn(North, "DELIV_FAX", "'" + fax + "'");
+  SetColumn(North, "PRIME_ADDRESS1", "'1 Harbour Road'");
+  OpenScreen(North);
+  EXPECT_EQ(Text("txtDeliveryFax"), fax);
+  Click("chkDeliveryFax");  // so that no test of its shape comes between
+  Type("txtCity", "York");
+  Prompt().ExpectStart("Library Symbol: 'NORTH'", MessageStyle::Information);
+  Click("cmdUpdate");
+  EXPECT_EQ(Column("DELIV_FAX"), fax);
+}
+
 }  // namespace

@@ -351,4 +351,58 @@ TEST_F(LibraryContactAgencyTest, ALoadedSystemKeepsItsCodeAmongEqualDescriptions
   EXPECT_EQ(Ask("SELECT EXTERNAL_ILL_SYSTEM FROM ID_ISO18626_AGENCY_ID_SEND WHERE LIBRARY_ID = 101"), "RESHARE");
 }
 
+// --- What was not read is not replaced ---
+
+TEST_F(LibraryContactAgencyTest, ListsThatCouldNotBeReadAreNotReplaced) {
+  for (const QString table : {"ID_ISO18626_AGENCY_ID_RECEIVE", "ID_ISO18626_AGENCY_ID_SEND", "ID_ILL_SYSTEM"}) {
+    Begin(North);
+    Another("ALTER TABLE " + table + " RENAME TO ID_TEST_AWAY");
+    Prompt().Expect("An error has occurred.  Please Notify Support.", MessageStyle::Stop);
+    Open("frmLibraryContactInfo");
+    Another("ALTER TABLE ID_TEST_AWAY RENAME TO " + table);
+    EXPECT_FALSE(IsEnabled("cmdUpdate"));
+    Type("txtNote", "mine");
+    Statements();
+    // There is nothing that the question could save.
+    Click("cmdClear");
+    EXPECT_TRUE(Writing().isEmpty());
+    EXPECT_EQ(Count("ID_ISO18626_AGENCY_ID_RECEIVE", "LIBRARY_ID = 101"), 2);
+    EXPECT_EQ(Count("ID_ISO18626_AGENCY_ID_SEND", "LIBRARY_ID = 101"), 1);
+  }
+}
+
+TEST_F(LibraryContactAgencyTest, TheListsOfTheLibraryBeforeAreNotStoredUnderTheNext) {
+  OpenScreen(South);
+  Another("ALTER TABLE ID_ISO18626_AGENCY_ID_SEND RENAME TO ID_TEST_AWAY");
+  Type("txtLibrarySymbol", "NORTH");
+  Prompt().Expect("An error has occurred.  Please Notify Support.", MessageStyle::Stop);
+  Click("cmdSearch");
+  Another("ALTER TABLE ID_TEST_AWAY RENAME TO ID_ISO18626_AGENCY_ID_SEND");
+  EXPECT_EQ(gclsOF->LibraryId(), South) << "the library in hand is the one on show";
+  EXPECT_EQ(Text("txtInstitution"), "SOUTH INSTITUTE");
+  EXPECT_EQ(Column1(Receive), QStringList{"S1"});
+  Type("txtNote", "mine");
+  Prompt().ExpectStart("The Library Registration", MessageStyle::Question, MessageAnswer::Yes);
+  Prompt().Expect("Library Symbol: (SOUTH) has been updated.", MessageStyle::Information);
+  Click("cmdSearch");
+  EXPECT_EQ(Column("NOTE", South), "mine");
+  EXPECT_EQ(Column("NOTE", North), QString());
+  EXPECT_EQ(Count("ID_ISO18626_AGENCY_ID_RECEIVE", "LIBRARY_ID = 101"), 2);
+  EXPECT_EQ(Count("ID_ISO18626_AGENCY_ID_RECEIVE", "LIBRARY_ID = 102"), 1);
+  EXPECT_EQ(Count("ID_ISO18626_AGENCY_ID_SEND", "LIBRARY_ID = 101"), 1);
+  EXPECT_EQ(Count("ID_ISO18626_AGENCY_ID_SEND", "LIBRARY_ID = 102"), 1);
+}
+
+TEST_F(LibraryContactAgencyTest, AnIdThatCouldNotBeTestedDoesNotStayInTheCell) {
+  OpenScreen();
+  const int row = Find<Grid>(Receive)->FindRow("N1", 1);
+  Another("ALTER TABLE ID_ISO18626_AGENCY_ID_RECEIVE RENAME TO ID_TEST_AWAY");
+  Prompt().Expect("An error occurred. Please Notify Support.", MessageStyle::Stop);
+  EditCell(Receive, row, 1, "S1");
+  Another("ALTER TABLE ID_TEST_AWAY RENAME TO ID_ISO18626_AGENCY_ID_RECEIVE");
+  EXPECT_EQ(Cell(Receive, row, 1), "N1");
+  Prompt().ExpectStart("Nothing has been changed.", MessageStyle::Stop);
+  Click("cmdUpdate");
+}
+
 }  // namespace

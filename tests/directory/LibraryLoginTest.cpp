@@ -314,4 +314,10 @@ TEST_F(LibraryLoginTest, TheTabKeyGoesInReadingOrder) {
                                 "cmdUpdate", "cmdClear", "cmdClose"}));
 }
 
+TEST_F(LibraryLoginTest, NoBoxIsMarkedAsRequiredForAllMayStayEmpty) {
+  OpenScreen();
+  for (const char* label : {"lblUserID", "lblPassword", "lblConfirmPassword"})
+    EXPECT_FALSE(Find<QLabel>(label)->font().bold()) << label;
+}
+
 }  // namespace

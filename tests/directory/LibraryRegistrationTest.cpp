@@ -277,7 +277,7 @@ TEST_F(LibraryRegistrationTest, UpdateNeverChangesTheSymbol) {
   Type("txtCity", "Leeds");
   Type("txtLibrarySymbol", "RENAMED");
   Prompt().Expect(GuardText(Registered), MessageStyle::Question, MessageAnswer::Yes);
-  Prompt().Expect("Library Symbol: 'RENAMED' has been updated.", MessageStyle::Information);
+  Prompt().Expect("Library Symbol: 'NORTH' has been updated.", MessageStyle::Information);
   Click("cmdSearch");
   EXPECT_EQ(Column("LIBRARY_SYMBOL"), "NORTH");
   EXPECT_EQ(Column("PRIME_CITY"), "Leeds");

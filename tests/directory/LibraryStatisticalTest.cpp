@@ -84,7 +84,7 @@ TEST_F(LibraryStatisticalTest, ReadsTheRecordAndConfirmsItsPasswords) {
   EXPECT_EQ(Text("txtMaximumCost"), "30.00");
   EXPECT_EQ(Find<CodeComboBox>("cboLibraryType")->Code(), "U");
   EXPECT_EQ(Find<CodeComboBox>("cmbServiceType")->Code(), "2");
-  EXPECT_EQ(Text("txtDateEntered"), "Tuesday, 5 March 2024 2:05:06 PM");
+  EXPECT_EQ(Text("txtDateEntered"), "Tuesday, 5 March 2024 14:05:06");
   EXPECT_EQ(Text("txtDateLastUpdated"), "");
 }
 
@@ -395,6 +395,38 @@ TEST_P(OutsideSearchTest, AFailedLookUpIsInTheLogWithItsStatement) {
   EXPECT_TRUE(LogHolds("* FindLibrarySymbol"));
   EXPECT_TRUE(
       LogHolds(QString("* Database Statement: SELECT   LIBRARY_ID, LIBRARY_SYMBOL, %1").arg(GetParam().column)));
+}
+
+TEST_F(LibraryStatisticalTest, ClearChoosesNoServiceWhereTheUsualOneIsMissing) {
+  Another("DELETE FROM ID_VORN_SERVICE WHERE VORN_SERVICE = '2'");
+  SetColumn(North, "VORN_SERVICE", "'3'");
+  OpenScreen();
+  Click("cmdClear");
+  EXPECT_NE(Text("cmbServiceType"), "Loans");
+  EXPECT_EQ(Find<CodeComboBox>("cmbServiceType")->Index(), -1);
+}
+
+TEST_F(LibraryStatisticalTest, DatesAreInTheWordsAndTheHoursOfTheMachine) {
+  SetColumn(North, "DATE_ENTERED", "'2024-03-05 14:05:06'");
+  for (const auto& [language, shown] : {std::pair{"de_DE", "Dienstag, 5. März 2024 14:05:06"},
+                                        {"en_US", "Tuesday, March 5, 2024 2:05:06 PM"},
+                                        {"fr_FR", "mardi 5 mars 2024 14:05:06"}}) {
+    const QLocale before;
+    QLocale::setDefault(QLocale(language));
+    OpenScreen();
+    QLocale::setDefault(before);
+    EXPECT_EQ(Text("txtDateEntered").simplified(), shown) << language;
+  }
+}
+
+TEST_F(LibraryStatisticalTest, ThePatternOfAnotherSymbolIsNoLibrarySymbol) {
+  SetColumn(North, "FD_SYMBOL", "'FD-1'");
+  SetColumn(South, "FD_SYMBOL", "'FD-2'");
+  OpenScreen(0);
+  Type("txtFD", "FD%");
+  Click("cmdSearchFDSymbol");
+  EXPECT_EQ(Text("txtFound"), "2");
+  EXPECT_EQ(Find<CodeComboBox>("cmbLibrarySymbol")->currentText(), "");
 }
 
 }  // namespace
