@@ -121,18 +121,18 @@ INSERT INTO ID_REQUEST_SRC (REQUEST_SRC, REQUEST_SRC_DESC) VALUES
   ('W', 'Web form');
 
 INSERT INTO ID_BIBLIOGRAPHY (BIBLIOGRAPHY, BIBLIOGRAPHY_DESC) VALUES
-  ('BNB', 'British National Bibliography'),
-  ('BNF', 'Bibliographie nationale française'),
-  ('DNB', 'Deutsche Nationalbibliografie'),
-  ('LCCN', 'Library of Congress Control Number'),
-  ('PMID', 'PubMed');
+  ('ARTIC', 'Index of journal articles'),
+  ('CONF', 'Index of conference papers'),
+  ('MEDIC', 'Index of medicine'),
+  ('NATIO', 'National bibliography'),
+  ('THESE', 'Index of theses');
 
 INSERT INTO ID_SYSTEM_SOURCE (SYSTEM_SOURCE, SYSTEM_SOURCE_DESC) VALUES
-  ('DNB', 'Deutsche Nationalbibliothek'),
-  ('LC', 'Library of Congress'),
+  ('ARTIC', 'Index of articles'),
   ('LOCAL', 'Local catalogue'),
-  ('OCLC', 'OCLC number'),
-  ('ZDB', 'Zeitschriftendatenbank');
+  ('NATIO', 'National catalogue'),
+  ('SERIA', 'Catalogue of serials'),
+  ('UNION', 'Union catalogue');
 
 INSERT INTO ID_CUSTOMER_ID (CUSTOMER_ID, CUSTOMER_ID_DESC) VALUES
   ('EXTERNAL', 'External libraries'),
@@ -171,12 +171,12 @@ INSERT INTO ID_LIBRARY_CAT (LIBRARY_CAT, LIBRARY_CAT_DESC) VALUES
   ('OT', 'Other library');
 
 INSERT INTO ID_STATS_CAT_LIB (STATS_CAT_LIB, STATS_CAT_LIB_DESC) VALUES
-  ('ARL', 'Research library'),
   ('COL', 'College'),
   ('COM', 'Company'),
   ('GOV', 'Government'),
   ('MED', 'Medicine'),
   ('PUB', 'Public library'),
+  ('RES', 'Research library'),
   ('TEC', 'Technology');
 
 INSERT INTO ID_VORN_SERVICE (VORN_SERVICE, VORN_SERVICE_DESC) VALUES
@@ -192,10 +192,10 @@ INSERT INTO ID_BILLING_TYPE (BILLING_TYPE, BILLING_TYPE_DESC) VALUES
   ('V', 'Vouchers');
 
 INSERT INTO ID_CREDIT_CARD (CREDIT_CARD, CREDIT_CARD_DESC) VALUES
-  ('AX', 'American Express'),
-  ('DC', 'Diners Club'),
-  ('MC', 'Mastercard'),
-  ('VI', 'Visa');
+  ('BC', 'Bank card'),
+  ('CC', 'Company card'),
+  ('GC', 'Government card'),
+  ('UC', 'University card');
 
 INSERT INTO ID_BILLING_RATE (BILLING_RATE, BILLING_RATE_DESC, INVOICE_FLAG_OVR) VALUES
   ('A', 'Academic libraries', NULL),
@@ -368,14 +368,14 @@ INSERT INTO ID_ISO_NAMESPACE (ISO_NAMESPACE, ISO_NAMESPACE_DESC, ISO_NAMESPACE_A
   ('ISBN', 'International Standard Book Number', 'ISBN'),
   ('ISIL', 'International identifier for libraries', 'LIBRARY_SYMBOL'),
   ('ISSN', 'International Standard Serial Number', 'ISSN'),
-  ('LCCN', 'Library of Congress Control Number', 'BIBLIOGRAPHY_NUM');
+  ('NBN', 'National bibliography number', 'BIBLIOGRAPHY_NUM');
 
 INSERT INTO ID_ILL_SYSTEM (ILL_SYSTEM, ILL_SYSTEM_DESC) VALUES
   ('DOCLINE', 'DOCLINE'),
   ('OSTANA', 'Ostana'),
   ('OTHER', 'Other system'),
   ('RAPID', 'Rapid ILL'),
-  ('RESHARE', 'ReShare');
+  ('TALVERNE', 'Talverne');
 
 INSERT INTO ID_ISO18626_VERSION (ISO18626_VERSION, ISO18626_VERSION_DESC) VALUES
   ('1.0', 'ISO 18626:2014'),
@@ -393,10 +393,10 @@ INSERT INTO ID_ISO18626_CONNECT_TYPE (ISO18626_CONNECT_TYPE, ISO18626_CONNECT_TY
   ('HTTPS', 'HTTPS');
 
 INSERT INTO ID_NCIP_ILS_SYSTEM (NCIP_ILS_SYSTEM, NCIP_ILS_SYSTEM_DESC) VALUES
-  ('ALMA', 'Alma'),
-  ('EVERGREEN', 'Evergreen'),
-  ('FOLIO', 'FOLIO'),
-  ('KOHA', 'Koha'),
+  ('AVELLIN', 'Avellin'),
+  ('ELMSTOR', 'Elmstor'),
+  ('FOLDARE', 'Foldare'),
+  ('KELDRY', 'Keldry'),
   ('OTHER', 'Other library system');
 
 INSERT INTO ID_NCIP_CONNECT_TYPE (NCIP_CONNECT_TYPE, NCIP_CONNECT_TYPE_DESC) VALUES

@@ -100,7 +100,7 @@ TEST_F(LibraryBillingTest, ADecimalCommaReachesTheDatabaseAsAPoint) {
 }
 
 TEST_F(LibraryBillingTest, TheStoredCardIsNotShownAndIsWrittenAwayUnlessTypedAgain) {
-  SetColumn(North, "CREDIT_CARD", "'VI'");
+  SetColumn(North, "CREDIT_CARD", "'UC'");
   SetColumn(North, "CREDIT_CARD_NAME", "'Ann Reed'");
   SetColumn(North, "CREDIT_CARD_NUM", "'4111'");
   SetColumn(North, "CREDIT_CARD_EXP", "'01/27'");
@@ -116,9 +116,9 @@ TEST_F(LibraryBillingTest, TheStoredCardIsNotShownAndIsWrittenAwayUnlessTypedAga
   EXPECT_EQ(Column("CREDIT_CARD_NUM"), "4111");
   Type("txtCCName", "Ann Reed");
   Type("txtCCCode", "12345");
-  Choose("cboCCType", "Visa");
+  Choose("cboCCType", "University card");
   Saves();
-  EXPECT_EQ(Column("CREDIT_CARD"), "VI");
+  EXPECT_EQ(Column("CREDIT_CARD"), "UC");
   EXPECT_EQ(Column("CREDIT_CARD_CODE"), "1234");
 }
 

@@ -28,7 +28,7 @@ class LibraryContactAgencyTest : public LibraryDesk {
     AddReceive(North, "N1");
     AddReceive(North, "N2");
     AddReceive(South, "S1");
-    AddSend(North, "RESHARE", "OUT1");
+    AddSend(North, "TALVERNE", "OUT1");
     AddSend(South, "OTHER", "SOUTH OUT");
   }
   void AddReceive(qint32 library, const QString& id) {
@@ -106,7 +106,7 @@ class LibraryContactAgencyTest : public LibraryDesk {
 TEST_F(LibraryContactAgencyTest, TheListsAreThoseOfTheLibrary) {
   OpenScreen();
   EXPECT_EQ(Column1(Receive), (QStringList{"N1", "N2"}));
-  EXPECT_EQ(Cell(Send, 1, 1), "ReShare");
+  EXPECT_EQ(Cell(Send, 1, 1), "Talverne");
   EXPECT_EQ(Cell(Send, 1, 2), "OUT1");
   EXPECT_EQ(Rows(Send), 2);
   EXPECT_EQ(Cell(Receive, 0, 1), "Agency Id");
@@ -310,7 +310,7 @@ TEST_F(LibraryContactAgencyTest, ANewSendIdGoesWithASystem) {
   Saves();
   const QString insert =
       "INSERT INTO ID_ISO18626_AGENCY_ID_SEND (LIBRARY_ID, EXTERNAL_ILL_SYSTEM, ISO18626_AGENCY_ID) VALUES (101, N'";
-  EXPECT_EQ(Writing().last(), insert + "DOCLINE', N'SOUTH OUT'); " + insert + "RESHARE', N'OUT1'); ");
+  EXPECT_EQ(Writing().last(), insert + "DOCLINE', N'SOUTH OUT'); " + insert + "TALVERNE', N'OUT1'); ");
   EXPECT_EQ(Count("ID_ISO18626_AGENCY_ID_SEND", "ISO18626_AGENCY_ID = 'SOUTH OUT'"), 2)
       << "an id may repeat across libraries for sending";
 }
@@ -318,7 +318,7 @@ TEST_F(LibraryContactAgencyTest, ANewSendIdGoesWithASystem) {
 TEST_F(LibraryContactAgencyTest, ASystemHasOneSendIdOnly) {
   OpenScreen();
   Click("cmdAddISO18626AgencyIdSend");
-  PickCell(Send, "ReShare");
+  PickCell(Send, "Talverne");
   Refuses(SystemTaken);
   EnterCell(Send);
   EXPECT_EQ(Cell(Send, 2, 1), "");
@@ -330,7 +330,7 @@ TEST_F(LibraryContactAgencyTest, ASystemHasOneSendIdOnly) {
   ExpectNewRow("Send", false);
   const int row = Find<Grid>(Send)->FindRow("OUT2", 2);
   Refuses(SystemTaken);
-  EditCell(Send, row, 1, "ReShare");
+  EditCell(Send, row, 1, "Talverne");
   EXPECT_EQ(Cell(Send, row, 1), "Other system");
   EscapeCell(Send);
   EditCell(Send, row, 1, "DOCLINE");
@@ -344,11 +344,11 @@ TEST_F(LibraryContactAgencyTest, ASystemHasOneSendIdOnly) {
 }
 
 TEST_F(LibraryContactAgencyTest, ALoadedSystemKeepsItsCodeAmongEqualDescriptions) {
-  Another("INSERT INTO ID_ILL_SYSTEM (ILL_SYSTEM, ILL_SYSTEM_DESC) VALUES ('AAA', 'ReShare')");
+  Another("INSERT INTO ID_ILL_SYSTEM (ILL_SYSTEM, ILL_SYSTEM_DESC) VALUES ('AAA', 'Talverne')");
   OpenScreen();
   EditCell(Send, 1, 2, "OUT9");
   Saves();
-  EXPECT_EQ(Ask("SELECT EXTERNAL_ILL_SYSTEM FROM ID_ISO18626_AGENCY_ID_SEND WHERE LIBRARY_ID = 101"), "RESHARE");
+  EXPECT_EQ(Ask("SELECT EXTERNAL_ILL_SYSTEM FROM ID_ISO18626_AGENCY_ID_SEND WHERE LIBRARY_ID = 101"), "TALVERNE");
 }
 
 // --- What was not read is not replaced ---

@@ -47,7 +47,7 @@ class LibraryContactDesk : public LibraryDesk {
     Another(
         "INSERT INTO ID_NCIP_CONNECT (LIBRARY_ID, NCIP_ILS_SYSTEM, NCIP_CONNECT_TYPE, NCIP_HOST_ADDRESS, "
         "NCIP_HOST_PORT) VALUES (" +
-        QString::number(library) + ", 'KOHA', 'HTTP', 'h', 1)");
+        QString::number(library) + ", 'KELDRY', 'HTTP', 'h', 1)");
   }
   void AddConnection(const QString& id) {
     Another(
@@ -55,6 +55,6 @@ class LibraryContactDesk : public LibraryDesk {
         "ISO18626_HOST_ADDRESS, ISO18626_HOST_PORT, ISO18626_VERSION, ISO18626_AUTHN_TYPE, RT_RETRY, "
         "RST_TRANSFER_REQUEST, TRANSFER_PATRON_INFO, TRANSFER_PATRON_EMAIL, TRANSFER_PATRON_ADDRESS, "
         "ACTION_CANCEL, ACTION_RENEW, ACTION_NOTIFICATION, RFM_REQUEST_RESPONSE, RFM_NOTIFICATION) VALUES ('" +
-        id + "', 'RESHARE', 'HTTPS', 'h', 443, '1.2', 'BASIC', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N')");
+        id + "', 'TALVERNE', 'HTTPS', 'h', 443, '1.2', 'BASIC', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N')");
   }
 };

@@ -329,14 +329,14 @@ TEST_F(LibraryContactTest, AFailureInTheThirdTransactionLeavesTheFirstTwoInForce
   Another("INSERT INTO ID_ISO18626_AGENCY_ID_RECEIVE (ISO18626_AGENCY_ID, LIBRARY_ID) VALUES ('IN', 101)");
   Another(
       "INSERT INTO ID_ISO18626_AGENCY_ID_SEND (LIBRARY_ID, EXTERNAL_ILL_SYSTEM, ISO18626_AGENCY_ID) VALUES (101, "
-      "'RESHARE', 'OUT')");
+      "'TALVERNE', 'OUT')");
   OpenScreen();
   Type("txtPhone", "555");
   SelectRow("grdISO18626AgencyIdReceive", 1);
   Click("cmdDeleteISO18626AgencyIdReceive");
   // Another client takes the system away that the list of ids refers to.
   Another("DELETE FROM ID_ISO18626_AGENCY_ID_SEND");
-  Another("DELETE FROM ID_ILL_SYSTEM WHERE ILL_SYSTEM = 'RESHARE'");
+  Another("DELETE FROM ID_ILL_SYSTEM WHERE ILL_SYSTEM = 'TALVERNE'");
   Prompt().ExpectTitled("An error has occurred.  Please Notify Support.", MessageStyle::Stop, Caption);
   Click("cmdUpdate");
   EXPECT_EQ(Column("CONTACT_PHONE"), "555");
@@ -411,20 +411,20 @@ TEST_F(LibraryContactTest, AStartDateIsNotTakenFromUnderAnEndDate) {
 // --- Looks ---
 
 TEST_F(LibraryContactTest, ItFitsOntoASmallScreen) {
-  AddConnection("RESHARE-MAIN");
+  AddConnection("TALVERNE-MAIN");
   SetColumn(North, "CONTACT_PHONE", "'+44 20 7946 0123'");
   SetColumn(North, "CONTACT_EMAIL", "'interlibrary.loans@library.north-college.example.org'");
   SetColumn(North, "NOTICE", "'Closed for stocktaking'");
   SetColumn(North, "NOTICE_SDATE", "'2024-02-01'");
   SetColumn(North, "NOTICE_EDATE", "'2024-02-29'");
   SetColumn(North, "NCIP_SERVER_LIBRARY_ID", "101");
-  SetColumn(North, "ISO18626_CONNECTION_ID", "'RESHARE-MAIN'");
+  SetColumn(North, "ISO18626_CONNECTION_ID", "'TALVERNE-MAIN'");
   for (const char* id : {"GB-NORTH", "GB-NORTH-LAW"})
     Another(QString("INSERT INTO ID_ISO18626_AGENCY_ID_RECEIVE (ISO18626_AGENCY_ID, LIBRARY_ID) VALUES ('%1', 101)")
                 .arg(id));
   Another(
       "INSERT INTO ID_ISO18626_AGENCY_ID_SEND (LIBRARY_ID, EXTERNAL_ILL_SYSTEM, ISO18626_AGENCY_ID) VALUES (101, "
-      "'RESHARE', 'GB-NORTH')");
+      "'TALVERNE', 'GB-NORTH')");
   OpenScreen();
   EXPECT_LE(Window()->width(), 1280);
   EXPECT_LE(Window()->height(), 760);

@@ -52,7 +52,7 @@ TEST_F(ISO18626ConnectTest, ListsAreSortedBehindNoneAndKeepTheirCodes) {
 }
 
 TEST_F(ISO18626ConnectTest, DescriptionsComeInTheWorkingLanguage) {
-  Another("UPDATE ID_ILL_SYSTEM SET ILL_SYSTEM_DESC_FRE = 'Partage' WHERE ILL_SYSTEM = 'RESHARE'");
+  Another("UPDATE ID_ILL_SYSTEM SET ILL_SYSTEM_DESC_FRE = 'Partage' WHERE ILL_SYSTEM = 'TALVERNE'");
   AddConnection("C1");
   gclsOF->SetLanguageSuffix("_FRE");
   OpenPicker("C1");
@@ -96,7 +96,7 @@ TEST_F(ISO18626ConnectTest, TheIdHandedInIsSelectedByItsExactLetters) {
   EXPECT_EQ(Text("txtHostAddress"), "iso.example.org");
   EXPECT_EQ(Text("txtUrl"), "/iso");
   EXPECT_EQ(Text("txtPort"), "8443");
-  EXPECT_EQ(Text("cmbILLSystem"), "ReShare");
+  EXPECT_EQ(Text("cmbILLSystem"), "Talverne");
   EXPECT_EQ(Text("cmbVersion"), "ISO 18626:2021");
   EXPECT_EQ(Text("cmbAuthType"), "User and password");
   EXPECT_EQ(Text("cmbConnectionType"), "HTTPS");
@@ -219,7 +219,7 @@ TEST_F(ISO18626ConnectTest, EachRequiredFieldIsAskedForInItsOrder) {
   refused("The Connection Id is required.", "txtConnectionID");
   Type("txtConnectionID", "C1");
   refused("The ILL System is required. Please select a valid value", "cmbILLSystem");
-  Choose("cmbILLSystem", "ReShare");
+  Choose("cmbILLSystem", "Talverne");
   refused("The Protocol Version is required. Please select a valid value", "cmbVersion");
   Choose("cmbVersion", "ISO 18626:2021");
   refused("The Authentication Type is required. Please select a valid value", "cmbAuthType");

@@ -9,7 +9,7 @@ class ISO18626Desk : public InteropDesk {
   static inline const QString Grid1 = "grdISO18626Connections";
 
   void AddConnection(const QString& id, const QString& flags = "'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N', 'N'",
-                     const QString& system = "RESHARE") {
+                     const QString& system = "TALVERNE") {
     Another(
         "INSERT INTO ID_ISO18626_CONNECT (ISO18626_CONNECTION_ID, ILL_SYSTEM, ISO18626_CONNECT_TYPE, "
         "ISO18626_HOST_ADDRESS, ISO18626_HOST_URL, ISO18626_HOST_PORT, ISO18626_VERSION, ISO18626_AUTHN_TYPE, "
@@ -28,7 +28,7 @@ class ISO18626Desk : public InteropDesk {
   }
   void Fill(const QString& id) {
     Type("txtConnectionID", id);
-    Choose("cmbILLSystem", "ReShare");
+    Choose("cmbILLSystem", "Talverne");
     Choose("cmbVersion", "ISO 18626:2021");
     Choose("cmbAuthType", "User and password");
     Choose("cmbConnectionType", "HTTPS");

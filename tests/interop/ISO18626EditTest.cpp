@@ -31,7 +31,7 @@ TEST_F(ISO18626EditTest, ANewConnectionIsStoredAndSelected) {
             "ISO18626_HOST_ADDRESS, ISO18626_HOST_URL, ISO18626_HOST_PORT, ISO18626_VERSION, ISO18626_AUTHN_TYPE, "
             "RT_RETRY, RST_TRANSFER_REQUEST, TRANSFER_PATRON_INFO, TRANSFER_PATRON_EMAIL, TRANSFER_PATRON_ADDRESS, "
             "ACTION_CANCEL, ACTION_RENEW, ACTION_NOTIFICATION, RFM_REQUEST_RESPONSE, RFM_NOTIFICATION) VALUES "
-            "(N'O''Hara', N'RESHARE', N'HTTPS', N'iso.example.org', N'/ill?a=''b''', 99999, N'1.2', N'BASIC', N'N', "
+            "(N'O''Hara', N'TALVERNE', N'HTTPS', N'iso.example.org', N'/ill?a=''b''', 99999, N'1.2', N'BASIC', N'N', "
             "N'Y', N'Y', N'N', N'Y', N'N', N'Y', N'N', N'N', N'N')");
   ExpectSelected("O'Hara");
   EXPECT_EQ(Stored("ISO18626_HOST_URL", "O''Hara"), "/ill?a='b'");
@@ -52,7 +52,7 @@ TEST_F(ISO18626EditTest, WithoutTransferAllPatronColumnsAreNAndAnEmptyUrlIsNull)
   const QStringList writing = Writing();
   ASSERT_EQ(writing.size(), 1);
   EXPECT_TRUE(
-      writing[0].endsWith("VALUES (N'C1', N'RESHARE', N'HTTPS', N'iso.example.org', Null, 443, N'1.2', "
+      writing[0].endsWith("VALUES (N'C1', N'TALVERNE', N'HTTPS', N'iso.example.org', Null, 443, N'1.2', "
                           "N'BASIC', N'N', N'N', N'N', N'N', N'N', N'N', N'N', N'N', N'N', N'N')"))
       << writing[0].toStdString();
 }

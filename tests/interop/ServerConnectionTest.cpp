@@ -27,17 +27,17 @@ class ServerConnectionTest : public InteropDesk {
         "NCIP_HOST_URL, NCIP_HOST_PORT, NCIP_VERSION, NCIP_APP_PROFILE, NCIP_SERVER_AGENCY_ID, "
         "NCIP_AGENCY_ID_SCHEME, NCIP_TO_AGENCY_ID, NCIP_FROM_AGENCY_ID, NCIP_ACTIVE_MESSAGES, "
         "NCIP_FROM_AGENCY_AUTH) VALUES (" +
-        QString::number(library) + ", 'KOHA', 'HTTPS', 'ncip.example.org', '/ncip', 8080, '" + version +
+        QString::number(library) + ", 'KELDRY', 'HTTPS', 'ncip.example.org', '/ncip', 8080, '" + version +
         "', 'PROFILE', 'SERVER', 'SCHEME', 'TO', 'FROM', '" + messages + "', 'AUTH')");
   }
   void AddApi(qint32 library, const QString& all = "Y") {
     Another(
         "INSERT INTO ID_API_CONNECT (LIBRARY_ID, API_ILS_SYSTEM, API_CONNECT_TYPE, API_HOST_ADDRESS, API_HOST_URL, "
         "API_HOST_PORT, API_ALL_LOCATIONS, API_HD_LOCATIONS) VALUES (" +
-        QString::number(library) + ", 'FOLIO', 'HTTPS', 'api.example.org', '/api', 443, '" + all + "', 'A,B')");
+        QString::number(library) + ", 'FOLDARE', 'HTTPS', 'api.example.org', '/api', 443, '" + all + "', 'A,B')");
   }
   void FillRequired(const QString& systemBox) {
-    Choose(systemBox, "Koha");
+    Choose(systemBox, "Keldry");
     Choose("cmbConnect", "HTTPS");
     Type("txtServerAddress", "host.example.org");
     Type("txtPort", "210");
@@ -84,7 +84,7 @@ TEST_F(ServerConnectionTest, ANewNCIPRowWithNoBoxCheckedStoresFifteenTimesN) {
             QStringList{"INSERT INTO ID_NCIP_CONNECT (LIBRARY_ID, NCIP_ILS_SYSTEM, NCIP_CONNECT_TYPE, "
                         "NCIP_HOST_ADDRESS, NCIP_HOST_URL, NCIP_HOST_PORT, NCIP_VERSION, NCIP_APP_PROFILE, "
                         "NCIP_SERVER_AGENCY_ID, NCIP_AGENCY_ID_SCHEME, NCIP_TO_AGENCY_ID, NCIP_FROM_AGENCY_ID, "
-                        "NCIP_ACTIVE_MESSAGES, NCIP_FROM_AGENCY_AUTH) VALUES (202, N'KOHA', N'HTTPS', "
+                        "NCIP_ACTIVE_MESSAGES, NCIP_FROM_AGENCY_AUTH) VALUES (202, N'KELDRY', N'HTTPS', "
                         "N'host.example.org', Null, 210, N'1.0', Null, Null, Null, Null, Null, N'NNNNNNNNNNNNNNN', "
                         "Null)"});
   EXPECT_FALSE(IsOpen());
@@ -94,7 +94,7 @@ TEST_F(ServerConnectionTest, ANewNCIPRowWithNoBoxCheckedStoresFifteenTimesN) {
 TEST_F(ServerConnectionTest, AStoredNCIPRowIsShownAndUpdatedWhole) {
   AddNcip(Server, "2.2", "YNYN");
   OpenForm(NcipForm);
-  EXPECT_EQ(Text("cmbNCIPSystem"), "Koha");
+  EXPECT_EQ(Text("cmbNCIPSystem"), "Keldry");
   EXPECT_EQ(Text("cmbConnect"), "HTTPS");
   EXPECT_EQ(Text("txtPort"), "8080");
   EXPECT_TRUE(IsChecked("rdVersion(3)"));
@@ -109,7 +109,7 @@ TEST_F(ServerConnectionTest, AStoredNCIPRowIsShownAndUpdatedWhole) {
   Prompt().ExpectTitled("Settings updated.", 64, NcipCaption);
   Click("cmdOK");
   EXPECT_EQ(Statements(),
-            QStringList{"UPDATE ID_NCIP_CONNECT SET NCIP_ILS_SYSTEM = N'KOHA', NCIP_CONNECT_TYPE = N'HTTPS', "
+            QStringList{"UPDATE ID_NCIP_CONNECT SET NCIP_ILS_SYSTEM = N'KELDRY', NCIP_CONNECT_TYPE = N'HTTPS', "
                         "NCIP_HOST_ADDRESS = N'ncip.example.org', NCIP_HOST_URL = Null, NCIP_HOST_PORT = 8080, "
                         "NCIP_VERSION = N'2.1', NCIP_APP_PROFILE = N'PROFILE', NCIP_SERVER_AGENCY_ID = N'SERVER', "
                         "NCIP_AGENCY_ID_SCHEME = N'SCHEME', NCIP_TO_AGENCY_ID = N'TO', NCIP_FROM_AGENCY_ID = "
@@ -272,7 +272,7 @@ TEST_F(ServerConnectionTest, ANewAPIRowUsesAllLocations) {
   Click("cmdOK");
   EXPECT_EQ(Statements(), QStringList{"INSERT INTO ID_API_CONNECT (LIBRARY_ID, API_ILS_SYSTEM, API_CONNECT_TYPE, "
                                       "API_HOST_ADDRESS, API_HOST_URL, API_HOST_PORT, API_ALL_LOCATIONS, "
-                                      "API_HD_LOCATIONS) VALUES (101, N'KOHA', N'HTTPS', N'host.example.org', Null, "
+                                      "API_HD_LOCATIONS) VALUES (101, N'KELDRY', N'HTTPS', N'host.example.org', Null, "
                                       "210, N'Y', Null)"});
   EXPECT_FALSE(IsOpen());
 }
@@ -289,7 +289,7 @@ TEST_F(ServerConnectionTest, AllLocationsStoresNullWhateverTheBoxHolds) {
   Prompt().Expect("Settings updated.", 64);
   Click("cmdOK");
   EXPECT_EQ(Statements(),
-            QStringList{"UPDATE ID_API_CONNECT SET API_ILS_SYSTEM = N'FOLIO', API_CONNECT_TYPE = N'HTTPS', "
+            QStringList{"UPDATE ID_API_CONNECT SET API_ILS_SYSTEM = N'FOLDARE', API_CONNECT_TYPE = N'HTTPS', "
                         "API_HOST_ADDRESS = N'api.example.org', API_HOST_URL = N'/api', API_HOST_PORT = 443, "
                         "API_ALL_LOCATIONS = N'Y', API_HD_LOCATIONS = Null WHERE   LIBRARY_ID = 101"});
 }
@@ -369,7 +369,7 @@ TEST_F(ServerConnectionTest, RequiredFieldsAreAskedForInTheirOrder) {
       EXPECT_EQ(Focus(), focus);
     };
     refused("ILS System is a required field.", systemBox);
-    Choose(systemBox, "Alma");
+    Choose(systemBox, "Avellin");
     refused("Connection Type is a required field.", "cmbConnect");
     Choose("cmbConnect", "Socket");
     Type("txtServerAddress", "  ");

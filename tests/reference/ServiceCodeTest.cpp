@@ -17,7 +17,7 @@ const std::vector<Wildcard>& Wildcards() {
       {"ITEM_TYPE", "B", "Book", "cmbItemType", 6},
       {"DELIVERY_METHOD", "M", "Mail", "cmbDeliveryMethod", 3},
       {"SERVICE_LEVEL", "U", "Urgent", "cmbServiceLevel", 4},
-      {"SYSTEM_SOURCE", "ZDB", "Zeitschriftendatenbank", "cmbSystemSource", 5},
+      {"SYSTEM_SOURCE", "SERIA", "Catalogue of serials", "cmbSystemSource", 5},
       {"COUNTRY_REGION", "EU", "European Union", "cmbCountryRegion", 2}};
   return wildcards;
 }
@@ -79,7 +79,7 @@ class ServiceCodeTest : public ReferenceDesk {
 
 TEST_F(ServiceCodeTest, LoadFillsListsAndGrid) {
   Insert("'Z9', NULL, 'M', 'U', NULL, 'EU'");
-  Insert("'A1', 'B', NULL, NULL, 'ZDB', NULL");
+  Insert("'A1', 'B', NULL, NULL, 'SERIA', NULL");
   Open(Form);
   const QString statements = Statements().join('\n');
   for (const char* start :
@@ -88,7 +88,7 @@ TEST_F(ServiceCodeTest, LoadFillsListsAndGrid) {
     EXPECT_TRUE(statements.contains(start)) << start;
   EXPECT_TRUE(statements.endsWith("SELECT   * FROM ID_SERVICE_CODE ORDER BY SERVICE_CODE"));
   EXPECT_EQ(Window()->windowTitle().toStdString(), "Ostana - Service Code");
-  EXPECT_EQ(RowsOf(*Find<Grid>(Table)).join('\n').toStdString(), "A1||||ZDB|B\nZ9|EU|M|U||");
+  EXPECT_EQ(RowsOf(*Find<Grid>(Table)).join('\n').toStdString(), "A1||||SERIA|B\nZ9|EU|M|U||");
   EXPECT_EQ(At(Table, 1, 1), "A1");
   for (const Wildcard& wildcard : Wildcards()) EXPECT_EQ(Shown(wildcard.box), "(none)");
   SelectRow(Table, 2);
