@@ -1,4 +1,4 @@
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 
 namespace {
 
@@ -113,7 +113,7 @@ TEST_F(ConnectionTest, OwnerPrefixIsUnderstood) {
 
 TEST_F(ConnectionTest, AThousandOpeningsLeaveNothingBehind) {
   for (int i = 0; i < 1000; ++i) {
-    if (TestEngine() != Engine::Sqlite && i == 50) break;  // a server's session costs milliseconds
+    if (TestDatabase::TestEngine() != Engine::Sqlite && i == 50) break;  // a server's session costs milliseconds
     Connection other(database.Settings());
     other.Open();
   }

@@ -1,6 +1,6 @@
 #include <QSqlDatabase>
 
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 #include "platform/ado/SqlTokens.h"
 
 namespace {

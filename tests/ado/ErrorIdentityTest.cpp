@@ -1,6 +1,6 @@
 #include <QSqlError>
 
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 
 namespace {
 
@@ -137,7 +137,7 @@ TEST_F(EngineErrors, UnknownNamesAndWordsAreRefusedText) {
 }
 
 TEST_F(EngineErrors, ServersRefuseATextThatIsTooLong) {
-  if (TestEngine() == Engine::Sqlite) GTEST_SKIP() << "SQLite knows no length without a CHECK";
+  if (TestDatabase::TestEngine() == Engine::Sqlite) GTEST_SKIP() << "SQLite knows no length without a CHECK";
   EXPECT_EQ(ErrorOf([&] { Run("INSERT INTO ID_PARENT VALUES('ABCD', 'x')"); }).Number(), AdoNumber::TextRefused);
   EXPECT_EQ(Count("ID_PARENT"), 1);
 }

@@ -1,11 +1,11 @@
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 
 namespace {
 
 class LostConnectionTest : public AdoTest {
  protected:
   void SetUp() override {
-    if (TestEngine() == Engine::Sqlite) GTEST_SKIP() << "SQLite has no server to lose";
+    if (TestDatabase::TestEngine() == Engine::Sqlite) GTEST_SKIP() << "SQLite has no server to lose";
     Run("CREATE TABLE ID_A (A INTEGER NOT NULL PRIMARY KEY, B VARCHAR(20))");
   }
 };
@@ -98,7 +98,7 @@ TEST_F(LostConnectionTest, TheNewSessionIsSetUpAsTheFirst) {
 
 // It would go on in a new session, outside of the transaction, and commit what came after the loss.
 TEST_F(LostConnectionTest, TheDriversOwnReconnectionIsNotAllowed) {
-  if (TestEngine() != Engine::MariaDb) GTEST_SKIP() << "an option of MariaDB's driver";
+  if (TestDatabase::TestEngine() != Engine::MariaDb) GTEST_SKIP() << "an option of MariaDB's driver";
   connection.Close();
   ConnectionSettings settings = database.Settings();
   settings.options = "MYSQL_OPT_RECONNECT=1;MYSQL_OPT_CONNECT_TIMEOUT=5";

@@ -3,7 +3,7 @@
 #include <QSqlError>
 #include <ctime>
 
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 #include "platform/ado/SqlServerDialect.h"
 
 namespace {
@@ -42,7 +42,7 @@ const OverOdbc dialect;
 class OdbcRoad : public AdoTest {
  protected:
   void SetUp() override {
-    if (TestEngine() != Engine::PostgreSql) GTEST_SKIP() << "the ODBC driver at hand is PostgreSQL's";
+    if (TestDatabase::TestEngine() != Engine::PostgreSql) GTEST_SKIP() << "the ODBC driver at hand is PostgreSQL's";
     odbc.Open();
     odbc.Execute("CREATE TABLE ID_PARENT (CODE VARCHAR(5) NOT NULL PRIMARY KEY, NAME VARCHAR(200))");
     odbc.Execute("CREATE TABLE ID_CHILD (ID INTEGER NOT NULL PRIMARY KEY, CODE VARCHAR(5) REFERENCES ID_PARENT)");

@@ -1,7 +1,7 @@
 #include <QDir>
 #include <QFile>
 
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 
 namespace {
 
@@ -89,11 +89,11 @@ TEST_F(SqliteOpen, ADatabaseThatMayNotBeWrittenIsNoLostConnection) {
 class ServerOpen : public testing::Test {
  protected:
   void SetUp() override {
-    if (TestEngine() == Engine::Sqlite) GTEST_SKIP() << "about servers";
+    if (TestDatabase::TestEngine() == Engine::Sqlite) GTEST_SKIP() << "about servers";
     settings = database.Settings();
     settings.password = "Secr3tWord";
   }
-  TestDatabase database;
+  EmptyDatabase database;
   ConnectionSettings settings;
 };
 

@@ -1,4 +1,4 @@
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 
 namespace {
 
@@ -117,7 +117,7 @@ TEST_F(RecordsetTest, AFailedOpenLeavesItClosed) {
 
 // The second of three rows cannot be computed: half a result must not pass for a whole one.
 TEST_F(RecordsetTest, AReadingThatBreaksOffIsAnError) {
-  const QString broken = TestEngine() == Engine::Sqlite
+  const QString broken = TestDatabase::TestEngine() == Engine::Sqlite
                              ? "CASE WHEN A = 2 THEN abs(-9223372036854775807 - 1) ELSE A END"
                              : "CASE WHEN A = 2 THEN (SELECT X.A FROM ID_A X) ELSE A END";
   Recordset rows;
@@ -254,7 +254,7 @@ TEST_F(PessimisticTest, RowChangedDoesNotBreakATransaction) {
 TEST_F(PessimisticTest, AValueThatIsNoNumberIsRefusedAndNotRun) {
   rows.Open(connection);
   rows.SetValue("A", "1, B = 'x'");
-  if (TestEngine() != Engine::Sqlite) {
+  if (TestDatabase::TestEngine() != Engine::Sqlite) {
     ErrorOf([&] { rows.Update(); });
   } else {
     rows.CancelUpdate();

@@ -1,6 +1,6 @@
 #include "platform/ado/SqlTokens.h"
 
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 
 namespace {
 
@@ -137,8 +137,8 @@ TEST_F(TransactionTest, ALockedDatabaseIsToldAsBusy) {
   Connection other(database.Settings());
   other.Open();
   Run("INSERT INTO ID_A VALUES(1, 'x')");
-  if (TestEngine() == Engine::PostgreSql) Run("SET lock_timeout = 500");
-  if (TestEngine() == Engine::MariaDb) Run("SET innodb_lock_wait_timeout = 1");
+  if (TestDatabase::TestEngine() == Engine::PostgreSql) Run("SET lock_timeout = 500");
+  if (TestDatabase::TestEngine() == Engine::MariaDb) Run("SET innodb_lock_wait_timeout = 1");
   Transaction held(other);
   other.Execute("UPDATE ID_A SET B = 'y'");
   const AdoError error = ErrorOf([&] {
@@ -152,7 +152,7 @@ TEST_F(TransactionTest, ALockedDatabaseIsToldAsBusy) {
 }
 
 TEST_F(TransactionTest, TwoWritersOnSqliteBothGetThrough) {
-  if (TestEngine() != Engine::Sqlite) GTEST_SKIP() << "about BEGIN IMMEDIATE";
+  if (TestDatabase::TestEngine() != Engine::Sqlite) GTEST_SKIP() << "about BEGIN IMMEDIATE";
   Connection other(database.Settings());
   other.Open();
   for (int i = 0; i < 20; ++i) {

@@ -286,6 +286,14 @@ void TestDatabase::Remove(const ConnectionSettings& settings) {
   }
 }
 
+EmptyDatabase::EmptyDatabase() : settings_(TestDatabase::FreshSettings(folder_.path())) {
+  DatabaseBuilder::MakeMissing(settings_);
+}
+
+EmptyDatabase::~EmptyDatabase() {
+  TestDatabase::Remove(settings_);
+}
+
 QString TestDatabase::IniSection(const ConnectionSettings& settings) {
   static const std::map<Engine, QString> names{{Engine::Sqlite, "SQLITE"},
                                                {Engine::PostgreSql, "POSTGRESQL"},

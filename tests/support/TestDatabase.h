@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QTemporaryDir>
 #include <memory>
 
 #include "platform/ado/Connection.h"
@@ -38,4 +39,18 @@ class TestDatabase {
   ConnectionSettings settings_;
   bool lent_ = false;
   std::unique_ptr<Connection> other_;
+};
+
+// One without tables, made as the product makes its own.
+class EmptyDatabase {
+ public:
+  EmptyDatabase();
+  ~EmptyDatabase();
+  EmptyDatabase(const EmptyDatabase&) = delete;
+  EmptyDatabase& operator=(const EmptyDatabase&) = delete;
+  const ConnectionSettings& Settings() const { return settings_; }
+
+ private:
+  QTemporaryDir folder_;  // of SQLite's file
+  ConnectionSettings settings_;
 };

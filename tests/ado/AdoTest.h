@@ -2,34 +2,18 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-#include <memory>
 #include <ostream>
 
-#include "platform/ado/Connection.h"
 #include "platform/ado/Dialect.h"
 #include "platform/ado/Recordset.h"
+#include "support/TestDatabase.h"
 
 // Shows texts in the messages of failed expectations.
 inline void PrintTo(const QString& text, std::ostream* out) {
   *out << '"' << text.toStdString() << '"';
 }
 
-// The engine that TABULON_TEST_ENGINE names (sqlite when it is not set), reached as tests/support/with-engine tells.
-Engine TestEngine();
-
-// A database of its own for each case, empty, gone with the object.
-class TestDatabase {
- public:
-  TestDatabase();
-  ~TestDatabase();
-  const ConnectionSettings& Settings() const { return settings_; }
-
- private:
-  std::unique_ptr<QTemporaryDir> folder_;  // of SQLite's file
-  ConnectionSettings settings_;
-};
-
+// Each case has an empty database and a connection to it.
 class AdoTest : public testing::Test {
  protected:
   AdoTest() : connection(database.Settings()) { connection.Open(); }
@@ -46,7 +30,7 @@ class AdoTest : public testing::Test {
   // Ends all other sessions of this database from a session of its own.
   void KillSession();
 
-  TestDatabase database;
+  EmptyDatabase database;
   Connection connection;
 };
 
