@@ -7,6 +7,7 @@
 void ResetModuleState() {
   grsTable.Reset();  // before the connection that it may have read from
   gclsOF.Reset();
+  gLogonDialog = nullptr;
 
   gstrErrorMessage.clear();
   gstrDecimalSeparator = ".";
@@ -21,6 +22,14 @@ void ResetModuleState() {
   gbFillingFields = false;
   gbTabGuardArmed = false;
   gstrButtonMode.clear();
+
+  gLibraryMatches.clear();
+  gclsRequestInfo.Reset();
+  gclsAddRequest.Reset();
+  gstrRequestType.clear();
+  gstrRequestNotes1.clear();
+  gstrRequestNote.clear();
+  gbRequestAdded = false;
 
   gbLibraryActive = false;
   gbVetoUnload = false;

@@ -4,11 +4,16 @@
 #include <QStringList>
 #include <functional>
 #include <memory>
+#include <vector>
+
+#include "core/Logon.h"
 
 #include "core/Record.h"
 
 class OstanaFunctions;
 class Recordset;
+class clsAddRequest;
+class clsRequestInfo;
 
 // The state of the whole program on one page, under the names that every screen and every log reader knows. One
 // process, one thread: nothing here is locked. ResetModuleState makes all of it new, as at process start.
@@ -31,6 +36,7 @@ class OnFirstUse {
 
 inline OnFirstUse<OstanaFunctions> gclsOF;  // the common services
 inline OnFirstUse<Recordset> grsTable;      // the recordset that the main form's screens share
+inline LogonQuestion gLogonDialog;          // what asks instead of the dialog frmLogon while it is set
 
 inline QString gstrErrorMessage;               // failure message in force, set before a risky statement
 inline QString gstrDecimalSeparator = ".";     // of the machine's locale, "." or ","
@@ -44,6 +50,19 @@ inline bool gbSkipActivate = false;    // the next Form_Activate does nothing bu
 inline bool gbFillingFields = false;   // code fills fields; change handlers leave the mark of the record alone
 inline bool gbTabGuardArmed = false;   // the question before leaving a changed record may be asked
 inline QString gstrButtonMode;         // EnableButtons' letter of the current tab or code table
+
+// The search for libraries and the placing of a request.
+struct LibraryMatch {
+  qint32 LibraryID = 0;
+  QString LibrarySymbol;
+};
+inline std::vector<LibraryMatch> gLibraryMatches;   // rows of the last search, in the order of the column searched
+inline OnFirstUse<clsRequestInfo> gclsRequestInfo;  // what the request forms collected
+inline OnFirstUse<clsAddRequest> gclsAddRequest;    // on whose behalf
+inline QString gstrRequestType;                     // REQUEST_TYPE of the request
+inline QString gstrRequestNotes1;                   // short free text for NOTES1
+inline QString gstrRequestNote;                     // the request note
+inline bool gbRequestAdded = false;                 // a request was written
 
 // Hand-over between screens.
 inline bool gbLibraryActive = false;         // the library read last may be given requests

@@ -57,7 +57,7 @@ void FaxInput::TellUnfinished() {
 
 char16_t FaxInput::KeyPress(char16_t key) {
   if (!IsFormatting()) return key;
-  gbFaxBackspace = key == Backspace;
+  backspace_ = key == Backspace;
   // Selected text is about to be replaced.
   const auto length = box_->Text().size() - box_->selectedText().size();
   if (key == Enter) {
@@ -73,7 +73,7 @@ char16_t FaxInput::KeyPress(char16_t key) {
 
 // Each mark comes when the character behind it has been typed, or where it stands at the end of its group.
 void FaxInput::Change() {
-  if (!IsFormatting() || gbFaxBackspace) return;
+  if (!IsFormatting() || backspace_) return;
   const QString text = box_->Text();
   if (text.size() == 1 && text[0] != '(') {
     Put("(" + text, 2);

@@ -5,9 +5,6 @@
 class QCheckBox;
 class TextBox;
 
-// The key typed last into a fax box was Backspace: the formatting does not put back what it took.
-inline bool gbFaxBackspace = false;
-
 // A fax box that forms what is typed into (NNN) NNN-NNNN, unless its check box is ticked.
 class FaxInput : public QObject {
   Q_OBJECT
@@ -37,4 +34,5 @@ class FaxInput : public QObject {
   TextBox* box_;
   QCheckBox* free_;
   QString enterMessage_;
+  bool backspace_ = false;  // the key typed last: the formatting does not put back what it took
 };

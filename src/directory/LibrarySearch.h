@@ -1,19 +1,10 @@
 #pragma once
 
 #include <QString>
-#include <vector>
 
 // Turning what a user typed into a library.
 
-struct LibraryMatch {
-  qint32 LibraryID = 0;
-  QString LibrarySymbol;
-};
-
-inline constexpr int MostLibraryMatches = 50;
-
-// Rows of the last search, in the order of the column searched; rebuilt by each search.
-inline std::vector<LibraryMatch> gLibraryMatches;
+inline constexpr int MostLibraryMatches = 50;  // rows of gLibraryMatches, which each search rebuilds
 
 // Both answer True when the caller should go on: with an id of at least 1 for an exact hit, -1 when the record on show
 // is meant, otherwise with the count of gLibraryMatches, 0 when a search with a wildcard ("%") found nothing. On False

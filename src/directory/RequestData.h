@@ -2,8 +2,6 @@
 
 #include <QString>
 
-#include "core/ModuleState.h"
-
 // What the request forms of other applications collect before a request is written. Plain data; an empty text stands
 // for "not given".
 
@@ -31,13 +29,3 @@ class clsAddRequestPat {
   QString PatronZipPostalCode, PatronCountry, PatronStateProvince, PatronCity, PatronStreet2, PatronStreet1;
   QString PatronBranch, PatronDepartment;
 };
-
-class clsAddRequest;
-inline OnFirstUse<clsRequestInfo> gclsRequestInfo;
-inline OnFirstUse<clsAddRequest> gclsAddRequest;
-
-// Texts that go with them, set by the request forms.
-inline QString gstrRequestType;      // REQUEST_TYPE of the request
-inline QString gstrRequestNotes1;    // short free text for NOTES1
-inline QString gstrRequestNote;      // the request note
-inline bool gbRequestAdded = false;  // a request was written

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "directory/RequestData.h"

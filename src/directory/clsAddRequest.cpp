@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/Clock.h"
+#include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "directory/RequestKeywords.h"

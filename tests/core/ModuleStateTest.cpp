@@ -1,5 +1,6 @@
 #include "core/ModuleState.h"
 
+#include <QDirIterator>
 #include <QRegularExpression>
 
 #include "core/OstanaFunctions.h"
@@ -10,28 +11,32 @@
 
 namespace {
 
-QString SourceText(const QString& name) {
-  QFile file(SourceFolder() + "/src/core/" + name);
-  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+QString SourceText(const QString& path) {
+  QFile file(path);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
   return QString::fromUtf8(file.readAll());
 }
 
 }  // namespace
 
+// Variables of the whole program, in whatever header of whatever room.
 TEST(ModuleStateTest, EveryVariableIsReset) {
-  const QString reset = SourceText("ModuleState.cpp");
-  static const QRegularExpression variable("^inline (?!constexpr)[^;=]*\\b(\\w+)(?: = [^;]+)?;",
-                                           QRegularExpression::MultilineOption);
+  const QString source = SourceFolder() + "/src";
+  const QString reset = SourceText(source + "/core/ModuleState.cpp");
+  static const QRegularExpression variable(
+      "^inline (?!const |constexpr )(?:[^;=({<]|<[^;={]*>)*\\b(\\w+)(?: = [^;]+)?;",
+      QRegularExpression::MultilineOption);
   int variables = 0;
-  for (const char* header : {"ModuleState.h", "WebServiceSettings.h"}) {
-    auto match = variable.globalMatch(SourceText(header));
-    while (match.hasNext()) {
+  for (QDirIterator files(source, {"*.h", "*.cpp"}, QDir::Files, QDirIterator::Subdirectories); files.hasNext();) {
+    const QString path = files.next();
+    for (auto match = variable.globalMatch(SourceText(path)); match.hasNext();) {
       const QString name = match.next().captured(1);
-      EXPECT_TRUE(reset.contains(QRegularExpression("\\b" + name + "( =|\\.(clear|Reset)\\()"))) << name.toStdString();
+      EXPECT_TRUE(reset.contains(QRegularExpression("\\b" + name + "( =|\\.(clear|Reset)\\()")))
+          << path.toStdString() << ": " << name.toStdString();
       ++variables;
     }
   }
-  EXPECT_GE(variables, 28);
+  EXPECT_GE(variables, 35);
 }
 
 TEST(ModuleStateTest, ResetBringsTheInitialValuesBack) {
@@ -47,6 +52,8 @@ TEST(ModuleStateTest, ResetBringsTheInitialValuesBack) {
   gstrWebServiceName = "BL";
   gbUseWebService = true;
   gWebService.deliveredCode = "X";
+  gLibraryMatches = {{1, "ONE"}};
+  gbRequestAdded = true;
   ResetModuleState();
   EXPECT_TRUE(gstrErrorMessage.isEmpty());
   EXPECT_EQ(gstrDecimalSeparator, ".");
@@ -58,6 +65,8 @@ TEST(ModuleStateTest, ResetBringsTheInitialValuesBack) {
   EXPECT_TRUE(gstrWebServiceName.isEmpty());
   EXPECT_FALSE(gbUseWebService);
   EXPECT_EQ(gWebService.deliveredCode, "DEL");
+  EXPECT_TRUE(gLibraryMatches.empty());
+  EXPECT_FALSE(gbRequestAdded);
 }
 
 TEST(ModuleStateTest, CommonServicesAndRecordsetAreMadeNew) {

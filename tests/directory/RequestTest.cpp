@@ -16,12 +16,7 @@ class RequestTest : public Desk {
         "INSERT INTO ID_LIBRARY (LIBRARY_ID, LIBRARY_SYMBOL, INSTITUTION_NAME, MSG_METHOD, DELIV_METHOD_COPY) VALUES "
         "(71, 'ONE', 'One', 'E', 'M')");
     Logon();
-    gclsRequestInfo.Reset();
-    gclsAddRequest.Reset();
     gstrRequestType = "REG";
-    gstrRequestNotes1.clear();
-    gstrRequestNote.clear();
-    gbRequestAdded = false;
     gclsOF->SetLibraryId(71);
     Clock::Set([] { return QDateTime(QDate(2026, 3, 4), QTime(5, 6, 7)); });
   }
