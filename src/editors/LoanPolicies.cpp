@@ -179,11 +179,15 @@ void LoanPolicies::MarkChanged() {
 
 QStringList LoanPolicies::Typed() const {
   QStringList typed{txt6LoanCode->Trimmed()};
-  for (const PolicyField& field : fields_) {
-    const QString text = field.box->Trimmed();
-    typed.append(field.box == txt6aDescription ? TextInput::Upper(text) : text);
-  }
+  for (const PolicyField& field : fields_) typed.append(TypedValue(field));
   return typed;
+}
+
+// The description in capitals, as much of them as its box can hold.
+QString LoanPolicies::TypedValue(const PolicyField& field) const {
+  const QString text = field.box->Trimmed();
+  if (field.box != txt6aDescription) return text;
+  return TextInput::Fitting(TextInput::Upper(text), txt6aDescription->maxLength());
 }
 
 bool LoanPolicies::HasDigits(const PolicyField& field) {
@@ -200,9 +204,7 @@ bool LoanPolicies::PeriodsAreDigits() {
 }
 
 QString LoanPolicies::AsSql(const PolicyField& field, const QString& emptyText) const {
-  const QString text = field.box->Trimmed();
-  if (field.IsPeriod()) return Sql::NumberOr(text, "NULL");
-  return Sql::NationalOr(field.box == txt6aDescription ? TextInput::Upper(text) : text, emptyText);
+  return field.IsPeriod() ? Sql::NumberOr(TypedValue(field), "NULL") : Sql::NationalOr(TypedValue(field), emptyText);
 }
 
 // --- Add, Update, Delete, Clear ---

@@ -51,6 +51,7 @@ class LoanPolicies : public QWidget {
   int RowOfCode(const QString& code) const;
   // The boxes as they would be stored, the code first.
   QStringList Typed() const;
+  QString TypedValue(const PolicyField& field) const;
   bool HasDigits(const PolicyField& field);
   bool PeriodsAreDigits();
   QString AsSql(const PolicyField& field, const QString& emptyText) const;

@@ -248,6 +248,13 @@ TEST_F(TextBoxTest, TrimsInPlace) {
   EXPECT_EQ(box->Text(), "X");
 }
 
+// What is returned is what a statement sends: never more than a person sees in the box.
+TEST_F(TextBoxTest, CapitalsThatAreLongerThanTheBoxAreCutInTheAnswerToo) {
+  Make(3)->SetText("a\u00dfb");
+  EXPECT_EQ(box->TrimUpperInPlace(), "ASS");
+  EXPECT_EQ(box->Text(), "ASS");
+}
+
 TEST_F(TextBoxTest, EnterRunsTheActionAndGoesNoFurther) {
   QDialog dialog;
   auto* layout = new QVBoxLayout(&dialog);

@@ -55,7 +55,7 @@ QString TextBox::TrimInPlace() {
 QString TextBox::TrimUpperInPlace() {
   const QString upper = TextInput::Upper(text().trimmed());
   if (upper != text()) SetText(upper);
-  return upper;
+  return text();
 }
 
 void TextBox::SelectAllAndFocus() {

@@ -23,6 +23,7 @@ class TextBox : public QLineEdit {
   QString Trimmed() const { return text().trimmed(); }
   // Writes the trimmed text back and returns it.
   QString TrimInPlace();
+  // In capitals too, cut at the limit when they are longer than the letters were.
   QString TrimUpperInPlace();
   void SelectAllAndFocus();
 
