@@ -41,6 +41,17 @@ TEST_F(MemoBoxTest, LimitStopsTypingAndCountsALineEndOnce) {
   EXPECT_EQ(memo->Text(), "ab\nc");
 }
 
+TEST_F(MemoBoxTest, EnterIsALineEndWithShiftToo) {
+  Make(5);
+  QTest::keyClicks(memo, "ab");
+  QTest::keyClick(memo, Qt::Key_Return, Qt::ShiftModifier);
+  QTest::keyClick(memo, Qt::Key_Enter, Qt::ShiftModifier | Qt::KeypadModifier);
+  QTest::keyClicks(memo, "c");
+  EXPECT_EQ(memo->Text(), "ab\n\nc");
+  QTest::keyClick(memo, Qt::Key_Return, Qt::ShiftModifier);
+  EXPECT_EQ(memo->Text(), "ab\n\nc");
+}
+
 TEST_F(MemoBoxTest, LimitCutsWhatIsPasted) {
   Make(5);
   Paste("ab\r\ncdef");

@@ -132,7 +132,11 @@ void MemoBox::keyPressEvent(QKeyEvent* event) {
   if (Refused()) return event->accept();
   const QString typed = enter ? QStringLiteral("\n") : event->text();
   if (Fitting(typed) != typed) return event->accept();
-  QPlainTextEdit::keyPressEvent(event);
+  if (!event->matches(QKeySequence::InsertLineSeparator)) return QPlainTextEdit::keyPressEvent(event);
+  // Shift+Enter is Enter: no other program takes a line separator for a line end.
+  textCursor().insertBlock();
+  ensureCursorVisible();
+  event->accept();
 }
 
 void MemoBox::inputMethodEvent(QInputMethodEvent* event) {
