@@ -5,23 +5,11 @@
 #include <vector>
 
 #include "platform/ado/SqlTokens.h"
+#include "schema/SecretColumns.h"
 
 namespace {
 
 const QString Mask = QStringLiteral("'***'");
-
-// Every column whose name holds one of these words is secret, so that one added later is masked too.
-bool IsSecretColumn(const QString& word) {
-  const QString name = word.section('.', -1).remove('[').remove(']').remove('"').toUpper();
-  static const QStringList others{"CREDIT_CARD_NUM", "CREDIT_CARD_CODE", "NCIP_FROM_AGENCY_AUTH"};
-  return name.contains("PASSWORD") || others.contains(name);
-}
-
-bool NamesSecretColumn(const QString& text) {
-  static const QRegularExpression names("password|credit_card_(num|code)|ncip_from_agency_auth",
-                                        QRegularExpression::CaseInsensitiveOption);
-  return text.contains(names);
-}
 
 // Walks the tokens of a text that may begin with words that are no SQL.
 class Masker {
@@ -37,7 +25,7 @@ class Masker {
     while (at_ < tokens_.size()) {
       if (IsWord("INSERT")) {
         Insert();
-      } else if (IsName() && IsSecretColumn(tokens_[at_].text)) {
+      } else if (IsName() && NamesSecretColumn(tokens_[at_].text)) {
         Comparison();
       } else {
         ++at_;
@@ -121,7 +109,7 @@ class Masker {
     for (Next(); !AtEnd() && !IsSymbol(')'); Next()) {
       if (IsSymbol(',')) {
         secret.push_back(false);
-      } else if (IsName() && IsSecretColumn(tokens_[at_].text)) {
+      } else if (IsName() && NamesSecretColumn(tokens_[at_].text)) {
         secret.back() = true;
       }
     }

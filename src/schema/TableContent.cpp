@@ -8,6 +8,7 @@
 #include "platform/ado/Recordset.h"
 #include "schema/Languages.h"
 #include "schema/SchemaSql.h"
+#include "schema/SecretColumns.h"
 
 namespace {
 
@@ -102,13 +103,6 @@ std::vector<const SchemaTable*> Content::Configuration() {
   return tables;
 }
 
-bool Content::IsSecret(const SchemaColumn& column) {
-  // CREDIT_CARD alone is the kind of card, a code of a table.
-  static const QStringList others{"CREDIT_CARD_NAME", "CREDIT_CARD_NUM", "CREDIT_CARD_EXP", "CREDIT_CARD_CODE",
-                                  "NCIP_FROM_AGENCY_AUTH"};
-  return column.name.contains("PASSWORD") || others.contains(column.name);
-}
-
 QString Content::DescriptionOf(const SchemaTable& table, const QString& column) {
   if (table.Find(column)) return {};
   for (const SchemaColumn& description : Descriptions(table)) {
@@ -171,8 +165,9 @@ TableContent Content::Read(Connection& connection, const SchemaTable& table, con
   QStringList present;
   for (const ColumnInfo& info : connection.Columns(table.name)) present += info.name;
   TableContent content{&table, KnownColumns(table, present), {}};
-  std::erase_if(content.columns,
-                [&](const SchemaColumn& column) { return IsSecret(column) && !secrets.Hold(column.name); });
+  std::erase_if(content.columns, [&](const SchemaColumn& column) {
+    return NamesSecretColumn(column.name) && !secrets.Hold(column.name);
+  });
   if (content.columns.empty())
     throw std::runtime_error("The database lacks the table " + table.name.toStdString() +
                              ". tabulon-db check tells what else is missing.");

@@ -47,8 +47,6 @@ namespace Content {
 bool IsConfiguration(const SchemaTable& table);
 std::vector<const SchemaTable*> Configuration();
 
-// Passwords and card data, and what a server of a partner takes for a password.
-bool IsSecret(const SchemaColumn& column);
 // A column that the table has for a language of its site.
 bool IsLanguageColumn(const SchemaTable& table, const QString& column);
 // The column whose description goes where a row has none in the language; empty when there is none.

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "schema/ExportText.h"
+#include "schema/SecretColumns.h"
 
 namespace {
 
@@ -75,7 +76,7 @@ void CompareColumns(const TableContent& first, const TableContent& second, Table
 }
 
 QString Shown(const SchemaColumn& column, const Cell& value) {
-  return value && Content::IsSecret(column) ? QStringLiteral("***") : ExportText::ValueText(column, value);
+  return value && NamesSecretColumn(column.name) ? QStringLiteral("***") : ExportText::ValueText(column, value);
 }
 
 }  // namespace

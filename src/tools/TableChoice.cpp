@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "schema/SecretColumns.h"
+
 void TableChoice::AddOptions(CommandArguments& command) {
   command.AddOption({"tables",
                      "Only these tables, joined by commas. Without the option: all tables of settings, which are those "
@@ -38,7 +40,7 @@ std::optional<Secrets> TableChoice::ChosenSecrets(const CommandArguments& comman
     const QString column = word.trimmed().toUpper();
     const bool known = std::any_of(tables.begin(), tables.end(), [&](const SchemaTable* table) {
       const SchemaColumn* const found = table->Find(column);
-      return found && Content::IsSecret(*found);
+      return found && NamesSecretColumn(found->name);
     });
     if (!known) {
       RefuseUsage("There is no password and no card data \"" + word.trimmed() + "\" in these tables.", name);

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include "schema/SchemaModel.h"
+#include "schema/SecretColumns.h"
+
 namespace {
 
 void ExpectUnchanged(const QString& text) {
@@ -18,16 +21,28 @@ TEST(SecretMask, AssignedPasswordsAreMasked) {
 }
 
 TEST(SecretMask, EverySecretColumnIsKnown) {
-  for (const char* column :
-       {"USER_PASSWORD", "VORN_PASSWORD", "BL_PASSWORD", "RAPID_PASSWORD", "CREDIT_CARD_NUM", "CREDIT_CARD_CODE",
-        "NCIP_FROM_AGENCY_AUTH", "PASSWORD", "vorn_password", "L.BL_PASSWORD", "[PASSWORD]"}) {
+  for (const char* column : {"USER_PASSWORD", "VORN_PASSWORD", "BL_PASSWORD", "RAPID_PASSWORD", "CREDIT_CARD_NAME",
+                             "CREDIT_CARD_NUM", "CREDIT_CARD_EXP", "CREDIT_CARD_CODE", "NCIP_FROM_AGENCY_AUTH",
+                             "PASSWORD", "vorn_password", "L.BL_PASSWORD", "[PASSWORD]"}) {
     EXPECT_EQ(MaskSecrets(QString("UPDATE T SET ") + column + "='secret'"),
               QString("UPDATE T SET ") + column + "='***'");
   }
 }
 
+// The same columns that an export leaves out.
+TEST(SecretMask, NoOtherColumnOfTheSchemaIsSecret) {
+  QStringList secret;
+  for (const SchemaTable& table : SchemaModel::Get().tables)
+    for (const SchemaColumn& column : table.columns)
+      if (NamesSecretColumn(column.name)) secret += table.name + '.' + column.name;
+  EXPECT_EQ(secret.join(' ').toStdString(),
+            "ID_USER.USER_PASSWORD ID_LIBRARY.USER_PASSWORD ID_LIBRARY.VORN_PASSWORD ID_LIBRARY.RAPID_PASSWORD "
+            "ID_LIBRARY.BL_PASSWORD ID_LIBRARY.CREDIT_CARD_NAME ID_LIBRARY.CREDIT_CARD_NUM "
+            "ID_LIBRARY.CREDIT_CARD_EXP ID_LIBRARY.CREDIT_CARD_CODE ID_NCIP_CONNECT.NCIP_FROM_AGENCY_AUTH");
+}
+
 TEST(SecretMask, OtherColumnsStay) {
-  ExpectUnchanged("UPDATE T SET CREDIT_CARD_NAME = N'A. Clerk', CREDIT_CARD_EXP = '12/30', NOTE = 'my password'");
+  ExpectUnchanged("UPDATE T SET CREDIT_CARD = N'BC', LIBRARY_ACCOUNT = '12/30', NOTE = 'my password'");
   ExpectUnchanged("SELECT   USER_PASSWORD, NOTE FROM ID_LIBRARY WHERE    LIBRARY_SYMBOL = N'ABC'");
 }
 
