@@ -3,6 +3,7 @@
 #include <QApplication>
 
 #include "platform/ado/AdoError.h"
+#include "shell/Screen.h"
 
 int ShowMessage(const QString& text, int style, const QString& title, const QString& icon, QWidget* owner) {
   MessageRequest request;
@@ -11,6 +12,7 @@ int ShowMessage(const QString& text, int style, const QString& title, const QStr
   request.title = title.isEmpty() ? QCoreApplication::applicationName() : title;
   request.icon = icon;
   request.owner = owner ? owner->window() : QApplication::activeWindow();
+  const NoHourglass pointer;
   return Prompts().ShowMessage(request);
 }
 

@@ -63,6 +63,7 @@ void Screen::ShowModeless() {
 void Screen::ShowModal() {
   Begin();
   if (gone_) return;
+  const NoHourglass pointer;
   QEventLoop loop;
   connect(this, &QDialog::finished, &loop, &QEventLoop::quit);
   show();
@@ -117,4 +118,11 @@ Hourglass::Hourglass() {
 }
 Hourglass::~Hourglass() {
   QApplication::restoreOverrideCursor();
+}
+
+NoHourglass::NoHourglass() {
+  for (; QApplication::overrideCursor() != nullptr; ++lifted_) QApplication::restoreOverrideCursor();
+}
+NoHourglass::~NoHourglass() {
+  for (; lifted_ > 0; --lifted_) QApplication::setOverrideCursor(Qt::WaitCursor);
 }

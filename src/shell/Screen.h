@@ -52,11 +52,23 @@ class Screen : public QDialog, public ActivatedForm {
   bool gone_ = false;
 };
 
-// The hourglass pointer, as long as it lives.
+// The hourglass pointer, as long as it lives; not over what asks a person.
 class Hourglass {
  public:
   Hourglass();
   ~Hourglass();
   Hourglass(const Hourglass&) = delete;
   Hourglass& operator=(const Hourglass&) = delete;
+};
+
+// All hourglasses are away as long as it lives.
+class NoHourglass {
+ public:
+  NoHourglass();
+  ~NoHourglass();
+  NoHourglass(const NoHourglass&) = delete;
+  NoHourglass& operator=(const NoHourglass&) = delete;
+
+ private:
+  int lifted_ = 0;
 };

@@ -5,8 +5,10 @@
 #include <QVBoxLayout>
 
 #include "core/Logon.h"
+#include "core/ModuleState.h"
 #include "platform/controls/FormLayout.h"
 #include "shell/Help.h"
+#include "shell/Screen.h"
 
 namespace {
 
@@ -21,6 +23,7 @@ QSettings AccountSettings() {
 bool AskForLogon(QString& user, QString& password) {
   if (gLogonDialog) return gLogonDialog(user, password);
   frmLogon dialog;
+  const NoHourglass pointer;
   if (dialog.exec() != QDialog::Accepted) return false;
   user = dialog.User();
   password = dialog.Password();

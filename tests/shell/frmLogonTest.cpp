@@ -6,7 +6,9 @@
 #include <QTimer>
 
 #include "core/Logon.h"
+#include "core/ModuleState.h"
 #include "core/WorkFolder.h"
+#include "shell/Screen.h"
 
 namespace {
 
@@ -52,6 +54,15 @@ TEST_F(frmLogonTest, UserAndPasswordAreHandedBack) {
   EXPECT_TRUE(Ask());
   EXPECT_EQ(user, "admin");
   EXPECT_EQ(password, " secret ");
+}
+
+// The program is busy starting when it asks.
+TEST_F(frmLogonTest, NoHourglassLiesOverTheQuestion) {
+  const Hourglass outer, inner;
+  WhenShown([](frmLogon&) { EXPECT_EQ(QApplication::overrideCursor(), nullptr); });
+  EXPECT_FALSE(Ask());
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
 }
 
 TEST_F(frmLogonTest, CancelAndEscapeAnswerFalseAndChangeNothing) {

@@ -48,6 +48,8 @@ Script& Script::ExpectTitled(const QString& text, int style, const QString& titl
 int Script::ShowMessage(const MessageRequest& request) {
   shown_.append(request.text);
   titles_.append(request.title);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr)
+      << "An hourglass lies over " << Quoted(request.text, request.style);
   if (lines_.empty()) {
     ADD_FAILURE() << "A message came that nobody expected: " << Quoted(request.text, request.style);
     return Harmless(request.style);
