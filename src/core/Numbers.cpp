@@ -100,9 +100,14 @@ QString Whole(const QString& text) {
   return match.captured(1) == "-" ? '-' + digits : digits;
 }
 
+bool IsBlank(const QString& text) {
+  static const QRegularExpression blank("^\\s*[+-]?[.,]?\\s*$");
+  return blank.match(text).hasMatch();
+}
+
 bool Same(const QString& text, const QString& other) {
-  const bool blank = text.trimmed().isEmpty();
-  return blank == other.trimmed().isEmpty() && (blank || Val(text) == Val(other));
+  const bool blank = IsBlank(text);
+  return blank == IsBlank(other) && (blank || Val(text) == Val(other));
 }
 
 }  // namespace Numbers

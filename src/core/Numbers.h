@@ -18,6 +18,8 @@ double Val(const QString& text);
 // without leading zeros, every digit as written: "-12" for "-012.0".
 bool HasFraction(const QString& text);
 QString Whole(const QString& text);
+// Nothing is there yet: blanks, or the sign and the separator that a number may begin with.
+bool IsBlank(const QString& text);
 // Two writings of one number, "5" and "5.00"; a blank text equals only another one.
 bool Same(const QString& text, const QString& other);
 }  // namespace Numbers

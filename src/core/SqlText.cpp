@@ -1,6 +1,7 @@
 #include "core/SqlText.h"
 
 #include "core/ModuleState.h"
+#include "core/Numbers.h"
 #include "core/OstanaFunctions.h"
 
 namespace Sql {
@@ -26,7 +27,7 @@ QString NationalOr(const QString& text, const QString& nullWord) {
 }
 
 QString NumberOr(const QString& text, const QString& nullWord) {
-  return text.trimmed().isEmpty() ? nullWord : WithPoint(text.trimmed());
+  return Numbers::IsBlank(text) ? nullWord : WithPoint(text.trimmed());
 }
 
 QString Number(qint64 value) {

@@ -16,7 +16,8 @@ QString National(const QString& text);  // N'...'
 // Empty text gives the word in the letters its statement uses: "NULL" or "Null".
 QString PlainOr(const QString& text, const QString& nullWord);
 QString NationalOr(const QString& text, const QString& nullWord);
-QString NumberOr(const QString& text, const QString& nullWord);  // bare, "," turned into "."
+// Bare, "," turned into "."; a lone sign or separator is no number yet.
+QString NumberOr(const QString& text, const QString& nullWord);
 QString Number(qint64 value);
 QString WithPoint(const QString& text);  // "," turned into ".", otherwise as it stands
 

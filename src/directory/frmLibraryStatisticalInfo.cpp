@@ -206,7 +206,7 @@ bool frmLibraryStatisticalInfo::VornIsValid() {
   } else if (!LoginIsValid(vornLogin_)) {
     return false;
   }
-  return !optUseIFM->IsSet(Yes) || !txtIFMMaxCost->Text().isEmpty() ||
+  return !optUseIFM->IsSet(Yes) || !Numbers::IsBlank(txtIFMMaxCost->Text()) ||
          Refuse("This is a required field.  Try again.", txtIFMMaxCost);
 }
 

@@ -239,7 +239,7 @@ std::optional<int> ExceptionCodes::RowToUpdate(const QString& code, const QStrin
 bool ExceptionCodes::IsUnchanged(int row) const {
   return txt8Description->Text() == grd8Table->Text(row, Description) &&
          cboExceptionType->Code() == grd8Table->Text(row, Type) &&
-         Numbers::Val(txt8ServiceCharge->Text()) == Numbers::Val(grd8Table->Text(row, ServiceCharge));
+         Numbers::Same(txt8ServiceCharge->Text(), grd8Table->Text(row, ServiceCharge));
 }
 
 QString ExceptionCodes::UpdateStatement(const QString& code, const QString& description) const {
@@ -254,7 +254,7 @@ void ExceptionCodes::WriteBack(int row) {
   grd8Table->SetText(row, Description, txt8Description->Text());
   grd8Table->SetText(row, Type, cboExceptionType->Code());
   grd8Table->SetText(row, ServiceCharge,
-                     charge.isEmpty() ? QString() : Numbers::Format(Numbers::Val(charge), "##0.00"));
+                     Numbers::IsBlank(charge) ? QString() : Numbers::Format(Numbers::Val(charge), "##0.00"));
 }
 
 // --- Delete and Clear ---

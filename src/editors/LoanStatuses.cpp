@@ -124,7 +124,7 @@ bool LoanStatuses::RowIsUnchanged(int row) const {
 
 QString LoanStatuses::ChargeAsSql() const {
   const QString text = txt6bLoanCharge->Trimmed();
-  return text.isEmpty() ? text : QString::number(Numbers::Val(text), 'f', QLocale::FloatingPointShortest);
+  return Numbers::IsBlank(text) ? QString() : QString::number(Numbers::Val(text), 'f', QLocale::FloatingPointShortest);
 }
 
 bool LoanStatuses::Add() {

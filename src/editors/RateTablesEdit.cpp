@@ -162,7 +162,7 @@ bool RateTables::CopyrightUpdate() {
   if (row > 0 && Numbers::Same(surcharge, grd7Table->Text(row, Surcharge)) &&
       description == grd7Table->Text(row, Description))
     return TellUnchanged(txt7Description);
-  if (surcharge.isEmpty()) surcharge = "0";
+  if (Numbers::IsBlank(surcharge)) surcharge = "0";
   if (row == 0) return RefuseUnknownCode(txt7Code);
   ExecuteInTransaction(RateSql::CopyrightUpdate(copyrightColumns_, code, description, Sql::WithPoint(surcharge)),
                        RateSql::FailureLine("ID_COPYRIGHT_CMP", "UPDATE"));
@@ -203,8 +203,7 @@ QStringList RateTables::ValuesAsSql(const RateTable& rate, bool keepsComma) cons
   QStringList values;
   for (const RateValue& value : rate.Values()) {
     const QString text = Box(value.box)->Trimmed();
-    const QString number = value.money && !keepsComma ? Sql::WithPoint(text) : text;
-    values.append(number.isEmpty() ? QString("NULL") : number);
+    values.append(Numbers::IsBlank(text) ? QString("NULL") : value.money && !keepsComma ? Sql::WithPoint(text) : text);
   }
   return values;
 }

@@ -205,7 +205,10 @@ bool frmItemType::DescriptionIsGiven() {
 
 bool frmItemType::ChargeMayStay() {
   const QString text = txtCharge->Trimmed();
-  if (text.isEmpty()) return true;
+  if (Numbers::IsBlank(text)) {
+    txtCharge->SetText({});
+    return true;
+  }
   const double value = Numbers::Val(text);
   // The box may cut the formatted value to its limit; the message tells the value as it was entered.
   QString why;
@@ -226,7 +229,7 @@ QString frmItemType::ChargeInSql() const {
 }
 
 QString frmItemType::FixedFlag() const {
-  if (txtCharge->Trimmed().isEmpty()) return {};
+  if (Numbers::IsBlank(txtCharge->Text())) return {};
   return optFixedCharge->IsSet(Yes) ? "Y" : "N";
 }
 

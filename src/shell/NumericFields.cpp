@@ -41,6 +41,10 @@ bool RangeMessage(TextBox& box, const QString& caption, const QString& highest, 
                   bool zeroAllowed) {
   const QString text = box.Trimmed();
   if (text.isEmpty()) return true;
+  if (Numbers::IsBlank(text)) {
+    box.SetText({});
+    return true;
+  }
   if (Numbers::IsNumeric(text)) {
     const QString formatted = Numbers::Format(Numbers::Val(text), pattern);
     if (formatted != box.Text()) box.SetText(formatted);

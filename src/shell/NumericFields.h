@@ -13,7 +13,7 @@ char16_t FilterNumericKey(char16_t key, const TextBox& box, bool noMinus, bool n
 
 // The common range check of a numeric box: formats the text by the pattern ("#####0.00", "##0") and writes it back;
 // above the highest value, below its negative or a zero that is not allowed is told with style 16, the focus returns
-// and the text is selected. True when the value may stay.
+// and the text is selected. A lone sign or separator is taken away. True when the value may stay.
 bool RangeMessage(TextBox& box, const QString& caption, const QString& highest, const QString& pattern,
                   bool zeroAllowed);
 

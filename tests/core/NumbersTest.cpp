@@ -86,6 +86,18 @@ TEST_F(NumbersTest, ValTakesTheNumberAtTheStart) {
   for (const char* text : {"", "abc", "-", ".", "kg 12"}) EXPECT_DOUBLE_EQ(Numbers::Val(text), 0) << text;
 }
 
+TEST_F(NumbersTest, ALoneSignOrSeparatorIsNoNumberYet) {
+  for (const char* text : {"", "  ", ".", ",", "-", "+", "-.", " , "}) EXPECT_TRUE(Numbers::IsBlank(text)) << text;
+  for (const char* text : {"0", ".0", "-1", "a", "..", "--", ". ."}) EXPECT_FALSE(Numbers::IsBlank(text)) << text;
+}
+
+TEST_F(NumbersTest, NothingIsNotZero) {
+  EXPECT_TRUE(Numbers::Same("5", "5.00"));
+  EXPECT_TRUE(Numbers::Same(" ", "."));
+  EXPECT_FALSE(Numbers::Same("", "0.00"));
+  EXPECT_FALSE(Numbers::Same("0", "."));
+}
+
 TEST_F(NumbersTest, WholeNumbersKeepTheirDigits) {
   for (const auto& [text, whole] : {std::pair<QString, QString>{"7", "7"},
                                     {"+7", "7"},

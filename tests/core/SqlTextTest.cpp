@@ -16,6 +16,7 @@ TEST_F(SqlTextTest, ValuesPassTheEscapeAndEmptyTextsTakeTheWordOfTheirStatement)
   EXPECT_EQ(Sql::PlainOr("", "NULL"), "NULL");
   EXPECT_EQ(Sql::NumberOr(" 1,5 ", "NULL"), "1.5");
   EXPECT_EQ(Sql::NumberOr("  ", "NULL"), "NULL");
+  for (const char* text : {".", ",", "-", "-."}) EXPECT_EQ(Sql::NumberOr(text, "NULL"), "NULL") << text;
 }
 
 TEST_F(SqlTextTest, EachLanguageGetsAColumnAndTheSameValue) {

@@ -153,6 +153,18 @@ TEST_F(LibraryStatisticalTest, ACostWithADecimalCommaReachesTheDatabaseWithAPoin
   EXPECT_EQ(Column("MAX_COST").toDouble(), 12.5);
 }
 
+// A number is yet to come; as it stands it would be no statement.
+TEST_F(LibraryStatisticalTest, ALonePointIsStoredAsNothing) {
+  SetColumn(North, "MAX_COST", "12.5");
+  OpenScreen();
+  Type("txtMaximumCost", ".");
+  Press("txtMaximumCost", Qt::Key_Tab);
+  EXPECT_EQ(Text("txtMaximumCost"), "");
+  Saves();
+  EXPECT_TRUE(Writing().last().contains("MAX_COST = Null,"));
+  EXPECT_EQ(Column("MAX_COST"), "");
+}
+
 // --- Update ---
 
 TEST_F(LibraryStatisticalTest, UpdateWritesOneStatementInItsOrder) {

@@ -211,6 +211,17 @@ TEST_F(ExceptionCodesTest, AddTestsCodeDescriptionTypeAndNumberInThisOrder) {
   EXPECT_TRUE(gbRecordModified);
 }
 
+// NULL is not 0: emptying a charge of nothing is a change, and so is the way back.
+TEST_F(ExceptionCodesTest, ABlankChargeAndZeroDiffer) {
+  Another("UPDATE ID_EXCEPTION_CODE SET SERVICE_CHARGE = 0 WHERE EXCEPTION_CODE = 'AAA'");
+  UseWebService();
+  EXPECT_EQ(Text("txt8ServiceCharge"), "0.00");
+  Type("txt8ServiceCharge", "");
+  Prompt().Expect("Record Updated", MessageStyle::Information);
+  Click("cmdUpdate");
+  EXPECT_EQ(Count("ID_EXCEPTION_CODE", "EXCEPTION_CODE = 'AAA' AND SERVICE_CHARGE IS NULL"), 1);
+}
+
 TEST_F(ExceptionCodesTest, AddRefusesTheSameCodeOrTheSameDescription) {
   Enter();
   const QString refused = "This record already exists.\n\nBoth the Code and Description must be unique.";

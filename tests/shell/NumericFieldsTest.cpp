@@ -154,6 +154,13 @@ TEST_F(NumericFieldsTest, TextThatIsNoNumberCountsAsZeroAndStays) {
   EXPECT_FALSE(InRange("abc", false));
 }
 
+TEST_F(NumericFieldsTest, ALoneSignOrSeparatorIsTakenAway) {
+  for (const char* text : {".", "-", " -. ", ","}) {
+    EXPECT_TRUE(InRange(text, false)) << text;
+    EXPECT_EQ(box->Text(), "") << text;
+  }
+}
+
 TEST_F(NumericFieldsTest, MessagesUseTheLocalesSeparator) {
   UseLocale("de_DE");
   EXPECT_TRUE(InRange("12,5"));
