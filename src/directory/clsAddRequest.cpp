@@ -8,11 +8,12 @@
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "directory/RequestKeywords.h"
+#include "platform/controls/TextInput.h"
 #include "shell/Procedure.h"
 
 namespace {
 
-const QString LogName = "clsAddRequest.UpdateOstanaTables";
+const QString Source = "clsAddRequest.UpdateOstanaTables";
 // On whose behalf a request without a library is placed.
 constexpr qint32 UnregisteredLibrary = 9999999;
 
@@ -56,30 +57,37 @@ QString Year(const QString& publicationDate) {
   return Sql::NationalOr(fourDigits.match(publicationDate).captured(), "NULL");
 }
 
+// The date literal. An AdoError when the text is no date.
 QString SubmittedOn(const clsRequestInfo& info) {
-  QDateTime moment = QDateTime::fromString(info.DateSubmitted.trimmed(), Qt::ISODate);
-  if (!moment.isValid()) moment = QDateTime::fromString(info.DateSubmitted.trimmed(), "yyyy-MM-dd hh:mm:ss");
-  return gclsOF->SqlDate(moment.isValid() ? moment : Clock::Now());
+  const QString text = info.DateSubmitted.trimmed();
+  if (text.isEmpty()) return gclsOF->SqlDate(Clock::Now());
+  QDateTime moment = QDateTime::fromString(text, Qt::ISODate);
+  if (!moment.isValid()) moment = QDateTime::fromString(text, "yyyy-MM-dd hh:mm:ss");
+  if (!moment.isValid())
+    throw AdoError(AdoNumber::Unspecified, "The date of submission \"" + text + "\" cannot be read", Source);
+  return gclsOF->SqlDate(moment);
 }
 
-struct Numbers {
-  QString request;  // "REG" and eight digits
-  QString sortKey;  // the digits as a number
+// What is known of the request before anything is written.
+struct RequestFacts {
+  QString submitted;  // date literal
+  QString request;    // "REG" and eight digits
+  QString sortKey;    // the digits as a number
 };
 
-void AddHead(Insert& insert, const Numbers& numbers) {
-  insert.Add("REQUEST_NUMBER", Sql::National(numbers.request))
-      .Add("SORT_KEY", numbers.sortKey)
+void AddHead(Insert& insert, const RequestFacts& facts) {
+  insert.Add("REQUEST_NUMBER", Sql::National(facts.request))
+      .Add("SORT_KEY", facts.sortKey)
       .Add("LIBRARY_ID", Sql::Number(gclsOF->LibraryId()));
 }
 
-void AddCommon(Insert& insert, const clsRequestInfo& info) {
+void AddCommon(Insert& insert, const clsRequestInfo& info, const RequestFacts& facts) {
   insert.Add("REQUEST_TYPE", Piece(gstrRequestType))
       .Add("INFO_SOURCE", Limited(info.InfoSource, 200))
       .Add("NOTES1", Notes())
       .Add("CALL_NUMBER", Limited(info.CallNumber, 200))
       .Add("DATE_ENTERED", gclsOF->SqlDate(Clock::Now()))
-      .Add("DATE_SUBMITTED", SubmittedOn(info))
+      .Add("DATE_SUBMITTED", facts.submitted)
       .Add("REQUEST_SRC", Piece(info.RequestSource))
       .Add("SERVICE_TYPE", Piece(info.ServiceType))
       .Add("SERVICE_LEVEL", Piece(info.ServiceLevel));
@@ -100,10 +108,10 @@ void AddSystems(Insert& insert, const clsRequestInfo& info) {
       .Add("ADD_NUMS_LETTERS", Limited(info.AddNumsLetters, 50));
 }
 
-QString BookForm(const clsRequestInfo& info, const Numbers& numbers) {
+QString BookForm(const clsRequestInfo& info, const RequestFacts& facts) {
   Insert insert("ID_REQUEST");
-  AddHead(insert, numbers);
-  AddCommon(insert, info);
+  AddHead(insert, facts);
+  AddCommon(insert, info, facts);
   insert.Add("AUTHOR", Limited(info.Author, 100))
       .Add("TITLE", Limited(info.Title, 200))
       .Add("PUBLISHER", Limited(info.Publisher, 250));
@@ -115,10 +123,10 @@ QString BookForm(const clsRequestInfo& info, const Numbers& numbers) {
   return insert.Text();
 }
 
-QString ArticleForm(const clsRequestInfo& info, const Numbers& numbers) {
+QString ArticleForm(const clsRequestInfo& info, const RequestFacts& facts) {
   Insert insert("ID_REQUEST");
-  AddHead(insert, numbers);
-  AddCommon(insert, info);
+  AddHead(insert, facts);
+  AddCommon(insert, info, facts);
   insert.Add("TITLE", Limited(info.TitleOfJournal, 200))
       .Add("ARTICLE_AUTHOR", Limited(info.AuthorOfArticle, 120))
       .Add("ARTICLE_TITLE", Limited(info.TitleOfArticle, 120));
@@ -132,17 +140,17 @@ QString ArticleForm(const clsRequestInfo& info, const Numbers& numbers) {
 }
 
 // Without data from the forms. The words are those of this one statement; the request's own data stay as they are.
-QString BareForm(const clsRequestInfo& info, const Numbers& numbers) {
+QString BareForm(const RequestFacts& facts) {
   const QString serviceLevel = gclsOF->SiteNumber() == 1002 ? "N'C'" : "N'X'";
   Insert insert("ID_REQUEST");
-  AddHead(insert, numbers);
+  AddHead(insert, facts);
   insert.Add("REQUEST_TYPE", "N'REG'")
       .Add("SERVICE_TYPE", "N'R'")
       .Add("SERVICE_LEVEL", serviceLevel)
       .Add("REQUEST_SRC", "N'M'")
       .Add("PUBLICATION_TYPE", "N'J'")
       .Add("DATE_ENTERED", gclsOF->SqlDate(Clock::Now()))
-      .Add("DATE_SUBMITTED", SubmittedOn(info));
+      .Add("DATE_SUBMITTED", facts.submitted);
   return insert.Text();
 }
 
@@ -162,18 +170,18 @@ Methods MethodsOfLibrary() {
   return methods;
 }
 
-void WriteRequest(const QString& request, const Numbers& numbers, const Methods& methods) {
+void WriteRequest(const QString& request, const RequestFacts& facts, const Methods& methods) {
   Transaction transaction(gclsOF->Connection());
   Execute(request, "***** SQL error on ID_REQUEST (Insert) *****");
   Execute(Insert("ID_DELIVERY")
-              .Add("REQUEST_NUMBER", Sql::National(numbers.request))
+              .Add("REQUEST_NUMBER", Sql::National(facts.request))
               .Add("PROCESS_TYPE", "N'1'")
               .Add("MSG_METHOD", methods.message)
               .Add("DELIV_METHOD", methods.delivery)
               .Text(),
           "***** SQL error on ID_DELIVERY (Insert) *****");
   Execute(Insert("ID_QUEUE")
-              .Add("REQUEST_NUMBER", Sql::National(numbers.request))
+              .Add("REQUEST_NUMBER", Sql::National(facts.request))
               .Add("EVENT_ID", "1000")
               .Add("QUEUE_TYPE", "N'0'")
               .Add("SUPPLIER_SEQ_SENT", "1")
@@ -200,32 +208,33 @@ class LibraryOfRequest {
 }  // namespace
 
 void clsAddRequest::EnforceFieldLength(const QString& text, int limit, QString& result) {
-  result = text.trimmed().left(limit);
-  if (!result.isEmpty() && result.back().isHighSurrogate()) result.chop(1);
+  result = TextInput::Fitting(text.trimmed(), limit);
 }
 
 bool clsAddRequest::UpdateOstanaTables() {
   const clsRequestInfo& info = *gclsRequestInfo;
   const LibraryOfRequest library;
-  Numbers numbers;
+  RequestFacts facts;
+  gstrErrorMessage.clear();
   const std::optional<AdoError> error = Procedure::Try([&] {
-    numbers.request = gclsOF->NextRequestNumber("REG");
-    if (numbers.request.isEmpty()) return;
-    numbers.sortKey = QString::number(numbers.request.right(8).toInt());
+    facts.submitted = SubmittedOn(info);
+    facts.request = gclsOF->NextRequestNumber("REG");
+    if (facts.request.isEmpty()) return;
+    facts.sortKey = QString::number(facts.request.right(8).toInt());
     const Methods methods = MethodsOfLibrary();
     const bool fromForms = CmdOkCliked && info.CmdOkCliked;
-    WriteRequest(!fromForms                    ? BareForm(info, numbers)
-                 : info.PublicationType == "B" ? BookForm(info, numbers)
-                                               : ArticleForm(info, numbers),
-                 numbers, methods);
+    WriteRequest(!fromForms                    ? BareForm(facts)
+                 : info.PublicationType == "B" ? BookForm(info, facts)
+                                               : ArticleForm(info, facts),
+                 facts, methods);
   });
   if (error) {
     gclsOF->WriteLog("Error: " + error->NumberText() + " - " + error->Description(), {}, "L");
     gclsOF->WriteLog(gstrErrorMessage, {}, "S");
     return false;
   }
-  if (numbers.request.isEmpty()) return false;
-  UpdateKeywordTables(numbers.request, info);
+  if (facts.request.isEmpty()) return false;
+  UpdateKeywordTables(facts.request, info);
   gbRequestAdded = true;
   return true;
 }

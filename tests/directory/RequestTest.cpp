@@ -124,6 +124,36 @@ TEST_F(RequestTest, NoiseStringsAndStopWordsAreNoKeywords) {
   EXPECT_EQ(Keywords("ID_KEYWORD_TITLE"), QStringList({"AND", "SEA", "SEA"}));
 }
 
+TEST_F(RequestTest, AKeywordIsCutWithoutHalvingALetter) {
+  FromForms("B");
+  const QString letter = QString::fromUcs4(U"\U0001F4DA");
+  gclsRequestInfo->Title = QString(199, 'X') + letter;
+  gclsRequestInfo->CallNumber = QString(24, 'Y') + letter;
+  EXPECT_TRUE(gclsAddRequest->UpdateOstanaTables());
+  EXPECT_EQ(Keywords("ID_KEYWORD_TITLE"), QStringList{QString(199, 'X')});
+  EXPECT_EQ(Keywords("ID_KEYWORD_CALL_NO"), QStringList{QString(24, 'Y')});
+}
+
+TEST_F(RequestTest, WithoutADateOfSubmissionItIsThePresentMoment) {
+  gclsRequestInfo->DateSubmitted = "  ";
+  EXPECT_TRUE(gclsAddRequest->UpdateOstanaTables());
+  EXPECT_EQ(Stored("DATE_SUBMITTED").left(19), "2026-03-04 05:06:07");
+}
+
+// Neither an invented date nor a number taken in vain; and no line of an earlier failure in the log.
+TEST_F(RequestTest, ADateOfSubmissionThatCannotBeReadIsAFailure) {
+  const QString next = Ask("SELECT NEXT_REQUEST FROM ID_NEXT_REQUEST");
+  for (const char* text : {"2026-02-30", "04.03.2026", "soon"}) {
+    gclsRequestInfo->DateSubmitted = text;
+    gstrErrorMessage = "***** SQL error on ID_EARLIER (Select) *****";
+    EXPECT_FALSE(gclsAddRequest->UpdateOstanaTables()) << text;
+    EXPECT_TRUE(LogLines().join('\n').contains("The date of submission \"" + QString(text) + "\" cannot be read"));
+    EXPECT_FALSE(LogLines().join('\n').contains("ID_EARLIER"));
+  }
+  EXPECT_EQ(Count("ID_REQUEST"), 0);
+  EXPECT_EQ(Ask("SELECT NEXT_REQUEST FROM ID_NEXT_REQUEST"), next);
+}
+
 TEST_F(RequestTest, AFailureOfTheKeywordsLeavesTheRequestInPlace) {
   FromForms("B");
   gclsRequestInfo->Title = "Reeds";
