@@ -148,7 +148,7 @@ void frmLibraryContactInfo::EnableServerButtons(bool enabled) {
 
 void frmLibraryContactInfo::OpenNCIP(const QString& button, const QString& formName) {
   Run(button + "_Click", [&] {
-    glngFoundLibraryId = LibraryIdOfExactSymbol(txtNCIPServerLibrary->Trimmed(), LibrarySelectFailed);
+    glngFoundLibraryId = LibraryIdOfExactSymbol(txtNCIPServerLibrary->Trimmed(), Sql::National, LibrarySelectFailed);
     glngNCIPLibraryId = glngFoundLibraryId;
     if (glngFoundLibraryId == -1) {
       Refuse("Please enter a valid library symbol.", txtNCIPServerLibrary);
@@ -216,7 +216,7 @@ void frmLibraryContactInfo::TrimFields() {
 bool frmLibraryContactInfo::ServerLibraryIsKnown() {
   glngFoundLibraryId = -1;
   if (txtNCIPServerLibrary->Text().isEmpty()) return true;
-  glngFoundLibraryId = LibraryIdOfExactSymbol(txtNCIPServerLibrary->Text(), LibrarySelectFailed);
+  glngFoundLibraryId = LibraryIdOfExactSymbol(txtNCIPServerLibrary->Text(), Sql::National, LibrarySelectFailed);
   return glngFoundLibraryId != -1 || Refuse("Please enter a valid NCIP library symbol.", txtNCIPServerLibrary);
 }
 

@@ -1,5 +1,6 @@
 #include "editors/LibrarySymbol.h"
 
+#include "core/SqlText.h"
 #include "platform/controls/TextBox.h"
 #include "shell/FindLibrary.h"
 #include "shell/Messages.h"
@@ -8,7 +9,7 @@
 qint32 LibrarySymbol::IdOf(TextBox& box) {
   const QString symbol = box.TrimInPlace();
   if (symbol.isEmpty()) return 0;
-  return LibraryIdOfExactSymbol(symbol, "***** SQL error on OSTANA.ID_LIBRARY (Select) *****");
+  return LibraryIdOfExactSymbol(symbol, Sql::Plain, "***** SQL error on OSTANA.ID_LIBRARY (Select) *****");
 }
 
 void LibrarySymbol::Find(TextBox& box, QWidget* form, const QString& logName) {

@@ -69,8 +69,9 @@ bool frmNCIPUnitLibraryMapping::CellsOnScreen(QStringList& cells, bool forUpdate
   if (symbol.isEmpty())
     return Refuse(this, "Ostana Library is a required field.", MessageStyle::Stop, txtOstanaLibrary);
   mlngUnitLibraryId = LibraryIdOfExactSymbol(
-      symbol, forUpdate ? "***** SQL error on OSTANA.ID_LIBRARY (Select) *****"  // with the owner on Update only
-                        : "***** SQL error on ID_LIBRARY (Select) *****");
+      symbol, Sql::National,
+      forUpdate ? "***** SQL error on OSTANA.ID_LIBRARY (Select) *****"  // with the owner on Update only
+                : "***** SQL error on ID_LIBRARY (Select) *****");
   if (mlngUnitLibraryId == -1)
     return Refuse(this, "Please enter a valid library symbol.", MessageStyle::Stop, txtOstanaLibrary);
   cells = {name, symbol, QString::number(mlngUnitLibraryId)};

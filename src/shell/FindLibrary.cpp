@@ -68,10 +68,10 @@ QString LibrarySymbolOf(qint32 id) {
       SelectLibraryFailed);
 }
 
-qint32 LibraryIdOfExactSymbol(const QString& symbol, const QString& failureLine) {
+qint32 LibraryIdOfExactSymbol(const QString& symbol, QString (*quoted)(const QString&), const QString& failureLine) {
   qint32 id = -1;
   ForEachRow("SELECT LIBRARY_SYMBOL, LIBRARY_ID FROM  " + Sql::Table("ID_LIBRARY") +
-                 " WHERE LIBRARY_SYMBOL = " + Sql::Plain(symbol),
+                 " WHERE LIBRARY_SYMBOL = " + quoted(symbol),
              failureLine, [&](Recordset& rows) {
                if (Value(rows, 0) == symbol) id = Value(rows, 1).toInt();
              });

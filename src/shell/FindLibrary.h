@@ -18,5 +18,5 @@ FoundLibrary FindLibrary(QWidget* form, int refusedStyle = 16);
 // Symbol of a library by id; empty when there is no such row.
 QString LibrarySymbolOf(qint32 id);
 // Id of the row whose symbol equals the text exactly (letter case counts), -1 when there is none; reads with
-// "SELECT LIBRARY_SYMBOL, LIBRARY_ID FROM  ".
-qint32 LibraryIdOfExactSymbol(const QString& symbol, const QString& failureLine);
+// "SELECT LIBRARY_SYMBOL, LIBRARY_ID FROM  ". `quoted` is Sql::Plain on the tabs, Sql::National elsewhere.
+qint32 LibraryIdOfExactSymbol(const QString& symbol, QString (*quoted)(const QString&), const QString& failureLine);

@@ -59,7 +59,7 @@ TEST_F(LibraryContactLinksTest, TheDialogsWorkOnTwoLibrariesOnPurpose) {
     });
     Click(button);
     EXPECT_EQ(Statements().value(0),
-              "SELECT LIBRARY_SYMBOL, LIBRARY_ID FROM  ID_LIBRARY WHERE LIBRARY_SYMBOL = 'SOUTH'");
+              "SELECT LIBRARY_SYMBOL, LIBRARY_ID FROM  ID_LIBRARY WHERE LIBRARY_SYMBOL = N'SOUTH'");
   }
 }
 

@@ -363,7 +363,7 @@ TEST_F(NCIPListsTest, TheMappingWritesItsIdsAsTexts) {
   Type("txtOstanaLibrary", " OTHER ");
   Click("cmdAdd");
   EXPECT_EQ(Statements(),
-            QStringList{"SELECT LIBRARY_SYMBOL, LIBRARY_ID FROM  ID_LIBRARY WHERE LIBRARY_SYMBOL = 'OTHER'"});
+            QStringList{"SELECT LIBRARY_SYMBOL, LIBRARY_ID FROM  ID_LIBRARY WHERE LIBRARY_SYMBOL = N'OTHER'"});
   SortBy("grdLibraryMapping", 1);
   Prompt().ExpectTitled("Settings updated.", 64, "Ostana - NCIP Unit Library Mapping");
   Click("cmdClose");
