@@ -8,7 +8,7 @@
 #include "shell/Messages.h"
 
 void DefaultCode::Configure(const CustomText& texts) {
-  code_ = texts.Value(facts_.key).toUpper();
+  code_ = texts.Value(facts_.key).trimmed().toUpper();
   description_.clear();
   if (code_.isEmpty()) return;
   description_ = FirstValue(facts_.select + gclsOF->LanguageSuffix() + " FROM " + Sql::Table(facts_.table) +

@@ -72,7 +72,7 @@ std::span<const TextKey> frmLibraryBillingInfo::TextKeys() const {
 
 void frmLibraryBillingInfo::ReadFurtherText(const CustomText& texts) {
   for (DefaultCode* code : Defaults()) code->Configure(texts);
-  defaultQuotaTotal_ = texts.Value("LIBRARY_Default_QUOTA_TOTAL");
+  defaultQuotaTotal_ = texts.Value("LIBRARY_Default_QUOTA_TOTAL").trimmed();
 }
 
 void frmLibraryBillingInfo::BuildControls() {

@@ -86,6 +86,6 @@ std::span<const TextKey> frmLibraryStatisticalInfo::TextKeys() const {
 
 void frmLibraryStatisticalInfo::ReadFurtherText(const CustomText& texts) {
   for (DefaultCode* code : Defaults()) code->Configure(texts);
-  defaultMaxCost_ = texts.Value("LIBRARY_Default_MAX_COST");
-  defaultMaxDays_ = texts.Value("LIBRARY_Default_MAX_DAYS");
+  defaultMaxCost_ = texts.Value("LIBRARY_Default_MAX_COST").trimmed();
+  defaultMaxDays_ = texts.Value("LIBRARY_Default_MAX_DAYS").trimmed();
 }

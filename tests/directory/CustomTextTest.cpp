@@ -152,6 +152,17 @@ TEST_F(CustomTextTest, ADefaultInLowerCaseMatches) {
   EXPECT_EQ(Find<CodeComboBox>("cmbDeliveryMethodCopy")->Code(), "E");
 }
 
+TEST_F(CustomTextTest, ADefaultOfBlanksIsNone) {
+  Write(
+      "[Billing Information]\nLIBRARY_Default_BILLING_TYPE=\"  \"\nLIBRARY_Default_QUOTA_TOTAL=\"  \"\n"
+      "[Statistical Information]\nLIBRARY_Default_LIBRARY_CAT=\"  \"\nLIBRARY_Default_MAX_COST=\"  \"\n");
+  OpenLibrary("frmLibraryBillingInfo");
+  EXPECT_EQ(Find<CodeComboBox>("cboBillingType")->Code(), "");
+  EXPECT_EQ(Text("txtQTotal"), "");
+  OpenLibrary("frmLibraryStatisticalInfo");
+  EXPECT_EQ(Text("txtMaximumCost"), "");
+}
+
 TEST_F(CustomTextTest, ADeactivatedDefaultWarnsOnceWithItsDescriptionAndIsForgotten) {
   Another("UPDATE ID_DELIV_METHOD SET ACTIVE_FLAG = NULL WHERE DELIV_METHOD = 'E'");
   Write("[Library Registration]\nLIBRARY_Default_DELIV_METHOD_COPY=E\n");
