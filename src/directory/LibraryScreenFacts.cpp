@@ -57,7 +57,8 @@ LibraryScreenFacts MakeLogin() {
           FromLoginAndBilling,
           {{"cmdRegistration_Click", BillinRegistration},
            {"cmdBook_Click", "frmLibraryLoginInfo.cmdLogin_Click"},
-           {"cmdUpdate_Click", "frmLibraryLoginInfo.cmdUpdate"}}};
+           {"cmdUpdate_Click", "frmLibraryLoginInfo.cmdUpdate"},
+           {"PopulateComboBoxes", "frmLibraryLoginInfo.PopulateComboBox"}}};
 }
 
 LibraryScreenFacts MakeStatistics() {

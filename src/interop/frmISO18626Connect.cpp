@@ -312,7 +312,7 @@ void frmISO18626Connect::cmdAdd_Click() {
       return;
     }
     lblProcessing->hide();
-    Log(procedure, " - Error trying to insert the Connection Id: '" + id +
+    Log(procedure, "Error trying to insert the Connection Id: '" + id +
                        "' into the table ID_ISO18626_CONNECT. No record was inserted.");
     Tell(this, "Unexpected error trying to add the ISO 18626 Connection Id. Please try again later",
          MessageStyle::Information);
@@ -344,7 +344,7 @@ void frmISO18626Connect::cmdUpdate_Click() {
     }
     Log(procedure, " - Updating the ISO 18626 Connection Id: '" + id + "'");
     if (Execute(RecordOnScreen(id).Update(), ConnectUpdate) != 1) {
-      Log(procedure, " - Error trying to update the Connection Id: '" + id + "'. No record was updated.");
+      Log(procedure, "Error trying to update the Connection Id: '" + id + "'. No record was updated.");
       Tell(this, "Unexpected error trying to update the ISO 18626 Connection Id. Please try again later",
            MessageStyle::Information);
       return;
@@ -409,7 +409,7 @@ void frmISO18626Connect::cmdDelete_Click() {
                            MessageStyle::Warning | MessageStyle::YesNo) != MessageAnswer::Yes)
       return;
     if (!DeleteConnection(id, referenced)) {
-      Log(procedure, " - Error trying to delete the Connection Id: '" + id +
+      Log(procedure, "Error trying to delete the Connection Id: '" + id +
                          "' from the table ID_ISO18626_CONNECT. No record was deleted.");
       Tell(this, "Unexpected error trying to delete the ISO 18626 Connection Id. Please try again later",
            MessageStyle::Information);

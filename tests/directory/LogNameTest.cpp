@@ -63,6 +63,18 @@ TEST_P(LogNameTest, Sibling) {
   EXPECT_EQ(LogOf(GetParam().sibling), GetParam().siblingLog);
 }
 
+// Its procedure fills one list and is named so.
+using LoginLogNameTest = LibraryDesk;
+
+TEST_F(LoginLogNameTest, TheListOfLanguages) {
+  Begin();
+  Another("ALTER TABLE ID_LANGUAGE_CODE RENAME COLUMN LANGUAGE_CODE_DESC TO MOVED");
+  const auto before = LogLines().size();
+  Prompt().Expect("An error has occurred loading the drop down lists.  Please Notify Support.", MessageStyle::Stop);
+  Open("frmLibraryLoginInfo");
+  EXPECT_EQ(LogLines().mid(before).value(0).section("* ", 1), "frmLibraryLoginInfo.PopulateComboBox");
+}
+
 using DoclineLogNameTest = LibraryDesk;
 
 TEST_F(DoclineLogNameTest, ItsSearchIsLoggedAsTheVornOne) {

@@ -168,7 +168,7 @@ TEST_F(ISO18626EditTest, AnInsertThatStoredNothingIsTold) {
   Prompt().Expect("Unexpected error trying to add the ISO 18626 Connection Id. Please try again later", 64);
   Click("cmdAdd");
   EXPECT_EQ(LastLog(),
-            "frmISO18626Connect.cmdAdd_Click - Error trying to insert the Connection Id: 'C1' into the table "
+            "frmISO18626Connect.cmdAdd_ClickError trying to insert the Connection Id: 'C1' into the table "
             "ID_ISO18626_CONNECT. No record was inserted.");
 }
 
@@ -235,7 +235,7 @@ TEST_F(ISO18626EditTest, AnUpdateOfARowThatIsGoneIsTold) {
                         Caption);
   Click("cmdUpdate");
   EXPECT_EQ(LastLog(),
-            "frmISO18626Connect.cmdUpdate_Click - Error trying to update the Connection Id: 'C1'. No record was "
+            "frmISO18626Connect.cmdUpdate_ClickError trying to update the Connection Id: 'C1'. No record was "
             "updated.");
 }
 
@@ -352,7 +352,7 @@ TEST_F(ISO18626EditTest, ADeleteOfARowThatIsGoneIsTold) {
   Prompt().Expect("Unexpected error trying to delete the ISO 18626 Connection Id. Please try again later", 64);
   Click("cmdDelete");
   EXPECT_EQ(LastLog(),
-            "frmISO18626Connect.cmdDelete_Click - Error trying to delete the Connection Id: 'C1' from the table "
+            "frmISO18626Connect.cmdDelete_ClickError trying to delete the Connection Id: 'C1' from the table "
             "ID_ISO18626_CONNECT. No record was deleted.");
 }
 
