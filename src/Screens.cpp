@@ -117,6 +117,8 @@ void RegisterDialogs() {
   RegisterScreen<frmNCIPStatusCodes>("frmNCIPStatusCodes");
   RegisterScreen<frmNCIPUnitLibraryMapping>("frmNCIPUnitLibraryMapping");
   RegisterScreen<frmNCIPProfile>("frmNCIPProfile");
+  for (const QString form : FormName::All)
+    if (!RegisteredScreens().contains(form)) throw std::logic_error("No screen is registered as " + form.toStdString());
 }
 
 void OpenMainScreen(frmTabulon& shell) {

@@ -137,7 +137,7 @@ class LibraryScreen : public Screen {
   // Unloads this screen and shows the other one in its place.
   void HandOver(LibrarySibling target);
   // Unloads this screen and shows the form in its place; `afterwards` runs when it and what follows it are closed.
-  void UnloadAndShow(const QString& formName, std::function<void()> afterwards = {});
+  void UnloadAndShow(FormName formName, std::function<void()> afterwards = {});
 
   Record& record() { return record_; }
   const LibraryInHand& library() const { return library_; }
@@ -194,7 +194,7 @@ class LibraryScreen : public Screen {
   void cmdClear_Click();
   void cmdClose_Click();
   void Sibling_Click(LibrarySibling target);
-  void Request_Click(const QString& button, const QString& formName);
+  void Request_Click(const QString& button, FormName formName);
   bool RecordIsOnShow(const QString& title);
   // Commands that work on the record follow its state, and whether its symbol still stands in the box.
   void FollowRecord();

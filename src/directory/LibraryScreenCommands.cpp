@@ -137,7 +137,7 @@ void LibraryScreen::HandOver(LibrarySibling target) {
   ShowNext(DoorTo(target).formName, afterwards);
 }
 
-void LibraryScreen::UnloadAndShow(const QString& formName, std::function<void()> afterwards) {
+void LibraryScreen::UnloadAndShow(FormName formName, std::function<void()> afterwards) {
   if (Unload()) ShowNext(formName, std::move(afterwards));
 }
 
@@ -147,7 +147,7 @@ bool LibraryScreen::RecordIsOnShow(const QString& title) {
   return false;
 }
 
-void LibraryScreen::Request_Click(const QString& button, const QString& formName) {
+void LibraryScreen::Request_Click(const QString& button, FormName formName) {
   Run(button + "_Click", [&] {
     const bool recordFirst = facts_.requestOrder == RequestOrder::RecordThenGuard;
     if (recordFirst && !RecordIsOnShow(Caption())) return;
@@ -165,9 +165,10 @@ void LibraryScreen::Request_Click(const QString& button, const QString& formName
 
 void LibraryScreen::cmdClose_Click() {
   // Callers that get their own rights back, and the form that they are shown again as.
-  static const QMap<QString, QString> callers = {{"Patron Registration", "frmPatronRegistration"},
-                                                 {"Query Requests", "frmQueryRequests"},
-                                                 {"User Maintenance", {}}};
+  static const QMap<QString, std::optional<FormName>> callers = {
+      {"Patron Registration", FormName("frmPatronRegistration")},
+      {"Query Requests", FormName("frmQueryRequests")},
+      {"User Maintenance", std::nullopt}};
   Run("cmdClose_Click", [this] {
     if (!GuardPassed(facts_.guard.close)) return;
     const QString caller = gclsOF->CallingFunction();
@@ -176,10 +177,10 @@ void LibraryScreen::cmdClose_Click() {
       Unload();
     } else if (!gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), caller)) {
       Tell(this, gclsOF->LastError(), MessageStyle::Stop);
-    } else if (back->isEmpty()) {
-      Unload();
+    } else if (*back) {
+      UnloadAndShow(**back);
     } else {
-      UnloadAndShow(*back);
+      Unload();
     }
   });
 }

@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <array>
 
+#include "shell/FormName.h"
+
 // The five screens that edit one row of ID_LIBRARY between them.
 enum class LibrarySibling { Registration, Contact, Login, Statistics, Billing };
 inline constexpr std::array AllLibrarySiblings = {LibrarySibling::Registration, LibrarySibling::Contact,
@@ -13,7 +15,7 @@ inline constexpr std::array AllLibrarySiblings = {LibrarySibling::Registration, 
 
 // How the other screens reach one of the five.
 struct LibrarySiblingDoor {
-  QString formName;
+  FormName formName;
   QString button;  // object name and, with "_Click", name of its handler
   QString caption;
   QString entry;        // object name of its entry in mnuDisplay

@@ -89,7 +89,7 @@ void LibraryScreen::BuildMenu() {
   AddEntry(mnuOptions, "mnuOptionsAdvanced", "Ad&vanced", cmdAdvanced);
   AddEntry(mnuRequest, "mnuRequestArticle", "Artic&le", cmdArticle);
   AddEntry(mnuRequest, "mnuRequestBook", "Boo&k", cmdBook);
-  const auto about = [this](const QString& name, const QString& caption, const QString& formName) {
+  const auto about = [this](const QString& name, const QString& caption, FormName formName) {
     connect(Form::MenuEntry(mnuHelp, name, caption), &QAction::triggered, this,
             [this, name, formName] { Run(name + "_Click", [&] { ::ShowModal(formName, this); }); });
   };

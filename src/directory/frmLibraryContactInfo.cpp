@@ -146,7 +146,7 @@ void frmLibraryContactInfo::EnableServerButtons(bool enabled) {
   cmdConfigureNCIPServer->setEnabled(enabled);
 }
 
-void frmLibraryContactInfo::OpenNCIP(const QString& button, const QString& formName) {
+void frmLibraryContactInfo::OpenNCIP(const QString& button, FormName formName) {
   Run(button + "_Click", [&] {
     glngFoundLibraryId = LibraryIdOfExactSymbol(txtNCIPServerLibrary->Trimmed(), Sql::National, LibrarySelectFailed);
     glngNCIPLibraryId = glngFoundLibraryId;

@@ -41,7 +41,7 @@ class frmLibraryContactInfo : public LibraryScreen {
   // --- NCIP ---
   void txtNCIPServerLibrary_Change();
   void EnableServerButtons(bool enabled);
-  void OpenNCIP(const QString& button, const QString& formName);
+  void OpenNCIP(const QString& button, FormName formName);
   void cmdFindLibrary_Click();
   bool HasServer(qint32 libraryId) const;
   void cmdConfigISO18626Connection_Click();

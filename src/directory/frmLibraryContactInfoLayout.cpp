@@ -152,10 +152,10 @@ void frmLibraryContactInfo::ConnectControls() {
           &frmLibraryContactInfo::cmdConfigISO18626Connection_Click);
   connect(mnuOptionsConfigureAPI, &QAction::triggered, this,
           [this] { Run("mnuOptionsConfigureAPI_Click", [this] { ::ShowModal("frmAPIServerConnection", this); }); });
-  const std::pair<QPushButton*, QString> doors[] = {{cmdConfigureNCIPServer, "frmNCIPServerConnection"},
-                                                    {cmdStatusCodes, "frmNCIPStatusCodes"},
-                                                    {cmdUnitLibraries, "frmNCIPUnitLibraryMapping"},
-                                                    {cmdUpdateProfile, "frmNCIPProfile"}};
+  const std::pair<QPushButton*, FormName> doors[] = {{cmdConfigureNCIPServer, FormName("frmNCIPServerConnection")},
+                                                     {cmdStatusCodes, FormName("frmNCIPStatusCodes")},
+                                                     {cmdUnitLibraries, FormName("frmNCIPUnitLibraryMapping")},
+                                                     {cmdUpdateProfile, FormName("frmNCIPProfile")}};
   for (const auto& [button, formName] : doors)
     connect(button, &QPushButton::clicked, this,
             [this, name = button->objectName(), formName = formName] { OpenNCIP(name, formName); });

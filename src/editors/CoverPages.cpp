@@ -51,13 +51,13 @@ void CoverPages::ConnectControls() {
   connect(grd1CoverInfo, &Grid::SelChange, this, &CoverPages::grd1CoverInfo_SelChange);
   KeepRowOnSort(grd1CoverInfo);
 
-  const std::pair<QPushButton*, const char*> notices[] = {{cmdNotifyPatron, "frmNotifyPatronEmail"},
-                                                          {cmdLoanNotices, "frmLoanNoticesEmail"},
-                                                          {cmdGeneral, "frmGeneralEmail"},
-                                                          {cmdPickup, "frmPickupLocationEmail"}};
+  const std::pair<QPushButton*, FormName> notices[] = {{cmdNotifyPatron, FormName("frmNotifyPatronEmail")},
+                                                       {cmdLoanNotices, FormName("frmLoanNoticesEmail")},
+                                                       {cmdGeneral, FormName("frmGeneralEmail")},
+                                                       {cmdPickup, FormName("frmPickupLocationEmail")}};
   for (const auto& [button, form] : notices)
     connect(button, &QPushButton::clicked, this,
-            [this, name = button->objectName(), form = QString(form)] { OpenNotice(name, form); });
+            [this, name = button->objectName(), form = form] { OpenNotice(name, form); });
 }
 
 void CoverPages::CoverPages_Tab() {
@@ -145,7 +145,7 @@ bool CoverPages::CoverPages_Clear() {
   return true;
 }
 
-void CoverPages::OpenNotice(const QString& button, const QString& formName) {
+void CoverPages::OpenNotice(const QString& button, FormName formName) {
   Procedure procedure("frmTabulon." + button + "_Click", this);
   procedure.Run([&] {
     const int row = grd1CoverInfo->Row();

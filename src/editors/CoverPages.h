@@ -9,6 +9,8 @@
 #include "shell/Editing.h"
 #include "shell/TabPage.h"
 
+class FormName;
+
 // Tab "Cover Pages": the texts printed on the cover sheet of each request type. There is one row for each type, so rows
 // are only updated. Four buttons open the notice e-mail dialogs of the selected type.
 class CoverPages : public TabPage {
@@ -31,7 +33,7 @@ class CoverPages : public TabPage {
   void BuildControls();
   void ConnectControls();
   void grd1CoverInfo_SelChange();
-  void OpenNotice(const QString& button, const QString& formName);
+  void OpenNotice(const QString& button, FormName formName);
   QString UpdateStatement() const;
 
   FieldList fields_;

@@ -39,7 +39,7 @@ Miscellaneous::Miscellaneous(frmTabulon& shell) : TabPage(shell) {
   });
 }
 
-void Miscellaneous::Opens(QPushButton* button, const QString& formName) {
+void Miscellaneous::Opens(QPushButton* button, FormName formName) {
   connect(button, &QPushButton::clicked, this, [this, button, formName] {
     Procedure("frmTabulon." + button->objectName() + "_Click").Step([this, formName] { ShowModal(formName, this); });
   });

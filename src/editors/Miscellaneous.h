@@ -5,6 +5,8 @@
 #include "platform/controls/FormLayout.h"
 #include "shell/TabPage.h"
 
+class FormName;
+
 // Tab "Miscellaneous": the buttons of the reference screens and of the ISO 18626 connections.
 class Miscellaneous : public TabPage {
   Q_OBJECT
@@ -15,7 +17,7 @@ class Miscellaneous : public TabPage {
 
  private:
   // The button opens the screen as a modal dialog and does nothing else.
-  void Opens(QPushButton* button, const QString& formName);
+  void Opens(QPushButton* button, FormName formName);
 
   QPushButton* const cmdPatronMessages = Form::Button(this, "cmdPatronMessages", "&Patron Messages");
   QPushButton* const cmdGeneralMessages = Form::Button(this, "cmdGeneralMessages", "&General Messages");

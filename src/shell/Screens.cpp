@@ -27,6 +27,10 @@ std::vector<Chain>& Chains() {
 
 }  // namespace
 
+FormName FormName::Of(const QString& name) {
+  return {Known(name.toStdString()), Checked()};
+}
+
 void RegisterScreen(const QString& formName, ScreenMaker maker) {
   Makers()[formName] = std::move(maker);
 }
@@ -43,11 +47,11 @@ QStringList RegisteredScreens() {
   return names;
 }
 
-void ShowModal(const QString& formName, QWidget* owner) {
+void ShowModal(FormName form, QWidget* owner) {
   QWidget* const window = owner ? owner->window() : QApplication::activeWindow();
   Chains().emplace_back();
   try {
-    for (QString name = formName; !name.isEmpty(); name = std::exchange(Chains().back().next, QString()))
+    for (QString name = form; !name.isEmpty(); name = std::exchange(Chains().back().next, QString()))
       MakeScreen(name, window)->ShowModal();
   } catch (...) {
     Chains().pop_back();
@@ -56,12 +60,12 @@ void ShowModal(const QString& formName, QWidget* owner) {
   const Chain ended = std::move(Chains().back());
   Chains().pop_back();
   for (auto after = ended.afterwards.rbegin(); after != ended.afterwards.rend(); ++after) (*after)();
-  auto* const form = dynamic_cast<ActivatedForm*>(window);
-  if (form && window->isVisible()) form->Form_Activate();
+  auto* const below = dynamic_cast<ActivatedForm*>(window);
+  if (below && window->isVisible()) below->Form_Activate();
 }
 
-void ShowNext(const QString& formName, std::function<void()> afterwards) {
+void ShowNext(FormName form, std::function<void()> afterwards) {
   if (Chains().empty()) throw std::logic_error("No modal screen is open to be followed");
-  Chains().back().next = formName;
+  Chains().back().next = form;
   if (afterwards) Chains().back().afterwards.push_back(std::move(afterwards));
 }

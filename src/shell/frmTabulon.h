@@ -10,6 +10,7 @@
 #include "shell/Screen.h"
 #include "shell/TabPage.h"
 
+class FormName;
 class QAction;
 class QLabel;
 class QMenu;
@@ -119,7 +120,7 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   void BuildMenu();
   void BuildStatusBar();
   QString GuidePage() const;
-  QAction* HelpEntry(QMenu* menu, const QString& name, const QString& caption, const QString& formName);
+  QAction* HelpEntry(QMenu* menu, const QString& name, const QString& caption, FormName formName);
 
   // The stages of Form_Load. False: the process is ending.
   bool LoadSettings();

@@ -120,7 +120,7 @@ void frmTabulon::BuildMenu() {
   tlbButtons->addActions({add_.entry, update_.entry, delete_.entry, clear_.entry});
 }
 
-QAction* frmTabulon::HelpEntry(QMenu* menu, const QString& name, const QString& caption, const QString& formName) {
+QAction* frmTabulon::HelpEntry(QMenu* menu, const QString& name, const QString& caption, FormName formName) {
   QAction* const action = Form::MenuEntry(menu, name, caption);
   connect(action, &QAction::triggered, this, [this, name, formName] {
     gstrErrorMessage.clear();

@@ -70,7 +70,7 @@ Screen& LibraryDesk::OpenLibrary(const QString& formName, qint32 libraryId, cons
 
 void LibraryDesk::InSession(const QString& formName, std::function<void()> act) {
   WhenShown(formName, [act = std::move(act)](Screen&) { act(); });
-  ShowModal(formName);
+  ShowModal(FormName::Of(formName));
 }
 
 void LibraryDesk::Rights(const QString& rights) {
