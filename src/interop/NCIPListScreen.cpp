@@ -1,4 +1,6 @@
 #include "interop/NCIPListScreen.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 
 #include "interop/StatementReport.h"
 #include "shell/Procedure.h"

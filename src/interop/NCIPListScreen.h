@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/ModuleState.h"
-#include "core/OstanaFunctions.h"
+#include "core/Record.h"
 #include "interop/ListRewrite.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -62,6 +61,5 @@ class NCIPListScreen : public Screen {
   // The list differs from the table.
   bool mbListChanged() const { return list_.Modified(); }
 
-  const FunctionRights rights_ = gclsOF->Rights();
   Record list_;
 };

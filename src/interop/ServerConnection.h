@@ -1,7 +1,6 @@
 #pragma once
 
-#include "core/ModuleState.h"
-#include "core/OstanaFunctions.h"
+#include "core/Record.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/TextBox.h"
@@ -67,7 +66,6 @@ class ServerConnection : public Screen {
 
   const Facts facts_;
   const qint32 libraryId_;  // whose row it is
-  const FunctionRights rights_ = gclsOF->Rights();
-  Record record_;  // none where the library has no row yet
+  Record record_;           // none where the library has no row yet
   bool mbRecordExists = false;
 };

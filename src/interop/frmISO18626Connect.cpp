@@ -1,4 +1,6 @@
 #include "interop/frmISO18626Connect.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 
 #include <QApplication>
 

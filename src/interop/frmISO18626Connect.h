@@ -2,8 +2,7 @@
 
 #include <QCheckBox>
 
-#include "core/ModuleState.h"
-#include "core/OstanaFunctions.h"
+#include "core/Record.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -72,7 +71,6 @@ class frmISO18626Connect : public Screen {
   void Log(const QString& procedure, const QString& text) const;
   void ShowProcessing(const QString& text);
 
-  const FunctionRights rights_ = gclsOF->Rights();
   Record record_;            // the connection in the fields
   QString mstrConnectionId;  // of the row selected; empty when none is
 

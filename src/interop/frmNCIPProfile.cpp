@@ -1,5 +1,7 @@
 // Editing one profile: showing, testing, and Add, Update, Delete and Clear, which touch the grid alone.
 #include "interop/frmNCIPProfile.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 
 #include <QScopedValueRollback>
 

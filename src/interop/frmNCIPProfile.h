@@ -3,8 +3,7 @@
 #include <array>
 #include <map>
 
-#include "core/ModuleState.h"
-#include "core/OstanaFunctions.h"
+#include "core/Record.h"
 #include "interop/DeliveryChoice.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -90,7 +89,6 @@ class frmNCIPProfile : public Screen {
   // The profile on screen has been edited.
   bool mbProfileChanged() const { return profile_.Modified(); }
 
-  const FunctionRights rights_ = gclsOF->Rights();
   Record list_;            // the rows of the table in the grid
   Record profile_;         // the one in the controls
   bool mbLoading = false;  // code fills the controls

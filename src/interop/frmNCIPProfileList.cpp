@@ -1,6 +1,8 @@
 // The profile list: read from the table into the grid, and written back when the screen closes.
 #include <QScopedValueRollback>
 
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "interop/CodeLists.h"
 #include "interop/ListRewrite.h"

@@ -61,7 +61,7 @@ void RowChosen(const MessageScreen& screen, const std::function<void()>& update)
   const int row = screen.grid->Row();
   if (gbSkipGridEvents || row == 0) return;
   // Update writes the row that was left; the new one is shown also when it was refused.
-  if (*screen.changed && Reference::WantsChangesApplied(screen.form)) update();
+  if (Reference::WantsChangesApplied(screen.form, *screen.record, *screen.rights)) update();
   screen.showRow(row);
 }
 
@@ -71,7 +71,7 @@ void cmdFindLibrary_Click(const MessageScreen& screen) {
     const FoundLibrary found = FindLibrary(screen.form);
     if (!found.allowed) return;
     screen.symbol->SetText(found.symbol);
-    *screen.changed = true;
+    screen.record->Touched();
   });
 }
 
@@ -88,7 +88,9 @@ void cmdDelete_Click(const MessageScreen& screen, const QString& failureLine,
     qint32 libraryId = 0;
     const int row = *screen.currentRow;
     if (row == 0 || !IsKnownForRow(screen, screen.grid->Text(row, Library), libraryId)) return;
-    ExecuteInTransaction(statement(row, libraryId), failureLine);
+    Transaction transaction(gclsOF->Connection());
+    if (!DeleteRecord(screen.form, statement(row, libraryId), failureLine, screen.code)) return;
+    transaction.Commit();
     screen.grid->RemoveRow(row);
     screen.showRow(screen.grid->Rows() > 1 ? 1 : 0);
     Tell(screen.form, Words::Deleted, MessageStyle::Information);

@@ -3,6 +3,9 @@
 #include <QString>
 #include <functional>
 
+#include "core/Record.h"
+#include "core/UserRights.h"
+
 class CodeComboBox;
 class Grid;
 class QWidget;
@@ -25,7 +28,8 @@ struct MessageScreen {
   Grid* grid;
   TextBox* symbol;
   TextBox* code;  // has the focus behind a delete that fails
-  bool* changed;
+  Record* record;
+  const FunctionRights* rights;
   int* currentRow;
   std::function<void(int row)> showRow;
 };

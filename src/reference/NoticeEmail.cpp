@@ -36,7 +36,7 @@ void NoticeEmail::BuildControls() {
     rows.Add("lblMessage", "Message:", options_->Row());
     connect(options_, &OptionGroup::Click, this, [this](int group) {
       ShowGroup(group);
-      mbRecordChanged = true;
+      record_.Touched();
     });
   }
   groups_ = new QStackedWidget(this);
@@ -110,7 +110,7 @@ QPushButton* NoticeEmail::BrowseButton(const NoticeBrowse& browse) {
 }
 
 void NoticeEmail::ConnectBox(Field& field) {
-  const auto changed = [this] { mbRecordChanged = true; };
+  const auto changed = [this] { record_.Touched(); };
   if (field.line)
     connect(field.line, &TextBox::Change, this, changed);
   else
@@ -139,8 +139,13 @@ void NoticeEmail::Form_Load() {
   if (options_) options_->Select(NoticeColumn::Text);
   ShowGroup(NoticeColumn::Text);
   // What could not be read must not be written over.
-  cmdOK->setEnabled(Procedure(sheet_.loadLogName, this).Run([this] { PopulateForm(); }));
-  mbRecordChanged = false;
+  Procedure(sheet_.loadLogName, this).Run([this] {
+    Record::Reading reading(record_);
+    reading.Replaces();
+    PopulateForm();
+    reading.Ended();
+  });
+  cmdOK->setEnabled(record_.MayBeWritten() && rights_.update);
 }
 
 void NoticeEmail::PopulateForm() {
@@ -179,28 +184,22 @@ void NoticeEmail::Browse(const NoticeBrowse& browse) {
 // --- OK ---
 
 void NoticeEmail::cmdOK_Click() {
-  QString query;
   Procedure procedure(sheet_.okLogName, this);
-  procedure
-      .Finally([&] {
-        if (sheet_.logsQuery && !query.isEmpty()) gclsOF->WriteLog("Query: " + query, {}, "S");
-      })
-      .Run([&] {
-        if (!mbRecordChanged) {
-          ShowMessage("Nothing has been changed.", MessageStyle::Stop, Caption(), {}, this);
-          return;
-        }
-        QWidget* const blank = BlankMessage();
-        if (blank && ShowMessage("Are you sure you wish to leave the message blank?", MessageStyle::Question, Caption(),
-                                 {}, this) == MessageAnswer::No) {
-          blank->setFocus();
-          return;
-        }
-        query = UpdateStatement();
-        ExecuteInTransaction(query, "***** SQL error on ID_COVER_INFO (Update) *****");
-        ShowMessage("Record has been updated.", MessageStyle::Information, Caption(), {}, this);
-        Unload();
-      });
+  if (sheet_.logsQuery) procedure.LogStatement("Query: ");
+  procedure.Run([&] {
+    if (!mbRecordChanged()) {
+      Tell(this, "Nothing has been changed.", MessageStyle::Stop);
+      return;
+    }
+    QWidget* const blank = BlankMessage();
+    if (blank && !Confirm(this, "Are you sure you wish to leave the message blank?")) {
+      blank->setFocus();
+      return;
+    }
+    ExecuteInTransaction(UpdateStatement(), "***** SQL error on ID_COVER_INFO (Update) *****");
+    Tell(this, "Record has been updated.", MessageStyle::Information);
+    Unload();
+  });
 }
 
 // Both messages are saved, whichever is on screen.

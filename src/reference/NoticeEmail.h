@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <vector>
 
+#include "core/Record.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/OptionGroup.h"
@@ -83,7 +84,10 @@ class NoticeEmail : public Screen {
   const NoticeSheet sheet_;
   std::vector<Field> fields_;
   std::vector<QGridLayout*> forms_;  // one below the other
-  bool mbRecordChanged = false;
+  // The record on the controls was edited.
+  bool mbRecordChanged() const { return record_.Modified(); }
+
+  Record record_;
 
   TextBox* const txtRequestType = new TextBox(this, "txtRequestType", 3);
   TextBox* const txtRequestTypeDesc = new TextBox(this, "txtRequestTypeDesc");

@@ -1,5 +1,7 @@
 #include "reference/RecordDialog.h"
 
+#include <QPushButton>
+
 #include "core/ModuleState.h"
 #include "core/SqlText.h"
 #include "platform/controls/CodeComboBox.h"
@@ -11,8 +13,9 @@
 
 namespace Reference {
 
-bool WantsChangesApplied(QWidget* form) {
-  return Confirm(form, "This record has been modified.\nDo you wish to apply the updates before continuing?");
+bool WantsChangesApplied(QWidget* form, const Record& record, const FunctionRights& rights) {
+  return record.Modified() && rights.update &&
+         Confirm(form, "This record has been modified.\nDo you wish to apply the updates before continuing?");
 }
 
 QString UnableToAdd(const AdoError& error) {
@@ -31,32 +34,43 @@ QString NotifySupport(const AdoError& error) {
   return Texts::NotifySupport + "\n\n" + error.Description();
 }
 
+void ApplyRights(const FunctionRights& rights, const WritingButtons& buttons) {
+  buttons.add->setEnabled(rights.add);
+  buttons.update->setEnabled(rights.update);
+  buttons.remove->setEnabled(rights.remove);
+  if (buttons.clear != nullptr) buttons.clear->setEnabled(rights.update && rights.remove);
+}
+
 bool StandsElsewhere(const Grid& grid, const QString& text, int col, int row) {
   int found = grid.FindRow(text, col);
   if (found > 0 && found == row) found = grid.FindRow(text, col, row + 1);
   return found > 0;
 }
 
-void UpdateRecord(const QString& sql, const QString& failureLine) {
-  if (Execute(sql, failureLine) > 0) return;
-  gstrErrorMessage = failureLine;
-  throw AdoError(AdoNumber::RowChanged, "The record is no longer in the table.", "Tabulon");
+bool UpdateRecord(QWidget* form, const QString& sql, const QString& failureLine, QWidget* focus, const QString& gone) {
+  return Execute(sql, failureLine) > 0 || Refuse(form, gone, MessageStyle::Warning, focus);
 }
 
-void MarkEdits(bool& changed, TextBox* box) {
-  QObject::connect(box, &TextBox::Edited, box, [&changed] { changed = true; });
+bool DeleteRecord(QWidget* form, const QString& sql, const QString& failureLine, QWidget* focus) {
+  return Execute(sql, failureLine) > 0 ||
+         Refuse(form, "Nothing was deleted.  Make sure you have a valid record selected.", MessageStyle::Warning,
+                focus);
 }
 
-void MarkEdits(bool& changed, MemoBox* box) {
-  QObject::connect(box, &MemoBox::Edited, box, [&changed] { changed = true; });
+void MarkEdits(Record& record, TextBox* box) {
+  QObject::connect(box, &TextBox::Edited, box, [&record] { record.Touched(); });
 }
 
-void MarkEdits(bool& changed, CodeComboBox* box) {
-  QObject::connect(box, &CodeComboBox::Click, box, [&changed] { changed = true; });
+void MarkEdits(Record& record, MemoBox* box) {
+  QObject::connect(box, &MemoBox::Edited, box, [&record] { record.Touched(); });
 }
 
-void MarkEdits(bool& changed, OptionGroup* pair) {
-  QObject::connect(pair, &OptionGroup::Click, pair, [&changed] { changed = true; });
+void MarkEdits(Record& record, CodeComboBox* box) {
+  QObject::connect(box, &CodeComboBox::Click, box, [&record] { record.Touched(); });
+}
+
+void MarkEdits(Record& record, OptionGroup* pair) {
+  QObject::connect(pair, &OptionGroup::Click, pair, [&record] { record.Touched(); });
 }
 
 }  // namespace Reference

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QWidget>
 
+#include "core/Record.h"
+#include "core/UserRights.h"
 #include "platform/ado/AdoError.h"
 #include "platform/desktop/Prompts.h"
 
@@ -10,6 +12,7 @@ class CodeComboBox;
 class Grid;
 class MemoBox;
 class OptionGroup;
+class QPushButton;
 class TextBox;
 
 // What the reference dialogs do and say in the same way. A dialog writes out its own order of tests, its own words and
@@ -34,8 +37,8 @@ inline const QString ChooseToDelete = "Please choose a record to be Deleted";
 inline const QString SelectValidRecord = "Please select a valid record from the table.";
 }  // namespace Words
 
-// The question before a changed record is left. True: the changes are to be written.
-bool WantsChangesApplied(QWidget* form);
+// The question before a changed record is left, of a user who may write it. True: the changes are to be written.
+bool WantsChangesApplied(QWidget* form, const Record& record, const FunctionRights& rights);
 
 // Closing texts that end with the engine's own words.
 QString UnableToAdd(const AdoError& error);
@@ -43,21 +46,33 @@ QString LoadingFormFailed(const AdoError& error);
 QString LoadingFieldsFailed(const AdoError& error);
 QString NotifySupport(const AdoError& error);
 
+// The row of buttons of a dialog: Add, Update, Delete and, where it has one, Clear, which goes with the last two.
+struct WritingButtons {
+  QPushButton* add;
+  QPushButton* update;
+  QPushButton* remove;
+  QPushButton* clear = nullptr;
+};
+// Switches off what the rights do not allow.
+void ApplyRights(const FunctionRights& rights, const WritingButtons& buttons);
+
 // Whether a data row other than `row` holds the text in the column.
 bool StandsElsewhere(const Grid& grid, const QString& text, int col, int row);
 
-// An UPDATE that means a record on screen. When another client has deleted it, that is a failure
-// (AdoNumber::RowChanged), not a change that is lost in silence.
-void UpdateRecord(const QString& sql, const QString& failureLine);
+// An UPDATE and a DELETE that mean a record on screen. False when another client has removed it meanwhile: the user has
+// been told, and the focus is on `focus`.
+bool UpdateRecord(QWidget* form, const QString& sql, const QString& failureLine, QWidget* focus,
+                  const QString& gone = Words::NoSuchCode);
+bool DeleteRecord(QWidget* form, const QString& sql, const QString& failureLine, QWidget* focus);
 
-// Sets the form's flag whenever the user, not code, changes the control.
-void MarkEdits(bool& changed, TextBox* box);
-void MarkEdits(bool& changed, MemoBox* box);
-void MarkEdits(bool& changed, CodeComboBox* box);
-void MarkEdits(bool& changed, OptionGroup* pair);
+// Touches the record whenever the user, not code, changes the control.
+void MarkEdits(Record& record, TextBox* box);
+void MarkEdits(Record& record, MemoBox* box);
+void MarkEdits(Record& record, CodeComboBox* box);
+void MarkEdits(Record& record, OptionGroup* pair);
 template <class... Controls>
-requires(sizeof...(Controls) > 1) void MarkEdits(bool& changed, Controls*... controls) {
-  (MarkEdits(changed, controls), ...);
+requires(sizeof...(Controls) > 1) void MarkEdits(Record& record, Controls*... controls) {
+  (MarkEdits(record, controls), ...);
 }
 
 }  // namespace Reference

@@ -73,7 +73,7 @@ void frmCurrencyCodes::ConnectControls() {
       .Add(txtCountry, Country)
       .Add(txtExchangeRate, Exchange)
       .AddText(cmbSymbol, Symbol);
-  MarkEdits(mbRecordChanged, txtCurrencyCode, txtDescription, txtCountry, txtExchangeRate, cmbSymbol);
+  MarkEdits(record_, txtCurrencyCode, txtDescription, txtCountry, txtExchangeRate, cmbSymbol);
   txtCurrencyCode->UpperCaseAsTyped();
   MakeNumeric(*txtExchangeRate, lblExchangeRate, "9999.9999", "###0.0000");
   connect(cmdAdd, &QPushButton::clicked, this, &frmCurrencyCodes::cmdAdd_Click);
@@ -87,6 +87,7 @@ void frmCurrencyCodes::ConnectControls() {
           this, [this] {
             if (grdCurrencyCode->Row() > 0) grdCurrencyCode_Click(grdCurrencyCode->Row(), Base);
           });
+  Reference::ApplyRights(rights_, {cmdAdd, cmdUpdate, cmdDelete});
   KeepRowOnSort(grdCurrencyCode);
   connect(grdCurrencyCode, &Grid::AfterSort, this, [this] { mintCurrentRow = grdCurrencyCode->Row(); });
 }
@@ -95,6 +96,9 @@ void frmCurrencyCodes::ConnectControls() {
 
 void frmCurrencyCodes::PopulateForm() {
   Procedure procedure("frmCurrencyCodes.PopulateForm", this);
+  // The symbols are fixed: they are there also when the currencies cannot be read.
+  cmbSymbol->Clear();
+  for (const char* symbol : {"$", "€", "£", "¥", "¢"}) cmbSymbol->Add(QString::fromUtf8(symbol));
   procedure.OnFailure(LoadingFormFailed).Run([this] {
     const QString suffix = gclsOF->LanguageSuffix();
     FillGrid(*grdCurrencyCode,
@@ -108,8 +112,6 @@ void frmCurrencyCodes::PopulateForm() {
                                   RateOnScreen(Value(rows, "CURRENCY_EXCHANGE")),
                                   Value(rows, "CURRENCY_SYMBOL")};
              });
-    cmbSymbol->Clear();
-    for (const char* symbol : {"$", "€", "£", "¥", "¢"}) cmbSymbol->Add(QString::fromUtf8(symbol));
     mbBaseChanged = false;
     ShowRow(grdCurrencyCode->Rows() > 1 ? 1 : 0);
   });
@@ -136,13 +138,13 @@ void frmCurrencyCodes::ShowRow(int row) {
     fields_.Clear();
     cmbSymbol->SetIndex(-1);
   }
-  mbRecordChanged = false;
+  record_.Settled();
 }
 
 void frmCurrencyCodes::grdCurrencyCode_SelChange() {
   const int row = grdCurrencyCode->Row();
   if (gbSkipGridEvents || row == 0) return;
-  if (mbRecordChanged && WantsChangesApplied(this)) cmdUpdate_Click();
+  if (WantsChangesApplied(this, record_, rights_)) cmdUpdate_Click();
   ShowRow(row);
 }
 
@@ -207,7 +209,7 @@ void frmCurrencyCodes::cmdAdd_Click() {
     WriteGridRow(mintCurrentRow);
     grdCurrencyCode->SetRowQuietly(mintCurrentRow);
     // A base mark that was moved in the grid is still to be stored.
-    mbRecordChanged = false;
+    record_.Settled();
     Tell(this, Words::Added, MessageStyle::Information);
   });
 }
@@ -220,7 +222,7 @@ void frmCurrencyCodes::WriteGridRow(int row) {
 void frmCurrencyCodes::cmdUpdate_Click() {
   Procedure procedure("frmCurrencyCodes.cmdUpdate_Click", this);
   procedure.Finally([this] { txtCurrencyCode->setFocus(); }).Run([this] {
-    if (!mbRecordChanged && !mbBaseChanged) {
+    if (!mbRecordChanged() && !mbBaseChanged) {
       Tell(this, Words::NothingChanged, MessageStyle::Stop);
       return;
     }
@@ -229,14 +231,17 @@ void frmCurrencyCodes::cmdUpdate_Click() {
     Transaction transaction(gclsOF->Connection());
     if (mbBaseChanged) {
       ClearStoredBase();
-      UpdateRecord(UpdateOf() + "SET      CURRENCY_BASE = N'*' " +
-                       "WHERE    CURRENCY_CODE = " + Sql::National(grdCurrencyCode->Text(BaseRow(), Code)),
-                   UpdateFailed);
+      if (!UpdateRecord(this,
+                        UpdateOf() + "SET      CURRENCY_BASE = N'*' " +
+                            "WHERE    CURRENCY_CODE = " + Sql::National(grdCurrencyCode->Text(BaseRow(), Code)),
+                        UpdateFailed, txtCurrencyCode))
+        return;
     }
-    if (mbRecordChanged) UpdateRecord(NationalUpdate(), UpdateFailed);
+    if (mbRecordChanged() && !UpdateRecord(this, NationalUpdate(), UpdateFailed, txtCurrencyCode)) return;
     transaction.Commit();
-    if (mbRecordChanged) WriteGridRow(grdCurrencyCode->FindRow(txtCurrencyCode->Text(), Code));
-    mbRecordChanged = mbBaseChanged = false;
+    if (mbRecordChanged()) WriteGridRow(grdCurrencyCode->FindRow(txtCurrencyCode->Text(), Code));
+    record_.Settled();
+    mbBaseChanged = false;
     Tell(this, Words::Updated, MessageStyle::Information);
   });
 }
@@ -263,7 +268,7 @@ void frmCurrencyCodes::cmdClose_Click() {
   Procedure procedure("frmCurrencyCodes.cmdClose_Click", this);
   procedure.Finally([this] { txtCurrencyCode->setFocus(); }).Run([&] {
     // A moved base alone is no edit of the record: nothing is asked and the table keeps its base.
-    if (!mbRecordChanged || !WantsChangesApplied(this)) return;
+    if (!WantsChangesApplied(this, record_, rights_)) return;
     leave = false;
     fields_.TrimAll();
     if (!IsKnownRecord() || !FieldsAreComplete()) return;
@@ -274,9 +279,9 @@ void frmCurrencyCodes::cmdClose_Click() {
       return;
     }
     Transaction transaction(gclsOF->Connection());
-    UpdateRecord(PlainUpdate(), UpdateFailed);
+    if (!UpdateRecord(this, PlainUpdate(), UpdateFailed, txtCurrencyCode)) return;
     transaction.Commit();
-    mbRecordChanged = false;
+    record_.Settled();
     Tell(this, Words::Updated, MessageStyle::Information);
     leave = true;
   });
@@ -317,10 +322,12 @@ void frmCurrencyCodes::cmdDelete_Click() {
     const QString successor = last ? QString() : grdCurrencyCode->Text(row == 1 ? 2 : 1, Code);
 
     Transaction transaction(gclsOF->Connection());
-    Execute(QString("DELETE ") + "FROM " + Sql::Table("ID_CURRENCY_CODE") + " " + "WHERE   CURRENCY_CODE = '" +
-                gclsOF->SqlEscape(grdCurrencyCode->Text(row, Code)) + "'",
-            UpdateFailed);
-    if (!last) StoreBaseAfterDelete(wasBase, successor);
+    if (!DeleteRecord(this,
+                      QString("DELETE ") + "FROM " + Sql::Table("ID_CURRENCY_CODE") + " " +
+                          "WHERE   CURRENCY_CODE = '" + gclsOF->SqlEscape(grdCurrencyCode->Text(row, Code)) + "'",
+                      UpdateFailed, txtCurrencyCode))
+      return;
+    if (!last && !StoreBaseAfterDelete(wasBase, successor)) return;
     transaction.Commit();
 
     grdCurrencyCode->RemoveRow(row);
@@ -339,13 +346,14 @@ void frmCurrencyCodes::cmdDelete_Click() {
 }
 
 // The grid may be behind the table: a moved mark is not stored yet, and other clients move it as well.
-void frmCurrencyCodes::StoreBaseAfterDelete(bool wasBase, const QString& successor) {
+bool frmCurrencyCodes::StoreBaseAfterDelete(bool wasBase, const QString& successor) {
   bool stored = false;
   FirstValue("SELECT   CURRENCY_CODE FROM " + Sql::Table("ID_CURRENCY_CODE") + " WHERE    CURRENCY_BASE = N'*'",
              SelectFailed, &stored);
   if (wasBase && stored) ClearStoredBase();
-  if (!wasBase && (stored || BaseRow() == 0)) return;
-  UpdateRecord(UpdateOf() + "SET      CURRENCY_BASE = '*'" + " " + "WHERE    CURRENCY_CODE = '" +
-                   gclsOF->SqlEscape(wasBase ? successor : grdCurrencyCode->Text(BaseRow(), Code)) + "'",
-               UpdateFailed);
+  if (!wasBase && (stored || BaseRow() == 0)) return true;
+  return UpdateRecord(this,
+                      UpdateOf() + "SET      CURRENCY_BASE = '*'" + " " + "WHERE    CURRENCY_CODE = '" +
+                          gclsOF->SqlEscape(wasBase ? successor : grdCurrencyCode->Text(BaseRow(), Code)) + "'",
+                      UpdateFailed, txtCurrencyCode);
 }

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "core/Record.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -54,12 +55,15 @@ class frmCurrencyCodes : public Screen {
   void MarkBase(int row);
   void ClearStoredBase();
   // What keeps exactly one base in the table when a row has been deleted.
-  void StoreBaseAfterDelete(bool wasBase, const QString& successor);
+  bool StoreBaseAfterDelete(bool wasBase, const QString& successor);
 
-  bool mbRecordChanged = false;  // the row on screen was edited
-  bool mbBaseChanged = false;    // the base mark was moved in the grid and is not stored yet
-  bool mbToldEmpty = false;      // the empty table has been told in this showing
-  int mintCurrentRow = 0;        // the row on the controls
+  // The record on the controls was edited.
+  bool mbRecordChanged() const { return record_.Modified(); }
+
+  Record record_;
+  bool mbBaseChanged = false;  // the base mark was moved in the grid and is not stored yet
+  bool mbToldEmpty = false;    // the empty table has been told in this showing
+  int mintCurrentRow = 0;      // the row on the controls
   FieldList fields_;
 
   QLabel* const lblCurrencyCode = Form::Label(this, "lblCurrencyCode", "Currency C&ode:");

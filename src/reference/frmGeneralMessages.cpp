@@ -56,7 +56,7 @@ void frmGeneralMessages::ConnectControls() {
       .Add(txtDescription, Description)
       .Add(txtSubject, Subject)
       .Add(txtMessage, Message);
-  MarkEdits(mbRecordChanged, txtLibrarySymbol, txtCode, txtDescription, txtSubject, txtMessage);
+  MarkEdits(record_, txtLibrarySymbol, txtCode, txtDescription, txtSubject, txtMessage);
   txtCode->UpperCaseAsTyped();
   connect(cmbShowMessages, &CodeComboBox::Click, this, &frmGeneralMessages::cmbShowMessages_Click);
   connect(cmdFindLibrary, &QPushButton::clicked, this, &frmGeneralMessages::cmdFindLibrary_Click);
@@ -65,6 +65,7 @@ void frmGeneralMessages::ConnectControls() {
   connect(cmdDelete, &QPushButton::clicked, this, &frmGeneralMessages::cmdDelete_Click);
   connect(cmdClose, &QPushButton::clicked, this, &frmGeneralMessages::cmdClose_Click);
   connect(grdGeneralMessage, &Grid::SelChange, this, &frmGeneralMessages::grdGeneralMessage_SelChange);
+  Reference::ApplyRights(rights_, {cmdAdd, cmdUpdate, cmdDelete});
   KeepRowOnSort(grdGeneralMessage);
   connect(grdGeneralMessage, &Grid::AfterSort, this, [this] { mintCurrentRow = grdGeneralMessage->Row(); });
 }
@@ -101,7 +102,7 @@ void frmGeneralMessages::ShowRow(int row) {
     fields_.FillFromRow(*grdGeneralMessage, row);
   else
     fields_.Clear();
-  mbRecordChanged = false;
+  record_.Settled();
 }
 
 LibraryMessages::MessageScreen frmGeneralMessages::Shared() {
@@ -110,7 +111,8 @@ LibraryMessages::MessageScreen frmGeneralMessages::Shared() {
           grdGeneralMessage,
           txtLibrarySymbol,
           txtCode,
-          &mbRecordChanged,
+          &record_,
+          &rights_,
           &mintCurrentRow,
           [this](int row) { ShowRow(row); }};
 }
@@ -163,12 +165,14 @@ bool frmGeneralMessages::MayBeUpdated(qint32& libraryId) {
   return LibraryMessages::IsKnownLibrary(this, *txtLibrarySymbol, libraryId);
 }
 
-// On Close the code may be that of any row, and a description counts whatever library it belongs to.
+// On Close the row of the library and code that were entered is written, whichever was on show, and a description
+// counts whatever library it belongs to.
 bool frmGeneralMessages::MayBeUpdatedOnClose(qint32& libraryId) {
   if (!FieldsAreComplete()) return false;
-  if (grdGeneralMessage->FindRow(txtCode->Text(), MessageCode) == 0)
+  const int row = grdGeneralMessage->FindRow({{Library, txtLibrarySymbol->Text()}, {MessageCode, txtCode->Text()}});
+  if (row == 0 && grdGeneralMessage->FindRow(txtCode->Text(), MessageCode) == 0)
     return Refuse(this, Words::NoSuchCode, MessageStyle::Stop, txtCode);
-  if (StandsElsewhere(*grdGeneralMessage, txtDescription->Text(), Description, mintCurrentRow))
+  if (StandsElsewhere(*grdGeneralMessage, txtDescription->Text(), Description, row))
     return Refuse(this, Words::SameDescription, MessageStyle::Stop, txtDescription);
   return LibraryMessages::IsKnownLibrary(this, *txtLibrarySymbol, libraryId);
 }
@@ -193,7 +197,7 @@ void frmGeneralMessages::cmdAdd_Click() {
     mintCurrentRow = grdGeneralMessage->AddRow(QStringList(Message));
     fields_.WriteRow(*grdGeneralMessage, mintCurrentRow);
     grdGeneralMessage->SetRowQuietly(mintCurrentRow);
-    mbRecordChanged = false;
+    record_.Settled();
     Tell(this, Words::Added, MessageStyle::Information);
   });
 }
@@ -201,7 +205,7 @@ void frmGeneralMessages::cmdAdd_Click() {
 void frmGeneralMessages::cmdUpdate_Click() {
   Procedure procedure("frmGeneralMessages.cmdUpdate_Click", this);
   procedure.Finally([this] { txtCode->setFocus(); }).Run([this] {
-    if (!mbRecordChanged) {
+    if (!mbRecordChanged()) {
       Tell(this, Words::NothingChanged, MessageStyle::Stop);
       return;
     }
@@ -210,15 +214,17 @@ void frmGeneralMessages::cmdUpdate_Click() {
     if (!MayBeUpdated(libraryId)) return;
     const QString code = gclsOF->SqlEscape(txtCode->Text());
     Transaction transaction(gclsOF->Connection());
-    UpdateRecord(UpdateOf() + "SET      GENERAL_MESSAGE = '" + code + "', " +
-                     "GENERAL_MESSAGE_SUB = " + Sql::Plain(txtSubject->Text()) + ", " +
-                     "GENERAL_MESSAGE_DESC = " + Sql::Plain(txtDescription->Text()) + ", " + "GENERAL_MESSAGE_MSG = " +
-                     Sql::Plain(txtMessage->Text()) + " " + "WHERE    LIBRARY_ID = " + Sql::Number(libraryId) + " " +
-                     "AND      GENERAL_MESSAGE = '" + code + "'",
-                 UpdateFailed);
+    if (!UpdateRecord(this,
+                      UpdateOf() + "SET      GENERAL_MESSAGE = '" + code + "', " +
+                          "GENERAL_MESSAGE_SUB = " + Sql::Plain(txtSubject->Text()) + ", " +
+                          "GENERAL_MESSAGE_DESC = " + Sql::Plain(txtDescription->Text()) + ", " +
+                          "GENERAL_MESSAGE_MSG = " + Sql::Plain(txtMessage->Text()) + " " + "WHERE    LIBRARY_ID = " +
+                          Sql::Number(libraryId) + " " + "AND      GENERAL_MESSAGE = '" + code + "'",
+                      UpdateFailed, txtCode))
+      return;
     transaction.Commit();
     fields_.WriteRow(*grdGeneralMessage, mintCurrentRow);
-    mbRecordChanged = false;
+    record_.Settled();
     Tell(this, Words::Updated, MessageStyle::Information);
   });
 }
@@ -227,7 +233,7 @@ void frmGeneralMessages::cmdClose_Click() {
   bool leave = true;
   Procedure procedure("frmGeneralMessages.cmdClose_Click", this);
   procedure.Finally([this] { txtCode->setFocus(); }).Run([&] {
-    if (!mbRecordChanged || !WantsChangesApplied(this)) return;
+    if (!WantsChangesApplied(this, record_, rights_)) return;
     leave = false;
     fields_.TrimAll();
     qint32 libraryId = 0;
@@ -235,14 +241,16 @@ void frmGeneralMessages::cmdClose_Click() {
     const QString code = gclsOF->SqlEscape(txtCode->Text());
     const QString library = Sql::Number(libraryId);
     Transaction transaction(gclsOF->Connection());
-    UpdateRecord(UpdateOf() + "SET      LIBRARY_ID = " + library + ", " + "GENERAL_MESSAGE = '" + code + "', " +
-                     "GENERAL_MESSAGE_SUB = " + Sql::Plain(txtSubject->Text()) + ", " +
-                     "GENERAL_MESSAGE_DESC = " + Sql::Plain(txtDescription->Text()) + ", " +
-                     "GENERAL_MESSAGE_MSG = " + Sql::Plain(txtMessage->Text()) + " " + "WHERE    GENERAL_MESSAGE = '" +
-                     code + "'" + "         AND LIBRARY_ID = " + library,
-                 UpdateFailed);
+    if (!UpdateRecord(this,
+                      UpdateOf() + "SET      LIBRARY_ID = " + library + ", " + "GENERAL_MESSAGE = '" + code + "', " +
+                          "GENERAL_MESSAGE_SUB = " + Sql::Plain(txtSubject->Text()) + ", " +
+                          "GENERAL_MESSAGE_DESC = " + Sql::Plain(txtDescription->Text()) + ", " +
+                          "GENERAL_MESSAGE_MSG = " + Sql::Plain(txtMessage->Text()) + " " +
+                          "WHERE    GENERAL_MESSAGE = '" + code + "'" + "         AND LIBRARY_ID = " + library,
+                      UpdateFailed, txtCode))
+      return;
     transaction.Commit();
-    mbRecordChanged = false;
+    record_.Settled();
     Tell(this, Words::Updated, MessageStyle::Information);
     leave = true;
   });

@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 
+#include "core/Record.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -51,7 +52,10 @@ class frmGeneralMessages : public Screen {
   bool MayBeUpdated(qint32& libraryId);
   bool MayBeUpdatedOnClose(qint32& libraryId);
 
-  bool mbRecordChanged = false;
+  // The record on the controls was edited.
+  bool mbRecordChanged() const { return record_.Modified(); }
+
+  Record record_;
   int mintCurrentRow = 0;  // the row on the controls
   FieldList fields_;
 

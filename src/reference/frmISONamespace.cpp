@@ -59,7 +59,7 @@ void frmISONamespace::BuildControls() {
 
 void frmISONamespace::ConnectControls() {
   fields_.Add(txtNameSpace, Namespace).Add(txtDescription, Description).Add(txtFieldName, FieldName);
-  MarkEdits(mbRecordChanged, txtNameSpace, txtDescription, txtFieldName);
+  MarkEdits(record_, txtNameSpace, txtDescription, txtFieldName);
   txtNameSpace->SetKeyPress(NamespaceKey);
   txtFieldName->SetKeyPress(FieldNameKey);
   txtFieldName->UpperCaseAsTyped();
@@ -68,6 +68,7 @@ void frmISONamespace::ConnectControls() {
   connect(cmdDelete, &QPushButton::clicked, this, &frmISONamespace::cmdDelete_Click);
   connect(cmdClose, &QPushButton::clicked, this, &frmISONamespace::cmdClose_Click);
   connect(grdNameSpace, &Grid::SelChange, this, &frmISONamespace::grdNameSpace_SelChange);
+  Reference::ApplyRights(rights_, {cmdAdd, cmdUpdate, cmdDelete});
   KeepRowOnSort(grdNameSpace);
   connect(grdNameSpace, &Grid::AfterSort, this, [this] { mintCurrentRow = grdNameSpace->Row(); });
 }
@@ -108,13 +109,13 @@ void frmISONamespace::ShowRow(int row) {
     fields_.FillFromRow(*grdNameSpace, row);
   else
     fields_.Clear();
-  mbRecordChanged = false;
+  record_.Settled();
 }
 
 void frmISONamespace::grdNameSpace_SelChange() {
   const int row = grdNameSpace->Row();
   if (gbSkipGridEvents || row == 0) return;
-  if (mbRecordChanged && WantsChangesApplied(this)) cmdUpdate_Click();
+  if (WantsChangesApplied(this, record_, rights_)) cmdUpdate_Click();
   ShowRow(row);
 }
 
@@ -188,7 +189,7 @@ void frmISONamespace::cmdAdd_Click() {
     mintCurrentRow = grdNameSpace->AddRow(QStringList(FieldName));
     fields_.WriteRow(*grdNameSpace, mintCurrentRow);
     grdNameSpace->SetRowQuietly(mintCurrentRow);
-    mbRecordChanged = false;
+    record_.Settled();
     Tell(this, Words::Added, MessageStyle::Information);
   });
 }
@@ -196,21 +197,23 @@ void frmISONamespace::cmdAdd_Click() {
 void frmISONamespace::cmdUpdate_Click() {
   Procedure procedure("frmISONameSpace.cmdUpdate_Click", this);
   procedure.OnFailure(Words::UpdateFailed).Run([this] {
-    if (!mbRecordChanged) {
+    if (!mbRecordChanged()) {
       Tell(this, Words::NothingChanged, MessageStyle::Stop);
       return;
     }
     fields_.TrimAll();
     if (!MayBeUpdated()) return;
     Transaction transaction(gclsOF->Connection());
-    UpdateRecord(UpdateOf() + "SET      ISO_NAMESPACE_DESC" + gclsOF->LanguageSuffix() + " = " +
-                     Sql::National(txtDescription->Text()) + ", " +
-                     "ISO_NAMESPACE_ADDR = " + Sql::National(txtFieldName->Text()) + " " +
-                     "WHERE    ISO_NAMESPACE = " + Sql::National(txtNameSpace->Text()),
-                 UpdateLine);
+    if (!UpdateRecord(this,
+                      UpdateOf() + "SET      ISO_NAMESPACE_DESC" + gclsOF->LanguageSuffix() + " = " +
+                          Sql::National(txtDescription->Text()) + ", " +
+                          "ISO_NAMESPACE_ADDR = " + Sql::National(txtFieldName->Text()) + " " +
+                          "WHERE    ISO_NAMESPACE = " + Sql::National(txtNameSpace->Text()),
+                      UpdateLine, txtNameSpace))
+      return;
     transaction.Commit();
     fields_.WriteRow(*grdNameSpace, grdNameSpace->FindRow(txtNameSpace->Text(), Namespace));
-    mbRecordChanged = false;
+    record_.Settled();
     Tell(this, Words::Updated, MessageStyle::Information);
   });
 }
@@ -219,17 +222,19 @@ void frmISONamespace::cmdClose_Click() {
   bool leave = true;
   Procedure procedure("frmISONameSpace.cmdClose_Click", this);
   procedure.OnFailure(Words::UpdateFailed).Run([&] {
-    if (!mbRecordChanged || !WantsChangesApplied(this)) return;
+    if (!WantsChangesApplied(this, record_, rights_)) return;
     leave = false;
     fields_.TrimAll();
     if (!MayBeUpdatedOnClose()) return;
     Transaction transaction(gclsOF->Connection());
-    UpdateRecord(UpdateOf() + "SET      ISO_NAMESPACE_DESC = " + Sql::Plain(txtDescription->Text()) + ", " +
-                     "ISO_NAMESPACE_ADDR = " + Sql::Plain(txtFieldName->Text()) + " " +
-                     "WHERE    ISO_NAMESPACE = " + Sql::Plain(txtNameSpace->Text()),
-                 UpdateLine);
+    if (!UpdateRecord(this,
+                      UpdateOf() + "SET      ISO_NAMESPACE_DESC = " + Sql::Plain(txtDescription->Text()) + ", " +
+                          "ISO_NAMESPACE_ADDR = " + Sql::Plain(txtFieldName->Text()) + " " +
+                          "WHERE    ISO_NAMESPACE = " + Sql::Plain(txtNameSpace->Text()),
+                      UpdateLine, txtNameSpace))
+      return;
     transaction.Commit();
-    mbRecordChanged = false;
+    record_.Settled();
     Tell(this, Words::Updated, MessageStyle::Information);
     leave = true;
   });
@@ -241,10 +246,13 @@ void frmISONamespace::cmdDelete_Click() {
   procedure.Run([this] {
     const int row = mintCurrentRow;
     if (row == 0 || !Confirm(this, Words::DeleteQuestion)) return;
-    ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_ISO_NAMESPACE") + " " +
-                             "WHERE      ISO_NAMESPACE = '" + gclsOF->SqlEscape(grdNameSpace->Text(row, Namespace)) +
-                             "'",
-                         "***** SQL error on ID_ISO_NAMESPACE (Delete) *****");
+    Transaction transaction(gclsOF->Connection());
+    if (!DeleteRecord(this,
+                      QString("DELETE ") + "FROM " + Sql::Table("ID_ISO_NAMESPACE") + " " +
+                          "WHERE      ISO_NAMESPACE = '" + gclsOF->SqlEscape(grdNameSpace->Text(row, Namespace)) + "'",
+                      "***** SQL error on ID_ISO_NAMESPACE (Delete) *****", txtNameSpace))
+      return;
+    transaction.Commit();
     grdNameSpace->RemoveRow(row);
     ShowRow(grdNameSpace->Rows() > 1 ? 1 : 0);
     Tell(this, Words::Deleted, MessageStyle::Information);

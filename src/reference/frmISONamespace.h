@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "core/Record.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
@@ -42,7 +43,10 @@ class frmISONamespace : public Screen {
   bool MayBeUpdated();
   bool MayBeUpdatedOnClose();
 
-  bool mbRecordChanged = false;
+  // The record on the controls was edited.
+  bool mbRecordChanged() const { return record_.Modified(); }
+
+  Record record_;
   bool mbToldEmpty = false;  // the empty table has been told in this showing
   int mintCurrentRow = 0;    // the row on the controls
   FieldList fields_;

@@ -39,6 +39,8 @@ void frmISOServiceLevels::BuildControls() {
 void frmISOServiceLevels::PopulateForm() {
   Procedure procedure("frmISOServiceLevels.PopulateForm", this);
   procedure.OnFailure(LoadingFieldsFailed).Run([this] {
+    Record::Reading reading(record_);
+    reading.Replaces();
     const QString suffix = gclsOF->LanguageSuffix();
     // No entry stands for NULL: a level can be changed, not taken away.
     FillCombo(*cmbServiceLevel, {},
@@ -51,9 +53,10 @@ void frmISOServiceLevels::PopulateForm() {
              "***** SQL error on ID_ISO_SERVICE_LEVEL (Select) *****", [](Recordset& rows) {
                return QStringList{Value(rows, 0), Value(rows, 1), Value(rows, 2), Value(rows, 3)};
              });
-    mbRecordChanged = false;
+    reading.Ended();
     ShowRow(grdServiceLevel->Rows() > 1 ? 1 : 0);
   });
+  cmdUpdate->setEnabled(record_.MayBeWritten() && rights_.update);
 }
 
 void frmISOServiceLevels::Form_Activate() {
@@ -67,7 +70,7 @@ void frmISOServiceLevels::Form_Activate() {
 void frmISOServiceLevels::ShowRow(int row) {
   grdServiceLevel->SetRowQuietly(row);
   const QString level = row > 0 ? grdServiceLevel->Text(row, ServiceLevel) : QString();
-  if (!cmbServiceLevel->SetCode(level)) cmbServiceLevel->SetText(level);
+  cmbServiceLevel->Hold(level);
 }
 
 void frmISOServiceLevels::grdServiceLevel_SelChange() {
@@ -77,13 +80,13 @@ void frmISOServiceLevels::grdServiceLevel_SelChange() {
 void frmISOServiceLevels::cmbServiceLevel_Click() {
   if (grdServiceLevel->Row() == 0) return;
   grdServiceLevel->SetText(grdServiceLevel->Row(), ServiceLevel, cmbServiceLevel->Code());
-  mbRecordChanged = true;
+  record_.Touched();
 }
 
 void frmISOServiceLevels::cmdUpdate_Click() {
   Procedure procedure("frmISOServiceLevels.cmdUpdate_Click", this);
   procedure.OnFailure(Words::UpdateFailed).Run([this] {
-    if (!mbRecordChanged) {
+    if (!mbRecordChanged()) {
       Tell(this, Words::NothingChanged + "\n", MessageStyle::Stop);
       return;
     }
@@ -95,7 +98,7 @@ void frmISOServiceLevels::cmdClose_Click() {
   bool leave = true;
   Procedure procedure("frmISOServiceLevels.cmdClose_Click", this);
   procedure.OnFailure(Words::UpdateFailed).Run([&] {
-    if (!mbRecordChanged || !WantsChangesApplied(this)) return;
+    if (!WantsChangesApplied(this, record_, rights_)) return;
     leave = false;
     RewriteTable();
     leave = true;
@@ -104,6 +107,7 @@ void frmISOServiceLevels::cmdClose_Click() {
 }
 
 void frmISOServiceLevels::RewriteTable() {
+  if (!record_.MayBeWritten()) return;  // what was not read whole replaces nothing
   const QString table = Sql::Table("ID_ISO_SERVICE_LEVEL");
   Transaction transaction(gclsOF->Connection());
   Execute(QString("DELETE ") + "FROM " + table, "***** SQL error on ID_ISO_SERVICE_LEVEL (Delete) *****");
@@ -115,5 +119,5 @@ void frmISOServiceLevels::RewriteTable() {
   }
   transaction.Commit();
   Tell(this, Words::Updated, MessageStyle::Information);
-  mbRecordChanged = false;
+  record_.Settled();
 }

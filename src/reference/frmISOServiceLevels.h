@@ -2,6 +2,7 @@
 
 #include <QPushButton>
 
+#include "core/Record.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -35,7 +36,10 @@ class frmISOServiceLevels : public Screen {
   // Deletes all rows and inserts those of the grid.
   void RewriteTable();
 
-  bool mbRecordChanged = false;
+  // A level was changed in the grid, the working copy of the table.
+  bool mbRecordChanged() const { return record_.Modified(); }
+
+  Record record_;
   bool mbToldEmpty = false;  // the empty table has been told in this showing
 
   CodeComboBox* const cmbServiceLevel = new CodeComboBox(this, "cmbServiceLevel");

@@ -18,6 +18,11 @@ namespace {
 constexpr double HighestCharge = 999.99;  // currency amount
 const QString NoneEntry = "(none)";
 
+// A text that is no entry of the list is shown and has no code.
+bool IsChosen(const CodeComboBox& list) {
+  return !list.IsEmptyOrNone() && list.Chosen().has_value();
+}
+
 // A charge as grid and box show it; NULL stays empty.
 QString ChargeOnScreen(const QString& charge) {
   return charge.isEmpty() ? charge : Numbers::Format(Numbers::Val(charge), "##0.00");
@@ -66,7 +71,7 @@ void frmItemType::BuildControls() {
 }
 
 void frmItemType::ConnectControls() {
-  MarkEdits(mbRecordChanged, txtItemType, txtCharge, txtDescription, optFixedCharge);
+  MarkEdits(record_, txtItemType, txtCharge, txtDescription, optFixedCharge);
   txtItemType->UpperCaseAsTyped();
   txtCharge->SetKeyPress([this](char16_t key) { return FilterNumericKey(key, *txtCharge, false, false); });
   txtCharge->SetLeaveCheck([this] { return ChargeMayStay(); });
@@ -78,6 +83,7 @@ void frmItemType::ConnectControls() {
   connect(cmdUpdate, &QPushButton::clicked, this, &frmItemType::cmdUpdate_Click);
   connect(cmdDelete, &QPushButton::clicked, this, &frmItemType::cmdDelete_Click);
   connect(cmdClose, &QPushButton::clicked, this, [this] { Unload(); });
+  Reference::ApplyRights(rights_, {cmdAdd, cmdUpdate, cmdDelete});
   KeepRowOnSort(grdItemType);
   KeepRowOnSort(grdAccessItemType);
 }
@@ -88,7 +94,7 @@ void frmItemType::Form_Load() {
   optFixedCharge->Select(No);
   LoadDataInGrid();
   PopulateAccessGroupCombo();
-  mbRecordChanged = false;
+  record_.Settled();
 }
 
 void frmItemType::LoadDataInGrid() {
@@ -113,8 +119,9 @@ void frmItemType::PopulateAccessGroupCombo() {
                "***** SQL error on ID_ACCESS_GROUP (Select) *****",
                [&](Recordset& rows) { cmbAccessGroup->Add(Value(rows, description), Value(rows, "ACCESS_GROUP")); });
     cmbAccessGroup->SetIndex(0);
-    FillAccessItemTypes();
   });
+  // Each list fails for itself.
+  Procedure("frmItemType.PopulateAccessGroupCombo", this).Run([this] { FillAccessItemTypes(); });
 }
 
 // Every type, whichever group is chosen.
@@ -143,7 +150,7 @@ void frmItemType::PopulateItemTypeGrid() {
 }
 
 void frmItemType::sstabItemType_Click(int tab) {
-  cmdUpdate->setEnabled(tab == ItemTypeTab);
+  cmdUpdate->setEnabled(tab == ItemTypeTab && rights_.update);
   if (tab != AccessTab) return;
   Procedure procedure("frmItemType.sstabItemType_Click", this);
   procedure.Run([this] {
@@ -181,7 +188,7 @@ void frmItemType::cmdDelete_Click() {
 }
 
 void frmItemType::CloseButtonUpdate() {
-  if (!mbRecordChanged) return;
+  if (!mbRecordChanged() || !rights_.update) return;
   if (Confirm(this, "A record has been modified.\nDo you wish to apply the updates before continuing?"))
     cmdUpdate_Click();
 }
@@ -246,10 +253,13 @@ void frmItemType::WriteRow(int row) {
 }
 
 bool frmItemType::RowIsOnScreen(int row) const {
+  const auto same = [&](const TextBox* box, Column column) {
+    return box->Trimmed() == grdItemType->Text(row, column).trimmed();
+  };
+  // Without a charge the flag is NULL, whichever option is set.
   const Answer fixed = grdItemType->Text(row, Fixed) == "N" ? No : Yes;
-  return txtItemType->Trimmed() == grdItemType->Text(row, ItemType) &&
-         txtCharge->Trimmed() == grdItemType->Text(row, Charge) && optFixedCharge->IsSet(fixed) &&
-         txtDescription->Trimmed() == grdItemType->Text(row, Description);
+  const bool sameFlag = txtCharge->Trimmed().isEmpty() || optFixedCharge->IsSet(fixed);
+  return same(txtItemType, ItemType) && same(txtCharge, Charge) && sameFlag && same(txtDescription, Description);
 }
 
 void frmItemType::AddItemType() {
@@ -270,7 +280,7 @@ void frmItemType::AddItemType() {
   const int row = grdItemType->AddRow(QStringList(Description));
   WriteRow(row);
   grdItemType->SetRowQuietly(row);
-  mbRecordChanged = false;
+  record_.Settled();
   mbItemTypesChanged = true;
   Tell(this, "Record Added", MessageStyle::Information);
 }
@@ -278,7 +288,7 @@ void frmItemType::AddItemType() {
 void frmItemType::cmdUpdate_Click() {
   Procedure procedure("frmItemType.cmdUpdate_Click", this);
   procedure.Run([this] {
-    if (!mbRecordChanged) {
+    if (!mbRecordChanged()) {
       Tell(this, Words::NothingChanged, MessageStyle::Stop);
       return;
     }
@@ -298,14 +308,17 @@ void frmItemType::cmdUpdate_Click() {
       return;
     }
     Transaction transaction(gclsOF->Connection());
-    UpdateRecord("UPDATE " + Sql::Table("ID_ITEM_TYPE") + " " + "SET      ITEM_CHARGE = " + ChargeInSql() + ", " +
-                     "ITEM_CHARGE_FIXED = " + FixedInSql({}) + ", " +
-                     "ITEM_TYPE_DESC = " + Sql::Plain(txtDescription->Text()) + " " +
-                     "WHERE    ITEM_TYPE = " + Sql::Plain(txtItemType->Text()),
-                 "***** SQL error on ID_ITEM_TYPE (Update) *****");
+    if (!UpdateRecord(this,
+                      "UPDATE " + Sql::Table("ID_ITEM_TYPE") + " " + "SET      ITEM_CHARGE = " + ChargeInSql() + ", " +
+                          "ITEM_CHARGE_FIXED = " + FixedInSql({}) + ", " +
+                          "ITEM_TYPE_DESC = " + Sql::Plain(txtDescription->Text()) + " " +
+                          "WHERE    ITEM_TYPE = " + Sql::Plain(txtItemType->Text()),
+                      "***** SQL error on ID_ITEM_TYPE (Update) *****", txtItemType,
+                      "This Item Type does not exist in the system."))
+      return;
     transaction.Commit();
     WriteRow(row);
-    mbRecordChanged = false;
+    record_.Settled();
     mbItemTypesChanged = true;
     Tell(this, "Record Updated", MessageStyle::Information);
   });
@@ -322,11 +335,15 @@ void frmItemType::DeleteItemType() {
     return;
   }
   if (!Confirm(this, Texts::DeleteQuestion)) return;
-  ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_ITEM_TYPE") + " " + "WHERE    ITEM_TYPE = '" +
-                           gclsOF->SqlEscape(grdItemType->Text(row, ItemType)) + "'",
-                       "***** SQL error on ID_ITEM_TYPE (Delete) *****");
+  Transaction transaction(gclsOF->Connection());
+  if (!DeleteRecord(this,
+                    QString("DELETE ") + "FROM " + Sql::Table("ID_ITEM_TYPE") + " " + "WHERE    ITEM_TYPE = '" +
+                        gclsOF->SqlEscape(grdItemType->Text(row, ItemType)) + "'",
+                    "***** SQL error on ID_ITEM_TYPE (Delete) *****", txtItemType))
+    return;
+  transaction.Commit();
   grdItemType->RemoveRow(row);
-  mbRecordChanged = false;
+  record_.Settled();
   mbItemTypesChanged = true;
   Tell(this, "Record Deleted", MessageStyle::Information);
 }
@@ -334,11 +351,11 @@ void frmItemType::DeleteItemType() {
 // --- Item types by user group ---
 
 void frmItemType::AddAccess() {
-  if (cmbAccessGroup->IsEmptyOrNone() || cmbAccessItemType->IsEmptyOrNone()) {
-    Refuse(this, Words::ChooseToAdd, MessageStyle::Stop,
-           cmbAccessGroup->IsEmptyOrNone() ? cmbAccessGroup : cmbAccessItemType);
-    return;
-  }
+  for (CodeComboBox* list : {cmbAccessGroup, cmbAccessItemType})
+    if (!IsChosen(*list)) {
+      Refuse(this, Words::ChooseToAdd, MessageStyle::Stop, list);
+      return;
+    }
   const QString description = cmbAccessItemType->Text();
   if (grdAccessItemType->FindRow(description, 1) > 0) {
     Refuse(this, "This record already exists", MessageStyle::Stop, cmbAccessItemType);
@@ -358,15 +375,19 @@ void frmItemType::DeleteAccess() {
     Refuse(this, Words::ChooseToDelete, MessageStyle::Stop, cmbAccessGroup);
     return;
   }
-  if (cmbAccessItemType->Text() != grdAccessItemType->Text(row, 1)) {
+  if (!IsChosen(*cmbAccessItemType) || cmbAccessItemType->Text() != grdAccessItemType->Text(row, 1)) {
     Refuse(this, Words::SelectValidRecord, MessageStyle::Stop, cmbAccessItemType);
     return;
   }
   if (!Confirm(this, Texts::DeleteQuestion)) return;
-  ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_ACCESS_ITEM_TYPE") + " " +
-                           "WHERE    ACCESS_GROUP = '" + gclsOF->SqlEscape(cmbAccessGroup->Code()) + "' " +
-                           "AND      ITEM_TYPE = '" + gclsOF->SqlEscape(cmbAccessItemType->Code()) + "'",
-                       "***** SQL error on ID_ACCESS_ITEM_TYPE (Delete) *****");
+  Transaction transaction(gclsOF->Connection());
+  if (!DeleteRecord(this,
+                    QString("DELETE ") + "FROM " + Sql::Table("ID_ACCESS_ITEM_TYPE") + " " +
+                        "WHERE    ACCESS_GROUP = '" + gclsOF->SqlEscape(cmbAccessGroup->Code()) + "' " +
+                        "AND      ITEM_TYPE = '" + gclsOF->SqlEscape(cmbAccessItemType->Code()) + "'",
+                    "***** SQL error on ID_ACCESS_ITEM_TYPE (Delete) *****", cmbAccessItemType))
+    return;
+  transaction.Commit();
   PopulateItemTypeGrid();
   Tell(this, "Record Deleted", MessageStyle::Information);
 }

@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 
+#include "core/Record.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -61,7 +62,10 @@ class frmItemType : public Screen {
 
   bool OnItemTypeTab() const { return sstabItemType->currentIndex() == ItemTypeTab; }
 
-  bool mbRecordChanged = false;
+  // The record on the controls was edited.
+  bool mbRecordChanged() const { return record_.Modified(); }
+
+  Record record_;
   bool mbItemTypesChanged = false;  // since the second tab's list was filled
 
   QTabWidget* const sstabItemType = new QTabWidget(this);

@@ -26,6 +26,14 @@ bool IsDuplicate(QWidget* form, const CodeComboBox& box, const QString& code, co
   return true;
 }
 
+// A code that is in no list is kept; "(None)" stands for it, as in the grid.
+void ShowCode(CodeComboBox* box, const QString& code) {
+  if (code.isEmpty())
+    box->SetIndex(0);
+  else
+    box->Hold(code, NoneEntry);
+}
+
 QString DescriptionOrNone(const CodeComboBox& box, const QString& code) {
   return code.isEmpty() || box.IndexOfCode(code) < 0 ? NoneEntry : box.DescriptionOf(code);
 }
@@ -86,7 +94,7 @@ void frmNotifyPatronMessages::ConnectControls() {
       .Add(rdResponseRequired, Response, "N")
       .Add(rdDocumentRequired, Document, "N")
       .AddText(cmbExceptionCode, Exception);
-  MarkEdits(mbRecordChanged, txtLibrarySymbol, txtCode, txtDescription, txtSubject, txtMessage, rdResponseRequired,
+  MarkEdits(record_, txtLibrarySymbol, txtCode, txtDescription, txtSubject, txtMessage, rdResponseRequired,
             rdDocumentRequired, cmbHoldQueue, cmbRespondedQueue, cmbExceptionCode);
   txtCode->UpperCaseAsTyped();
   for (OptionGroup* const pair : {rdResponseRequired, rdDocumentRequired})
@@ -99,6 +107,7 @@ void frmNotifyPatronMessages::ConnectControls() {
   connect(cmdClear, &QPushButton::clicked, this, &frmNotifyPatronMessages::cmdClear_Click);
   connect(cmdClose, &QPushButton::clicked, this, &frmNotifyPatronMessages::cmdClose_Click);
   connect(grdPatronMessage, &Grid::SelChange, this, &frmNotifyPatronMessages::grdPatronMessage_SelChange);
+  Reference::ApplyRights(rights_, {cmdAdd, cmdUpdate, cmdDelete, cmdClear});
   KeepRowOnSort(grdPatronMessage);
   connect(grdPatronMessage, &Grid::AfterSort, this, [this] { mintCurrentRow = grdPatronMessage->Row(); });
 }
@@ -160,6 +169,7 @@ void frmNotifyPatronMessages::FillRejectCodes() {
 void frmNotifyPatronMessages::LoadMessages(const QString& symbol) {
   const QString order = symbol.isEmpty() ? QString("ORDER BY L.LIBRARY_SYMBOL, PM.PATRON_MESSAGE")
                                          : "AND LIBRARY_SYMBOL=" + Sql::Plain(symbol) + " " + "ORDER BY PATRON_MESSAGE";
+  codes_.clear();
   FillGrid(*grdPatronMessage,
            "SELECT   L.LIBRARY_SYMBOL, PM.PATRON_MESSAGE, PM.PATRON_MESSAGE_DESC" + gclsOF->LanguageSuffix() +
                ", PM.PATRON_MESSAGE_EVENT_ID, PM.PATRON_RESPONSE_EVENT_ID, PM.PATRON_MESSAGE_SUB, "
@@ -168,17 +178,20 @@ void frmNotifyPatronMessages::LoadMessages(const QString& symbol) {
                Sql::Table("ID_PATRON_MESSAGE") + " PM, " + Sql::Table("ID_LIBRARY") +
                " L WHERE PM.LIBRARY_ID = L.LIBRARY_ID " + order,
            SelectFailed, [this](Recordset& rows) {
+             const Codes codes{Value(rows, 3), Value(rows, 4), Value(rows, 9)};
+             codes_.push_back(codes);
              return QStringList{Value(rows, 0),
                                 Value(rows, 1),
                                 Value(rows, 2),
-                                DescriptionOrNone(*cmbHoldQueue, Value(rows, 3)),
-                                DescriptionOrNone(*cmbRespondedQueue, Value(rows, 4)),
+                                DescriptionOrNone(*cmbHoldQueue, codes.holdQueue),
+                                DescriptionOrNone(*cmbRespondedQueue, codes.respondedQueue),
                                 Value(rows, 5),
                                 Value(rows, 6),
                                 Value(rows, 7),
                                 Value(rows, 8),
-                                DescriptionOrNone(*cmbExceptionCode, Value(rows, 9))};
+                                DescriptionOrNone(*cmbExceptionCode, codes.exception)};
            });
+  for (int row = 1; row < grdPatronMessage->Rows(); ++row) grdPatronMessage->SetRowData(row, row);
 }
 
 // --- Showing ---
@@ -186,12 +199,27 @@ void frmNotifyPatronMessages::LoadMessages(const QString& symbol) {
 void frmNotifyPatronMessages::ShowRow(int row) {
   mintCurrentRow = row;
   grdPatronMessage->SetRowQuietly(row);
-  if (row > 0)
+  if (row > 0) {
     fields_.FillFromRow(*grdPatronMessage, row);
-  else
+    const Codes& codes = codes_.at(static_cast<size_t>(grdPatronMessage->RowData(row) - 1));
+    ShowCode(cmbHoldQueue, codes.holdQueue);
+    ShowCode(cmbRespondedQueue, codes.respondedQueue);
+    ShowCode(cmbExceptionCode, codes.exception);
+  } else {
     ClearFields();
+  }
   EnableQueues();
-  mbRecordChanged = false;
+  record_.Settled();
+}
+
+void frmNotifyPatronMessages::WriteRow(int row) {
+  fields_.WriteRow(*grdPatronMessage, row);
+  if (grdPatronMessage->RowData(row) == 0) {
+    codes_.push_back({});
+    grdPatronMessage->SetRowData(row, static_cast<qint64>(codes_.size()));
+  }
+  codes_.at(static_cast<size_t>(grdPatronMessage->RowData(row) - 1)) = {cmbHoldQueue->Code(), cmbRespondedQueue->Code(),
+                                                                        cmbExceptionCode->Code()};
 }
 
 void frmNotifyPatronMessages::ClearFields() {
@@ -215,7 +243,8 @@ LibraryMessages::MessageScreen frmNotifyPatronMessages::Shared() {
           grdPatronMessage,
           txtLibrarySymbol,
           txtCode,
-          &mbRecordChanged,
+          &record_,
+          &rights_,
           &mintCurrentRow,
           [this](int row) { ShowRow(row); }};
 }

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QPushButton>
 
+#include "core/Record.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -53,6 +54,12 @@ class frmNotifyPatronMessages : public Screen {
   void LoadMessages(const QString& symbol);
   void ShowRow(int row);
   void ClearFields();
+  // The codes behind a row's three descriptions; an event that heads a group, or a code that is gone, has none.
+  struct Codes {
+    QString holdQueue, respondedQueue, exception;
+  };
+  // Keeps those of the controls for the row that was written from them.
+  void WriteRow(int row);
   // The three lists are of use only when a response or a document is required.
   void EnableQueues();
 
@@ -79,8 +86,12 @@ class frmNotifyPatronMessages : public Screen {
   // What both updates set alike, a comma at the end.
   QString SetClause() const;
 
-  bool mbRecordChanged = false;
-  int mintCurrentRow = 0;  // the row on the controls
+  // The record on the controls was edited.
+  bool mbRecordChanged() const { return record_.Modified(); }
+
+  Record record_;
+  int mintCurrentRow = 0;     // the row on the controls
+  std::vector<Codes> codes_;  // by the number kept with a grid row, which counts from 1
   FieldList fields_;
 
   CodeComboBox* const cmbShowMessages = new CodeComboBox(this, "cmbShowMessages");

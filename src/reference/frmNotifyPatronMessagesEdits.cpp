@@ -49,7 +49,7 @@ bool frmNotifyPatronMessages::SubjectMessageAndRejectCode() {
   if (txtSubject->Text().isEmpty()) return RefuseEmpty(lblSubject, txtSubject);
   if (txtMessage->Text().isEmpty()) return RefuseEmpty(lblMessage, txtMessage);
   const bool required = rdResponseRequired->IsSet(Yes) || rdDocumentRequired->IsSet(Yes);
-  if (required && cmbExceptionCode->IsEmptyOrNone()) return RefuseEmpty(lblExceptionCode, cmbExceptionCode);
+  if (required && cmbExceptionCode->Code().isEmpty()) return RefuseEmpty(lblExceptionCode, cmbExceptionCode);
   return true;
 }
 
@@ -107,9 +107,9 @@ void frmNotifyPatronMessages::cmdAdd_Click() {
             languages.values + ")",
         "***** SQL error on ID_PATRON_MESSAGE (Insert) *****");
     mintCurrentRow = grdPatronMessage->AddRow(QStringList(Exception));
-    fields_.WriteRow(*grdPatronMessage, mintCurrentRow);
+    WriteRow(mintCurrentRow);
     grdPatronMessage->SetRowQuietly(mintCurrentRow);
-    mbRecordChanged = false;
+    record_.Settled();
     Tell(this, Words::Added, MessageStyle::Information);
   });
 }
@@ -130,7 +130,7 @@ QString frmNotifyPatronMessages::SetClause() const {
 void frmNotifyPatronMessages::cmdUpdate_Click() {
   Procedure procedure("frmNotifyPatronMessages.cmdUpdate_Click", this);
   procedure.Finally([this] { txtCode->setFocus(); }).Run([this] {
-    if (!mbRecordChanged) {
+    if (!mbRecordChanged()) {
       Tell(this, Words::NothingChanged, MessageStyle::Stop);
       return;
     }
@@ -138,14 +138,16 @@ void frmNotifyPatronMessages::cmdUpdate_Click() {
     qint32 libraryId = 0;
     if (!FieldsAreComplete() || !MayBeUpdated(libraryId)) return;
     Transaction transaction(gclsOF->Connection());
-    UpdateRecord("UPDATE " + Sql::Table("ID_PATRON_MESSAGE") + " " + "SET      " + SetClause() +
-                     "PATRON_RESPONSE_EXCEPTION = " + Sql::NationalOr(cmbExceptionCode->Code(), "Null") + " " +
-                     "WHERE    LIBRARY_ID = " + Sql::Number(libraryId) + " " + "AND      PATRON_MESSAGE = N'" +
-                     gclsOF->SqlEscape(txtCode->Text()) + "'",
-                 UpdateFailed);
+    if (!UpdateRecord(this,
+                      "UPDATE " + Sql::Table("ID_PATRON_MESSAGE") + " " + "SET      " + SetClause() +
+                          "PATRON_RESPONSE_EXCEPTION = " + Sql::NationalOr(cmbExceptionCode->Code(), "Null") + " " +
+                          "WHERE    LIBRARY_ID = " + Sql::Number(libraryId) + " " + "AND      PATRON_MESSAGE = N'" +
+                          gclsOF->SqlEscape(txtCode->Text()) + "'",
+                      UpdateFailed, txtCode))
+      return;
     transaction.Commit();
-    fields_.WriteRow(*grdPatronMessage, mintCurrentRow);
-    mbRecordChanged = false;
+    WriteRow(mintCurrentRow);
+    record_.Settled();
     Tell(this, Words::Updated, MessageStyle::Information);
   });
 }
@@ -154,7 +156,7 @@ void frmNotifyPatronMessages::cmdClose_Click() {
   bool leave = true;
   Procedure procedure("frmNotifyPatronMessages.cmdClose_Click", this);
   procedure.OnFailure(Texts::NotifySupport).Finally([this] { txtCode->setFocus(); }).Run([&] {
-    if (!mbRecordChanged || !WantsChangesApplied(this)) return;
+    if (!WantsChangesApplied(this, record_, rights_)) return;
     leave = false;
     fields_.TrimAll();
     qint32 libraryId = 0;
@@ -162,13 +164,15 @@ void frmNotifyPatronMessages::cmdClose_Click() {
     const QString library = Sql::Number(libraryId);
     Transaction transaction(gclsOF->Connection());
     // The reject code is a literal here in any case: "(None)" is stored as an empty text, not as NULL.
-    UpdateRecord("UPDATE " + Sql::Table("ID_PATRON_MESSAGE") + " " + "SET      LIBRARY_ID = " + library + ", " +
-                     SetClause() + "PATRON_RESPONSE_EXCEPTION = " + Sql::National(cmbExceptionCode->Code()) + " " +
-                     "WHERE    PATRON_MESSAGE = N'" + gclsOF->SqlEscape(txtCode->Text()) + "'" +
-                     "         AND LIBRARY_ID = " + library,
-                 UpdateFailed);
+    if (!UpdateRecord(this,
+                      "UPDATE " + Sql::Table("ID_PATRON_MESSAGE") + " " + "SET      LIBRARY_ID = " + library + ", " +
+                          SetClause() + "PATRON_RESPONSE_EXCEPTION = " + Sql::National(cmbExceptionCode->Code()) + " " +
+                          "WHERE    PATRON_MESSAGE = N'" + gclsOF->SqlEscape(txtCode->Text()) + "'" +
+                          "         AND LIBRARY_ID = " + library,
+                      UpdateFailed, txtCode))
+      return;
     transaction.Commit();
-    mbRecordChanged = false;
+    record_.Settled();
     Tell(this, Words::Updated, MessageStyle::Information);
     leave = true;
   });

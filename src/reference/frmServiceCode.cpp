@@ -27,16 +27,10 @@ void AddRegions(CodeComboBox& box) {
 }
 
 void ShowCode(CodeComboBox& box, const QString& code) {
-  if (code.isEmpty()) {
+  if (code.isEmpty())
     box.SetIndex(0);
-  } else if (!box.SetCode(code)) {
-    // The code was deleted from its own table meanwhile; the row still holds it.
-    box.SetText(code);
-  }
-}
-
-QString CodeIn(const CodeComboBox& box) {
-  return box.Index() >= 0 ? box.Code() : box.Text();
+  else
+    box.Hold(code);
 }
 
 char16_t DigitKey(char16_t key) {
@@ -95,8 +89,9 @@ void frmServiceCode::BuildControls() {
 }
 
 void frmServiceCode::ConnectControls() {
-  MarkEdits(mbRecordChanged, txtServiceCode, txtCountryCode, cmbCountryRegion, cmbDeliveryMethod, cmbServiceLevel,
-            cmbSystemSource, cmbItemType);
+  MarkEdits(serviceCode_, txtServiceCode, cmbCountryRegion, cmbDeliveryMethod, cmbServiceLevel, cmbSystemSource,
+            cmbItemType);
+  MarkEdits(country_, txtCountryCode);
   txtServiceCode->UpperCaseAsTyped();
   txtServiceCode->SelectAllOnFocus();
   txtCountryCode->SetKeyPress(DigitKey);
@@ -110,9 +105,10 @@ void frmServiceCode::ConnectControls() {
   connect(cmdDelete, &QPushButton::clicked, this, &frmServiceCode::cmdDelete_Click);
   connect(cmdClear, &QPushButton::clicked, this, [this] {
     ClearFields();
-    mbRecordChanged = false;
+    Front().Settled();
   });
   connect(cmdClose, &QPushButton::clicked, this, [this] { Unload(); });
+  Reference::ApplyRights(rights_, {cmdAdd, cmdUpdate, cmdDelete, cmdClear});
   KeepRowOnSort(grdServiceCode);
   KeepRowOnSort(grdCountryCode);
 }
@@ -122,28 +118,29 @@ void frmServiceCode::ConnectControls() {
 void frmServiceCode::Form_Load() {
   PopulateServiceCodeCombos();
   LoadServiceCodeGrid();
-  mbRecordChanged = false;
+  serviceCode_.Settled();
+  country_.Settled();
 }
 
 void frmServiceCode::PopulateServiceCodeCombos() {
-  Procedure procedure("frmServiceCode.PopulateServiceCodeCombos", this);
-  procedure.Run([this] {
-    AddRegions(*cmbCountryRegion);
-    AddRegions(*cmbRegion);
-    const QString suffix = gclsOF->LanguageSuffix();
-    const auto fill = [](CodeComboBox& box, const QString& code, const QString& description, const QString& table) {
+  AddRegions(*cmbCountryRegion);
+  AddRegions(*cmbRegion);
+  // Each list fails for itself.
+  const auto fill = [this](CodeComboBox* box, const QString& code, const QString& description, const QString& table) {
+    Procedure("frmServiceCode.PopulateServiceCodeCombos", this).Run([&] {
       FillCombo(
-          box, NoneEntry,
+          *box, NoneEntry,
           "SELECT   " + code + ", " + description + " " + "FROM " + Sql::Table(table) + " ORDER BY " + description,
           "***** SQL error on " + table + " (Select) *****", 1, 0);
-      box.SetIndex(0);
-    };
-    fill(*cmbDeliveryMethod, "DELIV_METHOD", "DELIV_METHOD_DESC" + suffix, "ID_DELIV_METHOD");
-    fill(*cmbServiceLevel, "SERVICE_LEVEL", "SERVICE_LEVEL_DESC" + suffix, "ID_SERVICE_LEVEL");
-    fill(*cmbSystemSource, "SYSTEM_SOURCE", "SYSTEM_SOURCE_DESC" + suffix, "ID_SYSTEM_SOURCE");
-    // Item types are described in one language.
-    fill(*cmbItemType, "ITEM_TYPE", "ITEM_TYPE_DESC", "ID_ITEM_TYPE");
-  });
+      box->SetIndex(0);
+    });
+  };
+  const QString suffix = gclsOF->LanguageSuffix();
+  fill(cmbDeliveryMethod, "DELIV_METHOD", "DELIV_METHOD_DESC" + suffix, "ID_DELIV_METHOD");
+  fill(cmbServiceLevel, "SERVICE_LEVEL", "SERVICE_LEVEL_DESC" + suffix, "ID_SERVICE_LEVEL");
+  fill(cmbSystemSource, "SYSTEM_SOURCE", "SYSTEM_SOURCE_DESC" + suffix, "ID_SYSTEM_SOURCE");
+  // Item types are described in one language.
+  fill(cmbItemType, "ITEM_TYPE", "ITEM_TYPE_DESC", "ID_ITEM_TYPE");
 }
 
 void frmServiceCode::LoadServiceCodeGrid() {
@@ -176,7 +173,7 @@ void frmServiceCode::LoadCountryCodeGrid() {
 
 void frmServiceCode::sstabServiceCode_Click(int tab) {
   // A country row has nothing but its key: there is nothing to update.
-  cmdUpdate->setEnabled(tab == ServiceCodeTab);
+  cmdUpdate->setEnabled(tab == ServiceCodeTab && rights_.update);
   if (tab == CountryRegionTab) LoadCountryCodeGrid();
 }
 
@@ -207,18 +204,20 @@ void frmServiceCode::ClearFields() {
 
 // --- The buttons of both tabs ---
 
+void frmServiceCode::Run(const QString& handler, const std::function<void()>& body) {
+  Procedure("frmServiceCode." + handler, this).LogStatement().Run(body);
+}
+
 void frmServiceCode::cmdAdd_Click() {
-  Procedure procedure("frmServiceCode.cmdAdd_Click", this);
-  procedure.Run([this] { OnServiceCodeTab() ? AddServiceCode() : AddCountry(); });
+  Run("cmdAdd_Click", [this] { OnServiceCodeTab() ? AddServiceCode() : AddCountry(); });
 }
 
 void frmServiceCode::cmdDelete_Click() {
-  Procedure procedure("frmServiceCode.cmdDelete_Click", this);
-  procedure.Run([this] { OnServiceCodeTab() ? DeleteServiceCode() : DeleteCountry(); });
+  Run("cmdDelete_Click", [this] { OnServiceCodeTab() ? DeleteServiceCode() : DeleteCountry(); });
 }
 
 bool frmServiceCode::CloseButtonUpdate() {
-  if (!mbRecordChanged) return true;
+  if (!mbRecordChanged() || !rights_.update) return true;
   const int question = (MessageStyle::Question & MessageStyle::IconMask) | MessageStyle::YesNoCancel;
   const int answer =
       Tell(this, "A record has been modified.\nDo you wish to apply the updates before continuing?", question);
@@ -231,7 +230,7 @@ bool frmServiceCode::CloseButtonUpdate() {
 QStringList frmServiceCode::EnteredValues() const {
   QStringList values(ItemType);
   values[ServiceCode - 1] = txtServiceCode->Text();
-  for (const Wildcard& wildcard : wildcards_) values[wildcard.col - 1] = CodeIn(*wildcard.box);
+  for (const Wildcard& wildcard : wildcards_) values[wildcard.col - 1] = wildcard.box->Code();
   return values;
 }
 
@@ -270,20 +269,19 @@ void frmServiceCode::AddServiceCode() {
   QString columns, literals;
   for (const Wildcard& wildcard : wildcards_) {
     columns += ", " + wildcard.column;
-    literals += ", " + Sql::PlainOr(CodeIn(*wildcard.box), "Null");
+    literals += ", " + Sql::PlainOr(wildcard.box->Code(), "Null");
   }
   Execute("INSERT INTO " + Sql::Table("ID_SERVICE_CODE") + " (SERVICE_CODE" + columns + ") VALUES(" +
               Sql::Plain(txtServiceCode->Text()) + literals + ")",
           "***** SQL error on ID_SERVICE_CODE (Insert) *****");
   grdServiceCode->SetRowQuietly(grdServiceCode->AddRow(values));
-  mbRecordChanged = false;
+  serviceCode_.Settled();
   Tell(this, "Record Added", MessageStyle::Information);
 }
 
 void frmServiceCode::cmdUpdate_Click() {
-  Procedure procedure("frmServiceCode.cmdUpdate_Click", this);
-  procedure.Run([this] {
-    if (!mbRecordChanged) {
+  Run("cmdUpdate_Click", [this] {
+    if (!mbRecordChanged()) {
       Tell(this, Words::NothingChanged, MessageStyle::Stop);
       return;
     }
@@ -294,12 +292,15 @@ void frmServiceCode::cmdUpdate_Click() {
     }
     QStringList settings;
     for (const Wildcard& wildcard : wildcards_)
-      settings.append(wildcard.column + " = " + Sql::PlainOr(CodeIn(*wildcard.box), "Null"));
-    UpdateRecord(
-        "UPDATE " + Sql::Table("ID_SERVICE_CODE") + " " + "SET      " + settings.join(", ") + " " + WhereRow(row),
-        "***** SQL error on ID_SERVICE_CODE (Update) *****");
+      settings.append(wildcard.column + " = " + Sql::PlainOr(wildcard.box->Code(), "Null"));
+    if (!UpdateRecord(
+            this,
+            "UPDATE " + Sql::Table("ID_SERVICE_CODE") + " " + "SET      " + settings.join(", ") + " " + WhereRow(row),
+            "***** SQL error on ID_SERVICE_CODE (Update) *****", txtServiceCode,
+            "This Service Code does not exist in the system."))
+      return;
     WriteRow(row);
-    mbRecordChanged = false;
+    serviceCode_.Settled();
     Tell(this, "Record Updated", MessageStyle::Information);
   });
 }
@@ -315,10 +316,11 @@ void frmServiceCode::DeleteServiceCode() {
     return;
   }
   if (!Confirm(this, Texts::DeleteQuestion)) return;
-  Execute(QString("DELETE ") + "FROM " + Sql::Table("ID_SERVICE_CODE") + " " + WhereRow(row),
-          "***** SQL error on ID_SERVICE_CODE (Delete) *****");
+  if (!DeleteRecord(this, QString("DELETE ") + "FROM " + Sql::Table("ID_SERVICE_CODE") + " " + WhereRow(row),
+                    "***** SQL error on ID_SERVICE_CODE (Delete) *****", txtServiceCode))
+    return;
   grdServiceCode->RemoveRow(row);
-  mbRecordChanged = false;
+  serviceCode_.Settled();
   Tell(this, "Record Deleted", MessageStyle::Information);
 }
 
@@ -343,7 +345,7 @@ void frmServiceCode::AddCountry() {
   Execute("INSERT INTO " + Sql::Table("ID_COUNTRY_CODE") + " (COUNTRY_CODE, COUNTRY_REGION) VALUES(" +
               Sql::Plain(code) + ", " + Sql::Plain(cmbRegion->Code()) + ")",
           "***** SQL error on ID_COUNTRY_CODE (Insert) *****");
-  mbRecordChanged = false;
+  country_.Settled();
   LoadCountryCodeGrid();
   grdCountryCode->SetRowQuietly(grdCountryCode->FindRow(code, 1));
   Tell(this, "Record Added", MessageStyle::Information);
@@ -361,10 +363,12 @@ void frmServiceCode::DeleteCountry() {
     return;
   }
   if (!Confirm(this, Texts::DeleteQuestion)) return;
-  Execute(QString("DELETE ") + "FROM " + Sql::Table("ID_COUNTRY_CODE") + " " + "WHERE    COUNTRY_CODE = '" +
-              gclsOF->SqlEscape(code) + "' " + "AND      COUNTRY_REGION = '" + cmbRegion->Code() + "'",
-          "***** SQL error on ID_COUNTRY_CODE (Delete) *****");
-  mbRecordChanged = false;
+  if (!DeleteRecord(this,
+                    QString("DELETE ") + "FROM " + Sql::Table("ID_COUNTRY_CODE") + " " + "WHERE    COUNTRY_CODE = '" +
+                        gclsOF->SqlEscape(code) + "' " + "AND      COUNTRY_REGION = '" + cmbRegion->Code() + "'",
+                    "***** SQL error on ID_COUNTRY_CODE (Delete) *****", txtCountryCode))
+    return;
+  country_.Settled();
   LoadCountryCodeGrid();
   Tell(this, "Record Deleted", MessageStyle::Information);
 }

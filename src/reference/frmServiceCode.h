@@ -4,6 +4,7 @@
 #include <QTabWidget>
 #include <array>
 
+#include "core/Record.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
@@ -65,7 +66,13 @@ class frmServiceCode : public Screen {
 
   bool OnServiceCodeTab() const { return sstabServiceCode->currentIndex() == ServiceCodeTab; }
 
-  bool mbRecordChanged = false;
+  // The record on the controls was edited.
+  bool mbRecordChanged() const { return serviceCode_.Modified() || country_.Modified(); }
+  Record& Front() { return OnServiceCodeTab() ? serviceCode_ : country_; }
+  // The frame of what writes: a failure is logged with its statement.
+  void Run(const QString& handler, const std::function<void()>& body);
+
+  Record serviceCode_, country_;  // one for each tab
 
   QTabWidget* const sstabServiceCode = new QTabWidget(this);
   TextBox* const txtServiceCode = new TextBox(this, "txtServiceCode", 3);

@@ -2,6 +2,8 @@
 
 #include "core/Failure.h"
 #include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
+#include "core/SecretMask.h"
 #include "shell/Messages.h"
 
 Procedure::Procedure(QString logName, QWidget* form) : logName_(std::move(logName)), form_(form) {
@@ -20,6 +22,11 @@ Procedure& Procedure::OnFailure(std::function<QString(const AdoError&)> closingT
 
 Procedure& Procedure::Finally(std::function<void()> after) {
   after_ = std::move(after);
+  return *this;
+}
+
+Procedure& Procedure::LogStatement(const QString& prefix) {
+  statementPrefix_ = prefix;
   return *this;
 }
 
@@ -60,5 +67,7 @@ void Procedure::Report(const AdoError& error, bool show) {
     ShowMessage(text, style_, form_->window()->windowTitle(), {}, form_);
   }
   Failure::Log(logName_, inForce, error);
+  if (statementPrefix_ && !error.Statement().isEmpty())
+    gclsOF->WriteLog(*statementPrefix_ + MaskSecrets(error.Statement()), {}, "S");
   if (after_) after_();
 }

@@ -20,6 +20,8 @@ class Procedure {
   Procedure& OnFailure(std::function<QString(const AdoError&)> closingText);
   // Runs after message and log lines: focus, pointer.
   Procedure& Finally(std::function<void()> after);
+  // The log lines are followed by the statement that failed, behind `prefix`; passwords and card data are masked.
+  Procedure& LogStatement(const QString& prefix = {});
   // Style of the failure message; 16 when not set.
   Procedure& Style(int style);
 
@@ -46,5 +48,6 @@ class Procedure {
   QWidget* form_;
   std::function<QString(const AdoError&)> closingText_;
   std::function<void()> after_;
+  std::optional<QString> statementPrefix_;
   int style_ = 16;
 };

@@ -10,11 +10,14 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "platform/controls/FormLayout.h"
 #include "shell/Help.h"
 #include "shell/WindowMemory.h"
 
-Screen::Screen(const QString& formName, const QString& caption, QWidget* parent) : QDialog(parent) {
+Screen::Screen(const QString& formName, const QString& caption, QWidget* parent)
+    : QDialog(parent), rights_(gclsOF->Rights()) {
   setObjectName(formName);
   setWindowTitle(caption);
   setModal(true);

@@ -2,6 +2,8 @@
 
 #include <QDialog>
 
+#include "core/UserRights.h"
+
 // A form that is told when it comes to the front: when it is shown, and again when a modal screen that it opened has
 // closed. Not after a message box.
 class ActivatedForm {
@@ -33,6 +35,9 @@ class Screen : public QDialog, public ActivatedForm {
   void reject() override { Unload(); }
 
  protected:
+  // Those of the function that the screen was opened under; a function borrowed meanwhile is not its own.
+  const FunctionRights rights_;
+
   virtual void Form_Load() {}
   // True cancels the unload.
   virtual bool Form_QueryUnload() { return false; }

@@ -88,7 +88,7 @@ TEST_F(CurrencyBaseTest, NewBaseThatASecondClientDeletedLeavesTheOldOne) {
   OpenIt();
   MoveBase(2);
   Another("DELETE FROM ID_CURRENCY_CODE WHERE CURRENCY_CODE = 'CHF'");
-  Prompt().Expect("***** SQL error on ID_CURRENCY_CODE (Update) *****", Say::Stop);
+  Prompt().Expect("This code does not exist in the table. Please select a valid code to update.", 48);
   Click("cmdUpdate");
   EXPECT_EQ(Bases(), "EUR");
 }

@@ -55,6 +55,24 @@ TEST_F(CurrencyCodesTest, LoadFailureNamesAnotherTableInTheLog) {
   EXPECT_TRUE(Logged("***** SQL error on ID_ISO_CURRENCY_CODE (Select) *****"));
 }
 
+TEST_F(CurrencyCodesTest, TheSymbolsAreThereAlsoWhenTheCurrenciesCannotBeRead) {
+  Another("ALTER TABLE ID_CURRENCY_CODE RENAME TO ID_CURRENCY_CODE_AWAY");
+  Prompt().ExpectStart("An error has occurred loading the form.  Please Notify Support.\n\n", Say::Stop);
+  Prompt().Expect("The Currency Code table has not been initialized.", Say::Stop);
+  Open(Form);
+  EXPECT_EQ(Find<CodeComboBox>("cmbSymbol")->Count(), 5);
+}
+
+TEST_F(CurrencyCodesTest, ADeleteThatFindsNoRowIsToldAsWhatItIs) {
+  OpenIt();
+  SelectRowOf(Table, "USD");
+  Another("DELETE FROM ID_CURRENCY_CODE WHERE CURRENCY_CODE = 'USD'");
+  Prompt().Expect("Are you sure you want to delete this record?", Say::Question, Say::Yes);
+  Prompt().Expect("Nothing was deleted.  Make sure you have a valid record selected.", 48);
+  Click("cmdDelete");
+  EXPECT_FALSE(gclsOF->Connection().InTransaction());
+}
+
 // --- Entry ---
 
 TEST_F(CurrencyCodesTest, CodeIsUpperCasedTypedAndPasted) {
@@ -235,10 +253,9 @@ TEST_F(CurrencyCodesTest, UpdateOfARowThatAnotherClientDeletedIsNoSuccess) {
   SelectRowOf(Table, "USD");
   Type("txtExchangeRate", "2");
   Another("DELETE FROM ID_CURRENCY_CODE WHERE CURRENCY_CODE = 'USD'");
-  Prompt().Expect("***** SQL error on ID_CURRENCY_CODE (Update) *****", Say::Stop);
+  Prompt().Expect("This code does not exist in the table. Please select a valid code to update.", 48);
   Click("cmdUpdate");
   EXPECT_EQ(Focus().toStdString(), "txtCurrencyCode");
-  EXPECT_TRUE(Logged("frmCurrencyCodes.cmdUpdate_Click"));
   EXPECT_FALSE(gclsOF->Connection().InTransaction());
 }
 
@@ -372,15 +389,14 @@ TEST_F(CurrencyCodesTest, EscapeClosesLikeTheButton) {
   EXPECT_EQ(Told("SELECT CURRENCY_COUNTRY FROM ID_CURRENCY_CODE WHERE CURRENCY_CODE = 'EUR'"), "European Union!");
 }
 
-TEST_F(CurrencyCodesTest, CloseThatTheDatabaseRefusesStaysOpen) {
+TEST_F(CurrencyCodesTest, CloseOfARowThatIsGoneStaysOpen) {
   OpenIt();
   Append("txtCountry", "!");
   Another("DELETE FROM ID_CURRENCY_CODE WHERE CURRENCY_CODE = 'EUR'");
   Prompt().Expect(Say::Modified, Say::Question, Say::Yes);
-  Prompt().Expect("***** SQL error on ID_CURRENCY_CODE (Update) *****", Say::Stop);
+  Prompt().Expect("This code does not exist in the table. Please select a valid code to update.", 48);
   Click("cmdClose");
   EXPECT_TRUE(IsOpen());
-  EXPECT_TRUE(Logged("frmCurrencyCodes.cmdClose_Click"));
 }
 
 }  // namespace

@@ -262,7 +262,7 @@ TEST_F(GeneralMessagesTest, UpdateOfADeletedRowIsNoSuccess) {
   OpenIt();
   Append("txtSubject", "!");
   Another("DELETE FROM ID_GENERAL_MESSAGE");
-  Prompt().Expect("***** SQL error on ID_GENERAL_MESSAGE (Update) *****", Say::Stop);
+  Prompt().Expect("This code does not exist in the table. Please select a valid code to update.", 48);
   Click("cmdUpdate");
   EXPECT_EQ(Focus().toStdString(), "txtCode");
 }
@@ -286,11 +286,24 @@ TEST_F(GeneralMessagesTest, CloseTakesTheLibraryThatTheSymbolNames) {
   OpenIt();
   SelectMessage("ALPHA", "A");
   Type("txtLibrarySymbol", "BETA");
+  Type("txtDescription", "A description of its own");
   Prompt().Expect(Say::Modified, Say::Question, Say::Yes).Expect(Say::Updated, Say::Info);
   Click("cmdClose");
   const QString wrote = QString::fromStdString(Wrote());
   EXPECT_TRUE(wrote.contains("SET      LIBRARY_ID = 102, "));
   EXPECT_TRUE(wrote.endsWith("AND LIBRARY_ID = 102"));
+}
+
+// The row of the code and library that were typed is overwritten: its description is the one that may be the same.
+TEST_F(GeneralMessagesTest, CloseMeasuresTheDescriptionAgainstTheRowThatItWrites) {
+  OpenIt();
+  SelectMessage("ALPHA", "A");
+  Type("txtLibrarySymbol", "BETA");
+  Prompt().Expect(Say::Modified, Say::Question, Say::Yes);
+  Prompt().Expect("Description already exists in table.", Say::Stop);
+  Click("cmdClose");
+  EXPECT_TRUE(IsOpen());
+  EXPECT_TRUE(Writing().isEmpty());
 }
 
 TEST_F(GeneralMessagesTest, CloseTestsOfItsOwnKeepTheFormOpen) {

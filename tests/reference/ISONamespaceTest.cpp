@@ -156,6 +156,7 @@ TEST_F(ISONamespaceTest, AddOnASiteOfOneLanguageNamesNoLanguageColumn) {
   Setting("System", "SingleLanguage", "Y");
   ResetModuleState();
   ASSERT_TRUE(gclsOF->LoadApplicationSettings("Tabulon", "", "admin", "secret"));
+  ASSERT_TRUE(gclsOF->ID_ValidateLogin("admin", "secret", "Tabulon"));
   Open(Form);
   Enter("DOI", "Object", "SYSTEM");
   Prompt().Expect(Say::Added, Say::Info);
@@ -219,10 +220,19 @@ TEST_F(ISONamespaceTest, UpdateWritesNationalLiterals) {
   ExpectInStep(Form, Table);
 }
 
-TEST_F(ISONamespaceTest, UpdateThatTheDatabaseCannotDo) {
+TEST_F(ISONamespaceTest, UpdateOfARowThatIsGone) {
   OpenIt();
   Append("txtDescription", "!");
   Another("DELETE FROM ID_ISO_NAMESPACE WHERE ISO_NAMESPACE = 'ISBN'");
+  Prompt().Expect("This code does not exist in the table. Please select a valid code to update.", 48);
+  Click("cmdUpdate");
+  EXPECT_EQ(Focus().toStdString(), "txtNameSpace");
+}
+
+TEST_F(ISONamespaceTest, UpdateThatTheDatabaseFails) {
+  OpenIt();
+  Append("txtDescription", "!");
+  Another("ALTER TABLE ID_ISO_NAMESPACE RENAME TO ID_ISO_NAMESPACE_AWAY");
   Prompt().Expect(
       "An error has occurred while attempting to update the record.\n\nIf the error persists notify support.",
       Say::Stop);

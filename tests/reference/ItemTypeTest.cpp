@@ -243,11 +243,41 @@ TEST_F(ItemTypeTest, UpdateOfADeletedRowIsNoSuccess) {
   SelectRowOf(Table, "ART");
   Append("txtDescription", "!");
   Another("DELETE FROM ID_ITEM_TYPE WHERE ITEM_TYPE = 'ART'");
-  Prompt().Expect("***** SQL error on ID_ITEM_TYPE (Update) *****", Say::Stop);
+  Prompt().Expect("This Item Type does not exist in the system.", 48);
   Click("cmdUpdate");
 }
 
 // --- First tab: Delete ---
+
+TEST_F(ItemTypeTest, ATypeWithoutAChargeCanBeDeletedRightAfterItsAdd) {
+  OpenIt();
+  Type("txtItemType", "NEW");
+  Type("txtDescription", "Something new");
+  Prompt().Expect("Record Added", Say::Info);
+  Click("cmdAdd");
+  Prompt().Expect("Are you sure you wish to Delete this record?", Say::Question, Say::Yes);
+  Prompt().Expect("Record Deleted", Say::Info);
+  Click("cmdDelete");
+  EXPECT_EQ(Count("ID_ITEM_TYPE", "ITEM_TYPE = 'NEW'"), 0);
+}
+
+TEST_F(ItemTypeTest, ATypeWhoseStoredTextEndsInABlankCanBeDeleted) {
+  Another("UPDATE ID_ITEM_TYPE SET ITEM_TYPE_DESC = 'Article ' WHERE ITEM_TYPE = 'ART'");
+  OpenIt();
+  SelectRowOf(Table, "ART");
+  Prompt().Expect("Are you sure you wish to Delete this record?", Say::Question, Say::No);
+  Click("cmdDelete");
+}
+
+TEST_F(ItemTypeTest, ATypeShownWithoutAnEntryIsNoChoice) {
+  OpenIt();
+  SelectTab("sstabItemType", 1);
+  ChooseAt("cmbAccessGroup", 1);
+  Find<CodeComboBox>("cmbAccessItemType")->SetText("Shown, and in no list");
+  Prompt().Expect("Please choose a record to be Added", Say::Stop);
+  Click("cmdAdd");
+  EXPECT_TRUE(Writing().isEmpty());
+}
 
 TEST_F(ItemTypeTest, DeleteTestsTheSelection) {
   OpenIt();

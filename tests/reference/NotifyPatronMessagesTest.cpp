@@ -443,10 +443,29 @@ TEST_F(NotifyPatronMessagesTest, UpdateOfADeletedRowIsNoSuccess) {
   OpenIt();
   Append("txtSubject", "!");
   Another("DELETE FROM ID_PATRON_MESSAGE");
-  Prompt().Expect("***** SQL error on ID_PATRON_MESSAGE (Update) *****", Say::Stop);
+  Prompt().Expect("This code does not exist in the table. Please select a valid code to update.", 48);
   Click("cmdUpdate");
   EXPECT_EQ(Focus().toStdString(), "txtCode");
-  EXPECT_TRUE(Logged("frmNotifyPatronMessages.cmdUpdate_Click"));
+}
+
+TEST_F(NotifyPatronMessagesTest, CodesThatAreInNoListAreWrittenBack) {
+  Another(
+      "UPDATE ID_PATRON_MESSAGE SET PATRON_MESSAGE_RESPONSE = 'Y', PATRON_MESSAGE_EVENT_ID = 1000, "
+      "PATRON_RESPONSE_EVENT_ID = 2000 WHERE LIBRARY_ID = 101 AND PATRON_MESSAGE = 'A'");
+  OpenIt();
+  SelectMessage("ALPHA", "A");
+  EXPECT_EQ(Shown("cmbHoldQueue"), "(None)");
+  Append("txtSubject", "!");
+  Choose("cmbExceptionCode", "Lost");
+  Prompt().Expect(Say::Updated, Say::Info);
+  Click("cmdUpdate");
+  EXPECT_EQ(ColumnOf("PATRON_MESSAGE_EVENT_ID", 101, "A"), "1000");
+  EXPECT_EQ(ColumnOf("PATRON_RESPONSE_EVENT_ID", 101, "A"), "2000");
+  // Chosen by hand, none is none.
+  Choose("cmbHoldQueue", None);
+  Prompt().Expect(Say::Updated, Say::Info);
+  Click("cmdUpdate");
+  EXPECT_TRUE(ColumnOf("PATRON_MESSAGE_EVENT_ID", 101, "A").empty());
 }
 
 TEST_F(NotifyPatronMessagesTest, ConnectionClosedBetweenTwoStatementsIsOpenedAgain) {

@@ -255,10 +255,39 @@ TEST_F(ServiceCodeTest, UpdateOfARowThatAnotherClientChangedIsNoSuccess) {
   SelectRow(Table, 1);
   Choose("cmbItemType", "Book");
   Another("UPDATE ID_SERVICE_CODE SET COUNTRY_REGION = 'UK'");
-  Prompt().Expect("***** SQL error on ID_SERVICE_CODE (Update) *****", Say::Stop);
+  Prompt().Expect("This Service Code does not exist in the system.", 48);
   Click("cmdUpdate");
   EXPECT_EQ(At(Table, 1, 6), "");
-  EXPECT_TRUE(Logged("frmServiceCode.cmdUpdate_Click"));
+}
+
+TEST_F(ServiceCodeTest, AFailedWriteIsLoggedWithItsStatement) {
+  Insert("'S1', NULL, NULL, NULL, NULL, NULL");
+  OpenIt();
+  SelectRow(Table, 1);
+  Choose("cmbItemType", "Book");
+  Another("ALTER TABLE ID_SERVICE_CODE RENAME TO ID_SERVICE_CODE_AWAY");
+  Prompt().Expect("***** SQL error on ID_SERVICE_CODE (Update) *****", Say::Stop);
+  Click("cmdUpdate");
+  EXPECT_TRUE(LogLines().last().contains("* UPDATE ID_SERVICE_CODE SET      ITEM_TYPE = "));
+}
+
+TEST_F(ServiceCodeTest, EachListFailsForItself) {
+  Another("ALTER TABLE ID_DELIV_METHOD RENAME TO ID_DELIV_METHOD_AWAY");
+  Prompt().Expect("***** SQL error on ID_DELIV_METHOD (Select) *****", Say::Stop);
+  Open(Form);
+  EXPECT_GT(Find<CodeComboBox>("cmbItemType")->Count(), 1);
+}
+
+TEST_F(ServiceCodeTest, ClearOfOneTabKeepsTheEditOfTheOther) {
+  Insert("'S1', NULL, NULL, NULL, NULL, NULL");
+  OpenIt();
+  SelectRow(Table, 1);
+  Choose("cmbItemType", "Book");
+  SelectTab("sstabServiceCode", 1);
+  Click("cmdClear");
+  Prompt().Expect("A record has been modified.\nDo you wish to apply the updates before continuing?", 35, Say::Yes);
+  Prompt().Expect("Record Updated", Say::Info);
+  Click("cmdClose");
 }
 
 TEST_F(ServiceCodeTest, UpdateAfterASortWritesTheRecordOnScreen) {
