@@ -239,7 +239,7 @@ std::optional<int> ExceptionCodes::RowToUpdate(const QString& code, const QStrin
 bool ExceptionCodes::IsUnchanged(int row) const {
   return txt8Description->Text() == grd8Table->Text(row, Description) &&
          cboExceptionType->Code() == grd8Table->Text(row, Type) &&
-         Numbers::Val(txt8ServiceCharge->Text()) == Numbers::Val(grd8Table->Text(row, ServiceCharge));
+         Numbers::Same(txt8ServiceCharge->Text(), grd8Table->Text(row, ServiceCharge));
 }
 
 QString ExceptionCodes::UpdateStatement(const QString& code, const QString& description) const {
