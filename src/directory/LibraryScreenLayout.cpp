@@ -73,7 +73,7 @@ QAction* LibraryScreen::AddEntry(QMenu* menu, const QString& name, const QString
   auto* const entry = new QAction(caption, this);
   entry->setObjectName(name);
   menu->insertAction(before, entry);
-  connect(entry, &QAction::triggered, button, &QPushButton::click);
+  Form::OnPress(entry, this, [button] { button->click(); });
   entries_[button] = entry;
   return entry;
 }

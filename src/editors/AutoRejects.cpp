@@ -157,9 +157,8 @@ void AutoRejects::grd4AutoReject_SelChange() {
   {
     const FillingFields filling;
     txt4Code->SetText(grd4AutoReject->Text(row, ListedValue));
-    // An exception that rejects no more is in no list; its description is shown all the same.
-    if (!cmb4RejectType->SetCode(grd4AutoReject->Text(row, ExceptionCode)))
-      cmb4RejectType->SetText(grd4AutoReject->Text(row, RejectType));
+    // An exception that rejects no more is in no list; it is shown and kept all the same.
+    cmb4RejectType->Hold(grd4AutoReject->Text(row, ExceptionCode), grd4AutoReject->Text(row, RejectType));
   }
   record().Settled();
   txt4Code->setFocus();
@@ -172,7 +171,6 @@ void AutoRejects::cmb4RejectType_Click() {
 }
 
 bool AutoRejects::RejectTypeIsThatOf(int row) const {
-  if (cmb4RejectType->Index() < 0) return cmb4RejectType->Text() == grd4AutoReject->Text(row, RejectType);
   return cmb4RejectType->Code() == grd4AutoReject->Text(row, ExceptionCode);
 }
 
@@ -190,7 +188,7 @@ bool AutoRejects::AutoRejects_Add() {
       Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt4Code);
       return;
     }
-    if (cmb4RejectType->IsEmptyOrNone()) {
+    if (cmb4RejectType->Code().isEmpty()) {
       Refuse("Please choose a Reject Type", MessageStyle::Warning, cmb4RejectType);
       return;
     }
@@ -245,7 +243,7 @@ bool AutoRejects::IsUpdate(int row) {
   if (cmb4RejectType->IndexOfCode(grd4AutoReject->Text(row, ExceptionCode)) < 0)
     return Refuse("This record does not exists.", MessageStyle::Warning, txt4Code);
   // A row that rejects with nothing would show in no list.
-  if (cmb4RejectType->IsEmptyOrNone())
+  if (cmb4RejectType->Code().isEmpty())
     return Refuse("Please choose a Reject Type", MessageStyle::Warning, cmb4RejectType);
   return true;
 }

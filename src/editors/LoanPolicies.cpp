@@ -1,5 +1,7 @@
 #include "editors/LoanPolicies.h"
 
+#include <QScopeGuard>
+
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
@@ -21,7 +23,7 @@ const QString DueDate = "Due Date";
 
 }  // namespace
 
-LoanPolicies::LoanPolicies(frmLoans& form) : QWidget(&form), form_(form) {
+LoanPolicies::LoanPolicies(frmLoans& form) : LoansPage(&form), form_(form) {
   fields_ = {{"LOAN_CODE_DESC", txt6aDescription, Description},
              {"LON_PERIOD", txt6LoanPeriod, LoanPeriod, "Please enter digits for Loan Period."},
              {"REN_PERIOD", txt6Renewal, Renewal, "Please enter digits for Renewal."},
@@ -108,6 +110,10 @@ void LoanPolicies::Load() {
   for (const PolicyField& field : fields_)
     fieldNames_.append(field.box == txt6aDescription ? field.column + suffix : field.column);
   records_.clear();
+  // The rows that came before a failure have their records too.
+  const auto number = qScopeGuard([this] {
+    for (int row = 1; row < grd6aTable->Rows(); ++row) grd6aTable->SetRowData(row, row - 1);
+  });
   FillGrid(*grd6aTable, "SELECT   * FROM " + Sql::Table("ID_LOAN_CODE") + " ORDER BY LOAN_CODE_DESC",
            "***** SQL error on OSTANA.ID_LOAN_CODE (Select) *****", [this](Recordset& rows) {
              QStringList record{Value(rows, CodeColumn)};
@@ -119,7 +125,6 @@ void LoanPolicies::Load() {
              records_.push_back(record);
              return cells;
            });
-  for (int row = 1; row < grd6aTable->Rows(); ++row) grd6aTable->SetRowData(row, row - 1);
 }
 
 void LoanPolicies::LoadRenewalDate() {
@@ -135,7 +140,7 @@ void LoanPolicies::WriteRenewalDate() {
   if (gclsOF->LastError().isEmpty())
     loadedFromDueDate_ = RenewsFromDueDate();
   else
-    form_.Tell(gclsOF->LastError(), MessageStyle::Stop);
+    Tell(this, gclsOF->LastError(), MessageStyle::Stop);
 }
 
 const QStringList& LoanPolicies::RecordOf(int row) const {
@@ -149,30 +154,35 @@ int LoanPolicies::RowOfCode(const QString& code) const {
 }
 
 void LoanPolicies::Enter() {
-  if (grd6aTable->Rows() > 1) grd6aTable->SetRow(1);
+  if (grd6aTable->Rows() > 1)
+    grd6aTable->SetRow(1);
+  else
+    Clear();
   txt6LoanCode->setFocus();
 }
 
 void LoanPolicies::grd6aTable_SelChange() {
   const int row = grd6aTable->Row();
   if (gbSkipGridEvents || row == 0) return;
-  const FillingFields filling;
-  const QStringList& record = RecordOf(row);
-  txt6LoanCode->SetText(record.front());
-  for (size_t at = 0; at < fields_.size(); ++at) {
-    fields_[at].box->SetText(record.at(static_cast<int>(at) + 1));
-    fields_[at].box->home(false);  // a long text shows its beginning
+  {
+    const Record::Filling filling(record());
+    const QStringList& stored = RecordOf(row);
+    txt6LoanCode->SetText(stored.front());
+    for (size_t at = 0; at < fields_.size(); ++at) {
+      fields_[at].box->SetText(stored.at(static_cast<int>(at) + 1));
+      fields_[at].box->home(false);  // a long text shows its beginning
+    }
   }
-  form_.SetRecordModified(RenewsFromDueDate() != loadedFromDueDate_);
+  record().Shown();
+  record().Compared(RenewsFromDueDate() != loadedFromDueDate_);
 }
 
 void LoanPolicies::MarkChanged() {
   gstrErrorMessage.clear();
-  if (gbFillingFields) return;
   const int row = grd6aTable->Row();
   QStringList shown{txt6LoanCode->Text()};
   for (const PolicyField& field : fields_) shown.append(field.box->Text());
-  form_.SetRecordModified(row == 0 || shown != RecordOf(row) || RenewsFromDueDate() != loadedFromDueDate_);
+  record().Compared(row == 0 || shown != RecordOf(row) || RenewsFromDueDate() != loadedFromDueDate_);
 }
 
 // --- Values ---
@@ -191,7 +201,7 @@ QString LoanPolicies::TypedValue(const PolicyField& field) const {
 }
 
 bool LoanPolicies::HasDigits(const PolicyField& field) {
-  if (!Numbers::IsNumeric(field.box->Text())) return form_.Refuse(field.refusal, MessageStyle::Warning, txt6LoanCode);
+  if (!Numbers::IsNumeric(field.box->Text())) return Refuse(this, field.refusal, MessageStyle::Warning, txt6LoanCode);
   field.box->TrimInPlace();
   return true;
 }
@@ -211,11 +221,11 @@ QString LoanPolicies::AsSql(const PolicyField& field, const QString& emptyText) 
 
 bool LoanPolicies::Add() {
   const QString code = txt6LoanCode->Trimmed();
-  if (code.isEmpty()) return form_.Refuse("Please enter a Valid  code.", MessageStyle::Warning, txt6LoanCode);
+  if (code.isEmpty()) return Refuse(this, "Please enter a Valid  code.", MessageStyle::Warning, txt6LoanCode);
   // The loan period is the only one that must be there.
   if (!HasDigits(fields_[1]) || !PeriodsAreDigits()) return false;
   if (RowOfCode(code) > 0) {
-    form_.Tell("This record already exists", MessageStyle::Warning);
+    Tell(this, "This record already exists", MessageStyle::Warning);
     Clear();
     return false;
   }
@@ -230,31 +240,32 @@ bool LoanPolicies::Add() {
                        "***** SQL error on OSTANA.ID_LOAN_CODE (INSERT INTO) *****");
   form_.LoadDataInGrid();
   grd6aTable->SetRow(RowOfCode(code));
-  form_.Tell("Record Added", MessageStyle::Information);
+  Tell(this, "Record Added", MessageStyle::Information);
   return true;
 }
 
 bool LoanPolicies::Update() {
   const QStringList typed = Typed();
   const int row = RowOfCode(typed.front());
-  if (row == 0) return form_.Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt6LoanCode);
+  if (row == 0) return Refuse(this, Texts::NoSuchRow, MessageStyle::Stop, txt6LoanCode);
   // The setting is written at once, whatever becomes of the record.
   WriteRenewalDate();
   if (typed == RecordOf(row)) {
-    form_.SetRecordModified(false);
-    return form_.Refuse("Nothing has been changed", MessageStyle::Warning, txt6LoanCode);
+    record().Settled();
+    return Refuse(this, "Nothing has been changed", MessageStyle::Warning, txt6LoanCode);
   }
   if (grd6aTable->Row() == 0)
-    return form_.Refuse("Please select a record to Update.", MessageStyle::Stop, txt6LoanCode);
+    return Refuse(this, "Please select a record to Update.", MessageStyle::Stop, txt6LoanCode);
   if (!PeriodsAreDigits()) return false;
   QStringList set;
   for (const PolicyField& field : fields_)
     set.append(fieldNames_.at(set.size()) + " = " + AsSql(field, field.box == txt6aDescription ? "''" : "NULL"));
-  ExecuteInTransaction("UPDATE " + Sql::Table("ID_LOAN_CODE") + " SET " + set.join(", ") + " WHERE " + CodeColumn +
-                           " = " + Sql::National(typed.front()),
-                       "***** SQL error on OSTANA.ID_LOAN_CODE (UPDATE) *****");
+  const qint64 updated = ExecuteInTransaction("UPDATE " + Sql::Table("ID_LOAN_CODE") + " SET " + set.join(", ") +
+                                                  " WHERE " + CodeColumn + " = " + Sql::National(typed.front()),
+                                              "***** SQL error on OSTANA.ID_LOAN_CODE (UPDATE) *****");
+  if (updated == 0) return Refuse(this, Texts::NoSuchRow, MessageStyle::Stop, txt6LoanCode);
   WriteRow(row);
-  form_.Tell("Record Updated", MessageStyle::Information);
+  Tell(this, "Record Updated", MessageStyle::Information);
   return true;
 }
 
@@ -264,28 +275,31 @@ void LoanPolicies::WriteRow(int row) {
   for (size_t at = 0; at < fields_.size(); ++at)
     if (fields_[at].gridColumn > 0)
       grd6aTable->SetText(row, fields_[at].gridColumn, record.at(static_cast<int>(at) + 1));
-  const FillingFields filling;
+  const Record::Filling filling(this->record());
   txt6aDescription->SetText(record.at(1));
 }
 
 bool LoanPolicies::Delete() {
   const QString code = txt6LoanCode->Trimmed();
-  if (code.isEmpty()) return form_.Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt6LoanCode);
-  if (RowOfCode(code) == 0)
-    return form_.Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt6LoanCode);
-  if (form_.Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return false;
-  ExecuteInTransaction(
+  if (code.isEmpty()) return Refuse(this, "Please choose a record to be Deleted", MessageStyle::Warning, txt6LoanCode);
+  if (RowOfCode(code) == 0) return Refuse(this, Texts::NoSuchRow, MessageStyle::Stop, txt6LoanCode);
+  if (!Confirm(this, Texts::DeleteQuestion)) return false;
+  const qint64 deleted = ExecuteInTransaction(
       "DELETE FROM " + Sql::Table("ID_LOAN_CODE") + " WHERE " + CodeColumn + " = " + Sql::National(code),
       "***** SQL error on OSTANA.ID_LOAN_CODE (DELETE) *****");
+  if (deleted == 0) return Refuse(this, Texts::NoSuchRow, MessageStyle::Stop, txt6LoanCode);
   form_.LoadDataInGrid();
-  form_.Tell("Record Deleted", MessageStyle::Information);
+  Tell(this, "Record Deleted", MessageStyle::Information);
   return true;
 }
 
 void LoanPolicies::Clear() {
-  const FillingFields filling;
-  txt6LoanCode->SetText({});
-  for (const PolicyField& field : fields_) field.box->SetText({});
+  {
+    const Record::Filling filling(record());
+    txt6LoanCode->SetText({});
+    for (const PolicyField& field : fields_) field.box->SetText({});
+  }
+  record().Gone();
   grd6aTable->SetRowQuietly(0);
   txt6LoanCode->setFocus();
 }

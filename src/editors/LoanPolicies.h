@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QWidget>
 #include <vector>
 
+#include "editors/LoansPage.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/OptionGroup.h"
@@ -12,19 +12,18 @@ class frmLoans;
 
 // Sub-tab "Loan Policy": loan and renewal period, the periods of the overdue notices and the texts of all notices.
 // Below it stands the one setting that this program writes back: from which date a renewal counts.
-class LoanPolicies : public QWidget {
+class LoanPolicies : public LoansPage {
   Q_OBJECT
 
  public:
   explicit LoanPolicies(frmLoans& form);
 
-  void Load();
-  // The first row, focus on the code.
-  void Enter();
-  bool Add();
-  bool Update();
-  bool Delete();
-  void Clear();
+  void Load() override;
+  void Enter() override;
+  bool Add() override;
+  bool Update() override;
+  bool Delete() override;
+  void Clear() override;
 
  private:
   enum Column { Marker, Description, LoanPeriod, Renewal, Overdue1, Overdue2, Overdue3, FinalOverdue, Columns };

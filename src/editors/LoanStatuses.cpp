@@ -33,7 +33,7 @@ QString Charge(const QString& stored) {
 
 }  // namespace
 
-LoanStatuses::LoanStatuses(frmLoans& form) : QWidget(&form), form_(form) {
+LoanStatuses::LoanStatuses(frmLoans& form) : LoansPage(&form), form_(form) {
   BuildControls();
   ConnectControls();
 }
@@ -85,6 +85,7 @@ bool LoanStatuses::FormatCharge() {
 }
 
 void LoanStatuses::Load() {
+  const QString code = grd6bTable->Row() > 0 ? grd6bTable->Text(grd6bTable->Row(), Code) : QString();
   FillGrid(*grd6bTable, "SELECT   * FROM " + Sql::Table("ID_LOAN_STATUS") + " ORDER BY LOAN_STATUS",
            "***** SQL error on OSTANA.ID_LOAN_STATUS (Select) *****", [](Recordset& rows) {
              return QStringList{
@@ -92,26 +93,36 @@ void LoanStatuses::Load() {
                  Charge(Value(rows, "LOAN_CHARGE")), Value(rows, "LOAN_CHARGE_FIXED"),
                  Value(rows, "LOAN_STATUS_COMP"),    Value(rows, "LOAN_STATUS_DISP")};
            });
+  grd6bTable->SetRowQuietly(grd6bTable->FindRow(code, Code));
+}
+
+void LoanStatuses::Enter() {
+  if (grd6bTable->Row() > 0)
+    ShowRow(grd6bTable->Row());
+  else
+    Clear();
+  txt6bCode->setFocus();
 }
 
 void LoanStatuses::grd6bTable_SelChange() {
-  const int row = grd6bTable->Row();
-  if (gbSkipGridEvents || row == 0) return;
-  const FillingFields filling;
+  if (!gbSkipGridEvents && grd6bTable->Row() > 0) ShowRow(grd6bTable->Row());
+}
+
+void LoanStatuses::ShowRow(int row) {
+  const Record::Filling filling(record());
   txt6bCode->SetText(grd6bTable->Text(row, Code));
   txt6bDescription->SetText(grd6bTable->Text(row, Description));
   txt6bLoanCharge->SetText(grd6bTable->Text(row, LoanCharge));
   ShowLetter(*opt6bFixedCharge, grd6bTable->Text(row, FixedCharge));
   ShowLetter(*opt6LoanComplete, grd6bTable->Text(row, Complete));
   ShowLetter(*opt6UserDisplay, grd6bTable->Text(row, Display));
-  form_.SetRecordModified(false);
+  record().Shown();
 }
 
 void LoanStatuses::MarkChanged() {
   gstrErrorMessage.clear();
-  if (gbFillingFields) return;
   const int row = grd6bTable->Row();
-  form_.SetRecordModified(row == 0 || txt6bCode->Text() != grd6bTable->Text(row, Code) || !RowIsUnchanged(row));
+  record().Compared(row == 0 || txt6bCode->Text() != grd6bTable->Text(row, Code) || !RowIsUnchanged(row));
 }
 
 bool LoanStatuses::RowIsUnchanged(int row) const {
@@ -129,13 +140,14 @@ QString LoanStatuses::ChargeAsSql() const {
 
 bool LoanStatuses::Add() {
   if (txt6bCode->Trimmed().isEmpty())
-    return form_.Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt6bCode);
+    return Refuse(this, "Please enter a Valid Code.", MessageStyle::Warning, txt6bCode);
+  const Record::Filling trimming(record());
   const QString code = txt6bCode->TrimUpperInPlace();
   const QString description = Sql::NationalOr(txt6bDescription->TrimInPlace(), "NULL");
   if (Numbers::Val(txt6bLoanCharge->Text()) > HighestCharge)
-    return form_.Refuse("Maximum Loan Charge of 999.99 has been exceeded.", MessageStyle::Stop, txt6bLoanCharge);
+    return Refuse(this, "Maximum Loan Charge of 999.99 has been exceeded.", MessageStyle::Stop, txt6bLoanCharge);
   if (grd6bTable->FindRow(code, Code) > 0) {
-    form_.Tell("This record already exists", MessageStyle::Warning);
+    Tell(this, "This record already exists", MessageStyle::Warning);
     Clear();
     return false;
   }
@@ -151,32 +163,33 @@ bool LoanStatuses::Add() {
                        "***** SQL error on OSTANA.ID_LOAN_STATUS (INSERT INTO) *****");
   form_.LoadDataInGrid();
   grd6bTable->SetRow(grd6bTable->FindRow(code, Code));
-  form_.Tell("Record Added", MessageStyle::Information);
+  Tell(this, "Record Added", MessageStyle::Information);
   return true;
 }
 
 bool LoanStatuses::Update() {
+  const Record::Filling trimming(record());
   const QString code = txt6bCode->TrimUpperInPlace();
   const QString description = txt6bDescription->TrimInPlace();
   const int row = grd6bTable->FindRow(code, Code);
   if (row > 0 && RowIsUnchanged(row)) {
-    form_.SetRecordModified(false);
-    return form_.Refuse("Nothing has been changed", MessageStyle::Warning, txt6bDescription);
+    record().Settled();
+    return Refuse(this, "Nothing has been changed", MessageStyle::Warning, txt6bDescription);
   }
-  if (row == 0)
-    return form_.Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.",
-                        MessageStyle::Stop, txt6bCode);
+  if (row == 0) return Refuse(this, Texts::NoSuchCode, MessageStyle::Stop, txt6bCode);
   const QString charge = ChargeAsSql();
   const QString charges =
       charge.isEmpty() ? QString(" LOAN_CHARGE = NULL, LOAN_CHARGE_FIXED = NULL ")
                        : " LOAN_CHARGE = " + charge + ", LOAN_CHARGE_FIXED = " + Sql::National(FixedLetter()) + " ";
-  ExecuteInTransaction("UPDATE " + Sql::Table("ID_LOAN_STATUS") + " SET" + " LOAN_STATUS_DESC" +
-                           gclsOF->LanguageSuffix() + " = " + Sql::NationalOr(description, "NULL") +
-                           ", LOAN_STATUS_COMP = " + FlagAsSql(*opt6LoanComplete) + ", LOAN_STATUS_DISP = " +
-                           FlagAsSql(*opt6UserDisplay) + "," + charges + "WHERE LOAN_STATUS = " + Sql::National(code),
-                       "***** SQL error on OSTANA.ID_LOAN_STATUS (UPDATE) *****");
+  const qint64 updated = ExecuteInTransaction(
+      "UPDATE " + Sql::Table("ID_LOAN_STATUS") + " SET" + " LOAN_STATUS_DESC" + gclsOF->LanguageSuffix() + " = " +
+          Sql::NationalOr(description, "NULL") + ", LOAN_STATUS_COMP = " + FlagAsSql(*opt6LoanComplete) +
+          ", LOAN_STATUS_DISP = " + FlagAsSql(*opt6UserDisplay) + "," + charges +
+          "WHERE LOAN_STATUS = " + Sql::National(code),
+      "***** SQL error on OSTANA.ID_LOAN_STATUS (UPDATE) *****");
+  if (updated == 0) return Refuse(this, Texts::NoSuchCode, MessageStyle::Stop, txt6bCode);
   WriteRow(row);
-  form_.Tell("Record Updated", MessageStyle::Information);
+  Tell(this, "Record Updated", MessageStyle::Information);
   txt6bDescription->setFocus();
   return true;
 }
@@ -193,22 +206,27 @@ void LoanStatuses::WriteRow(int row) {
 }
 
 bool LoanStatuses::Delete() {
+  const Record::Filling trimming(record());
   const QString code = txt6bCode->TrimUpperInPlace();
-  if (code.isEmpty()) return form_.Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt6bCode);
-  if (grd6bTable->FindRow(code, Code) == 0)
-    return form_.Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt6bCode);
-  if (form_.Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return false;
-  ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_LOAN_STATUS") + " WHERE LOAN_STATUS = " + Sql::National(code),
-                       "***** SQL error on OSTANA.ID_LOAN_STATUS (DELETE) *****");
+  if (code.isEmpty()) return Refuse(this, "Please choose a record to be Deleted", MessageStyle::Warning, txt6bCode);
+  if (grd6bTable->FindRow(code, Code) == 0) return Refuse(this, Texts::NoSuchRow, MessageStyle::Stop, txt6bCode);
+  if (!Confirm(this, Texts::DeleteQuestion)) return false;
+  const qint64 deleted = ExecuteInTransaction(
+      "DELETE FROM " + Sql::Table("ID_LOAN_STATUS") + " WHERE LOAN_STATUS = " + Sql::National(code),
+      "***** SQL error on OSTANA.ID_LOAN_STATUS (DELETE) *****");
+  if (deleted == 0) return Refuse(this, Texts::NoSuchRow, MessageStyle::Stop, txt6bCode);
   form_.LoadDataInGrid();
-  form_.Tell("Record Deleted", MessageStyle::Information);
+  Tell(this, "Record Deleted", MessageStyle::Information);
   return true;
 }
 
 void LoanStatuses::Clear() {
-  const FillingFields filling;
-  for (TextBox* box : {txt6bCode, txt6bDescription, txt6bLoanCharge}) box->SetText({});
-  for (OptionGroup* pair : {opt6LoanComplete, opt6UserDisplay, opt6bFixedCharge}) pair->Unset();
+  {
+    const Record::Filling filling(record());
+    for (TextBox* box : {txt6bCode, txt6bDescription, txt6bLoanCharge}) box->SetText({});
+    for (OptionGroup* pair : {opt6LoanComplete, opt6UserDisplay, opt6bFixedCharge}) pair->Unset();
+  }
+  record().Gone();
   grd6bTable->SetRowQuietly(0);
   txt6bCode->setFocus();
 }

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <QLabel>
-#include <QWidget>
 
+#include "editors/LoansPage.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/OptionGroup.h"
@@ -12,19 +12,19 @@ class frmLoans;
 
 // Sub-tab "Loan Status": whether a status ends a loan, whether patrons see it, and what it costs. The charge shows only
 // where the web services are in use; hidden, it is kept as it is.
-class LoanStatuses : public QWidget {
+class LoanStatuses : public LoansPage {
   Q_OBJECT
 
  public:
   explicit LoanStatuses(frmLoans& form);
 
   void ShowCharge(bool shown);
-  void Load();
-  void Enter() { txt6bCode->setFocus(); }
-  bool Add();
-  bool Update();
-  bool Delete();
-  void Clear();
+  void Load() override;
+  void Enter() override;
+  bool Add() override;
+  bool Update() override;
+  bool Delete() override;
+  void Clear() override;
 
  private:
   enum Column { Marker, Code, Description, LoanCharge, FixedCharge, Complete, Display, Columns };
@@ -32,6 +32,7 @@ class LoanStatuses : public QWidget {
   void BuildControls();
   void ConnectControls();
   void grd6bTable_SelChange();
+  void ShowRow(int row);
   void MarkChanged();
   bool FormatCharge();
   bool RowIsUnchanged(int row) const;

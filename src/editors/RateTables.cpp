@@ -2,6 +2,7 @@
 #include "editors/RateTables.h"
 
 #include <QGridLayout>
+#include <QScopeGuard>
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
@@ -166,10 +167,19 @@ void RateTables::Reset() {
   cmb7RateTable->AddNone("(none)");
   for (const RateTable& rate : RateTable::All()) cmb7RateTable->Add(rate.caption);
   cmb7RateTable->SetIndex(0);
-  for (CodeComboBox* list : {cmb7aBillingRate, cmb7aDeliveryMethod, cmb7RequestingLibrary, cmb7Alias}) list->Clear();
+  EmptyLists();
+  EmptyInputs();
+  ConfigureGrid();
+}
+
+void RateTables::EmptyInputs() {
+  const FillingFields filling;
   Clear();
   txt7Surcharge->SetText(Numbers::Format(0, MoneyPattern));
-  ConfigureGrid();
+}
+
+void RateTables::EmptyLists() {
+  for (CodeComboBox* list : {cmb7aBillingRate, cmb7aDeliveryMethod, cmb7RequestingLibrary, cmb7Alias}) list->Clear();
 }
 
 // --- Choosing a rate table ---
@@ -178,6 +188,8 @@ void RateTables::cmb7RateTable_click() {
   Procedure procedure("frmTabulon.cmb7RateTable_click", this);
   procedure.Run([this] {
     grd7Table->Clear();
+    // The numbers of the table before are none of this one's.
+    EmptyInputs();
     shell().buttonState();
     LoadRateTable();
     if (!Rate()) return;
@@ -248,6 +260,10 @@ void RateTables::LoadGrid() {
   const SkipGridEvents skip;
   grd7Table->Clear();
   rowCodes_.clear();
+  // A list that cannot be filled must not keep the codes of another rate table.
+  EmptyLists();
+  // The rows that came before a failure have their codes too.
+  const auto number = qScopeGuard([this] { NumberRows(); });
   const RateTable* const rate = Rate();
   if (!rate) return;
   switch (rate->kind) {
@@ -286,7 +302,6 @@ void RateTables::LoadTypical(const RateTable& rate) {
     }
     return cells;
   });
-  NumberRows();
 }
 
 void RateTables::LoadAlias(const RateTable& rate) {
@@ -311,7 +326,6 @@ void RateTables::LoadAlias(const RateTable& rate) {
     cells[NewBillingRate - 1] = TextOf(*cmb7Alias, codes.billingRate, codes.billingRate);
     return cells;
   });
-  NumberRows();
 }
 
 void RateTables::NumberRows() {

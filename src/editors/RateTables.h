@@ -50,6 +50,9 @@ class RateTables : public TabPage {
   void BuildControls();
   void ConnectControls();
   void ShowInputs();
+  // As on a new choice: no number, no code, no surcharge.
+  void EmptyInputs();
+  void EmptyLists();
   void Show(QWidget* field, bool shown);
   void Rename(QLabel* label, const QString& caption);
 
@@ -97,6 +100,11 @@ class RateTables : public TabPage {
   void DeleteRow(const RateTable& rate, const QString& statement);
   QStringList ValuesAsSql(const RateTable& rate, bool keepsComma) const;
   int RowOfTypical() const;
+  int RowOfTypical(const QString& billingRate, const QString& key) const;
+  // After a write: the table is read again and the record with these keys is current.
+  void ReloadTypical(const QString& billingRate, const QString& key);
+  // The keys of an alias as the grid shows them.
+  std::vector<std::pair<int, QString>> AliasCells() const;
   int RowOfAlias() const;
   bool RowIsUnchanged(const RateTable& rate, int row) const;
   // The database's "12.50" in the locale's writing; NULL stays empty.

@@ -187,10 +187,18 @@ bool RateTables::CopyrightDelete() {
 
 int RateTables::RowOfTypical() const {
   if (NothingChosen(*cmb7aBillingRate) || NothingChosen(*cmb7aDeliveryMethod)) return 0;
+  return RowOfTypical(cmb7aBillingRate->Code(), cmb7aDeliveryMethod->Code());
+}
+
+int RateTables::RowOfTypical(const QString& billingRate, const QString& key) const {
   for (int row = 1; row < grd7Table->Rows(); ++row)
-    if (CodesOf(row).billingRate == cmb7aBillingRate->Code() && CodesOf(row).key == cmb7aDeliveryMethod->Code())
-      return row;
+    if (CodesOf(row).billingRate == billingRate && CodesOf(row).key == key) return row;
   return 0;
+}
+
+void RateTables::ReloadTypical(const QString& billingRate, const QString& key) {
+  Invoicing_RateTable_Typical();
+  grd7Table->SetRow(RowOfTypical(billingRate, key));
 }
 
 bool RateTables::RowIsUnchanged(const RateTable& rate, int row) const {
@@ -217,10 +225,10 @@ bool RateTables::TypicalAdd(const RateTable& rate) {
     if (rate.clearsOnDuplicate) Clear();
     return false;
   }
-  const QString insert =
-      RateSql::Insert(rate, cmb7aBillingRate->Code(), cmb7aDeliveryMethod->Code(), ValuesAsSql(rate, rate.keepsComma));
-  ExecuteInTransaction(insert, RateSql::FailureLine(rate.table, "INSERT INTO"));
-  Invoicing_RateTable_Typical();
+  const QString billingRate = cmb7aBillingRate->Code(), key = cmb7aDeliveryMethod->Code();
+  ExecuteInTransaction(RateSql::Insert(rate, billingRate, key, ValuesAsSql(rate, rate.keepsComma)),
+                       RateSql::FailureLine(rate.table, "INSERT INTO"));
+  ReloadTypical(billingRate, key);
   Tell("Record Added", MessageStyle::Information);
   return true;
 }
@@ -229,10 +237,10 @@ bool RateTables::TypicalUpdate(const RateTable& rate) {
   const int row = RowOfTypical();
   if (row > 0 && RowIsUnchanged(rate, row)) return TellUnchanged(txt7aFlatFee);
   if (row == 0) return RefuseUnknownCode(cmb7aBillingRate);
-  const QString update =
-      RateSql::Update(rate, cmb7aBillingRate->Code(), cmb7aDeliveryMethod->Code(), ValuesAsSql(rate, false));
-  ExecuteInTransaction(update, RateSql::FailureLine(rate.table, "UPDATE"));
-  Invoicing_RateTable_Typical();
+  const QString billingRate = cmb7aBillingRate->Code(), key = cmb7aDeliveryMethod->Code();
+  ExecuteInTransaction(RateSql::Update(rate, billingRate, key, ValuesAsSql(rate, false)),
+                       RateSql::FailureLine(rate.table, "UPDATE"));
+  ReloadTypical(billingRate, key);
   Tell("Record Updated", MessageStyle::Information);
   return true;
 }
@@ -258,10 +266,14 @@ bool RateTables::AliasIsChosen() {
 }
 
 // A unit that is not chosen is an empty cell.
+std::vector<std::pair<int, QString>> RateTables::AliasCells() const {
+  return {{SupplyingLibrary, cmb7aBillingRate->Text()},
+          {RequestingLibrary, cmb7RequestingLibrary->Text()},
+          {SupplyingUnit, cmb7aDeliveryMethod->Code()}};
+}
+
 int RateTables::RowOfAlias() const {
-  return grd7Table->FindRow({{SupplyingLibrary, cmb7aBillingRate->Text()},
-                             {RequestingLibrary, cmb7RequestingLibrary->Text()},
-                             {SupplyingUnit, cmb7aDeliveryMethod->Code()}});
+  return grd7Table->FindRow(AliasCells());
 }
 
 // The libraries may have gone since the lists were filled.
@@ -279,13 +291,11 @@ bool RateTables::AliasAdd() {
   if (RowOfAlias() > 0) return RefuseDuplicate(cmb7aBillingRate);
   RateSql::AliasKey key;
   if (!FindAliasKey(key)) return false;
-  const QString supplying = cmb7aBillingRate->Text();
-  const QString requesting = cmb7RequestingLibrary->Text();
+  const auto cells = AliasCells();
   ExecuteInTransaction(RateSql::AliasInsert(key, cmb7Alias->Code()),
                        RateSql::FailureLine("ID_RATE_ALIAS", "INSERT INTO"));
   LoadDataInGrid();
-  grd7Table->SetRow(
-      grd7Table->FindRow({{SupplyingLibrary, supplying}, {RequestingLibrary, requesting}, {SupplyingUnit, key.unit}}));
+  grd7Table->SetRow(grd7Table->FindRow(cells));
   Tell("Record Added", MessageStyle::Information);
   return true;
 }
@@ -297,8 +307,10 @@ bool RateTables::AliasUpdate() {
   if (row == 0) return RefuseUnknownCode(cmb7aBillingRate);
   RateSql::AliasKey key;
   if (!FindAliasKey(key)) return false;
+  const auto cells = AliasCells();
   ExecuteInTransaction(RateSql::AliasUpdate(key, cmb7Alias->Code()), RateSql::FailureLine("ID_RATE_ALIAS", "UPDATE"));
   Invoicing_RateTable_Alias();
+  grd7Table->SetRow(grd7Table->FindRow(cells));
   Tell("Record Updated", MessageStyle::Information);
   return true;
 }

@@ -99,7 +99,9 @@ void RequestType::LoadCustomers() {
   });
   for (int row = 1; row < grd9RequestType->Rows(); ++row) {
     const QString customer = grd9RequestType->Text(row, CustomerCode);
-    if (!customer.isEmpty()) grd9RequestType->SetText(row, CustomerID, cmb9CustomerID->DescriptionOf(customer));
+    const bool known = cmb9CustomerID->IndexOfCode(customer) >= 0;
+    if (!customer.isEmpty())
+      grd9RequestType->SetText(row, CustomerID, known ? cmb9CustomerID->DescriptionOf(customer) : customer);
   }
 }
 
@@ -114,7 +116,10 @@ void RequestType::grd9RequestType_SelChange() {
     txt9LibrarySymbol->SetText(grd9RequestType->Text(row, Symbol));
     txt9Description->SetText(grd9RequestType->Text(row, Description));
     const QString customer = grd9RequestType->Text(row, CustomerCode);
-    if (customer.isEmpty() || !cmb9CustomerID->SetCode(customer)) cmb9CustomerID->SetIndex(0);
+    if (customer.isEmpty())
+      cmb9CustomerID->SetIndex(0);
+    else
+      cmb9CustomerID->Hold(customer);
     cmb9InvoiceFlag->SetIndex(grd9RequestType->Text(row, InvoiceFlag) == "N" ? 1 : 0);
   }
   record().Settled();
@@ -180,10 +185,12 @@ void RequestType::FindRequestLibraryId() {
   glngRequestLibraryId_ = LibrarySymbol::IdOf(*txt9LibrarySymbol);
 }
 
-// The customer id whose description is on show, read anew; of equal descriptions the one that was chosen.
+// The customer id whose description is on show, read anew; of equal descriptions the one that was chosen. An id that
+// the list does not know is the row's own and stays.
 QString RequestType::StoredCustomer() const {
   QString found;
   const QString chosen = cmb9CustomerID->Code();
+  if (cmb9CustomerID->HoldsUnknown()) found = chosen;
   ForEachRow(CustomersStatement(), CustomersFailed, [&](Recordset& customers) {
     const QString id = Value(customers, "CUSTOMER_ID");
     if (!chosen.isEmpty() && CustomerDescription(customers) == cmb9CustomerID->Text() &&

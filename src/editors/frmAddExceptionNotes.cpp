@@ -76,33 +76,43 @@ void frmAddExceptionNotes::ConnectControls() {
 }
 
 void frmAddExceptionNotes::Form_Load() {
-  // A right that is missing on the main screen is missing here.
-  cmdAdd->setEnabled(gclsOF->CanAdd());
-  cmdDelete->setEnabled(gclsOF->CanDelete());
-  for (QPushButton* button : {cmdUpdate, cmdUp, cmdDown}) button->setEnabled(gclsOF->CanUpdate());
+  rights_ = gclsOF->Rights();
   txtExceptionCode->SetText(gstrNotesExceptionCode);
   gbSaveExceptionNotes = false;
   PopulateFields();
+  ShowButtons();
   txtExceptionNote->setFocus();
 }
 
 void frmAddExceptionNotes::PopulateFields() {
   Procedure procedure("frmAddExceptionNotes.PopulateFields", this);
   procedure.Run([this] {
+    Record::Reading reading(list_);
+    reading.Replaces();
     grdExceptionNote->Clear();
     ForEachRow(
         "SELECT EXCEPTION_NOTE FROM " + Sql::Table("ID_EXCEPTION_NOTE") + WherePair() + " ORDER BY EXCEPTION_NOTE_SEQ ",
         "***** SQL ERROR ON ID_EXCEPTION_NOTE (SELECT) *****",
         [this](Recordset& notes) { grdExceptionNote->AddRow({Value(notes, 0)}); });
+    reading.Ended();
   });
 }
 
-int frmAddExceptionNotes::Tell(const QString& text, int style) {
-  return ShowMessage(text, style, Caption(), {}, this);
+void frmAddExceptionNotes::ShowButtons() {
+  cmdAdd->setEnabled(rights_.add && list_.MayBeWritten());
+  cmdDelete->setEnabled(rights_.remove && list_.MayBeWritten());
+  for (QPushButton* button : {cmdUpdate, cmdUp, cmdDown}) button->setEnabled(rights_.update && list_.MayBeWritten());
 }
 
 void frmAddExceptionNotes::Refuse(const QString& text) {
-  Tell(text, MessageStyle::Stop);
+  Tell(this, text, MessageStyle::Stop);
+}
+
+int frmAddExceptionNotes::RowOfNote(const QString& note) const {
+  const auto plain = [](QString text) { return text.replace("\r\n", "\n").replace('\r', '\n'); };
+  for (int row = 1; row < grdExceptionNote->Rows(); ++row)
+    if (plain(grdExceptionNote->Text(row, Note)) == plain(note)) return row;
+  return 0;
 }
 
 void frmAddExceptionNotes::ShowNote() {
@@ -117,8 +127,7 @@ void frmAddExceptionNotes::cmdAdd_Click() {
   procedure.Run([this] {
     const QString note = txtExceptionNote->Trimmed();
     if (note.isEmpty()) return Refuse(NoteRequired);
-    if (grdExceptionNote->FindRow(note, Note) > 0)
-      return Refuse("The Exception Note '" + note + "' has already been added.");
+    if (RowOfNote(note) > 0) return Refuse("The Exception Note '" + note + "' has already been added.");
     grdExceptionNote->AddRow({note});
     gbSaveExceptionNotes = true;
   });
@@ -127,8 +136,9 @@ void frmAddExceptionNotes::cmdAdd_Click() {
 void frmAddExceptionNotes::cmdUpdate_Click() {
   Procedure procedure("frmAddExceptionNotes.cmdUpdate_Click", this);
   procedure.OnFailure("An error has occurred while attempting to update the Exception notes.").Run([this] {
+    if (grdExceptionNote->Rows() == 1) return Refuse("There are currently no rows to Update.");
     const int row = grdExceptionNote->Row();
-    if (row == 0) return Refuse("There are currently no rows to Update.");
+    if (row == 0) return Refuse("Please select a row to update.");
     const QString note = txtExceptionNote->Trimmed();
     if (note.isEmpty()) return Refuse(NoteRequired);
     grdExceptionNote->SetText(row, Note, note);
@@ -149,8 +159,7 @@ void frmAddExceptionNotes::cmdDelete_Click() {
 void frmAddExceptionNotes::cmdClear_Click() {
   Procedure procedure("frmAddExceptionNotes.cmdClear_Click", this);
   procedure.Run([this] {
-    if (Tell("Are you sure you wish to clear the screen?", MessageStyle::Question) == MessageAnswer::Yes)
-      txtExceptionNote->SetText({});
+    if (Confirm(this, "Are you sure you wish to clear the screen?")) txtExceptionNote->SetText({});
   });
 }
 
@@ -176,7 +185,7 @@ void frmAddExceptionNotes::cmdClose_Click() {
   procedure.OnFailure(Texts::NotifySupport + "\n\nUnable to update the Exception notes.");
   // A list that could not be stored stays on screen.
   if (procedure.Run([this] {
-        if (gbSaveExceptionNotes) SaveNotes();
+        if (gbSaveExceptionNotes && list_.MayBeWritten()) SaveNotes();
       }))
     Unload();
 }
@@ -199,5 +208,5 @@ void frmAddExceptionNotes::SaveNotes() {
           "***** SQL error on ID_EXCEPTION_PROCESS (Update) *****");
   transaction.Commit();
   gbSaveExceptionNotes = false;
-  Tell("Settings updated.", MessageStyle::Information);
+  Tell(this, "Settings updated.", MessageStyle::Information);
 }

@@ -2,6 +2,8 @@
 
 #include <QPushButton>
 
+#include "core/Record.h"
+#include "core/UserRights.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
@@ -28,6 +30,8 @@ class frmAddExceptionNotes : public Screen {
   void BuildControls();
   void ConnectControls();
   void PopulateFields();
+  // Rights that are missing on the main screen are missing here; a list that was not read whole is only looked at.
+  void ShowButtons();
   void ShowNote();
   void cmdAdd_Click();
   void cmdUpdate_Click();
@@ -39,8 +43,12 @@ class frmAddExceptionNotes : public Screen {
   void Move(int by);
   // Replaces the list of the pair in one transaction.
   void SaveNotes();
-  int Tell(const QString& text, int style);
+  // First row with the note, whichever line ends either has; 0 when there is none.
+  int RowOfNote(const QString& note) const;
   void Refuse(const QString& text);
+
+  FunctionRights rights_;
+  Record list_;
 
   TextBox* const txtExceptionCode = new TextBox(this, "txtExceptionCode");
   MemoBox* const txtExceptionNote = new MemoBox(this, "txtExceptionNote", 1000);

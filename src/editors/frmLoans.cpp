@@ -13,7 +13,8 @@
 frmLoans::frmLoans(QWidget* parent)
     : Screen("frmLoans", "Ostana - Configure Loans", parent),
       policies_(new LoanPolicies(*this)),
-      statuses_(new LoanStatuses(*this)) {
+      statuses_(new LoanStatuses(*this)),
+      pages_{policies_, statuses_} {
   BuildControls();
   ConnectControls();
 }
@@ -33,20 +34,10 @@ void frmLoans::ConnectControls() {
     if (!movingBack_) sstab6Loans_Click(previous);
   });
   connect(cmdAdd, &QPushButton::clicked, this, &frmLoans::Loans_Add);
-  connect(cmdUpdate, &QPushButton::clicked, this, &frmLoans::Loans_Update);
+  connect(cmdUpdate, &QPushButton::clicked, this, [this] { Loans_Update(Front()); });
   connect(cmdDelete, &QPushButton::clicked, this, &frmLoans::Loans_Delete);
-  connect(cmdClear, &QPushButton::clicked, this, &frmLoans::ClearFields);
+  connect(cmdClear, &QPushButton::clicked, this, [this] { Front().Clear(); });
   connect(cmdClose, &QPushButton::clicked, this, [this] { Unload(); });
-}
-
-int frmLoans::Tell(const QString& text, int style) {
-  return ShowMessage(text, style, Caption(), {}, this);
-}
-
-bool frmLoans::Refuse(const QString& text, int style, QWidget* focus) {
-  Tell(text, style);
-  if (focus) focus->setFocus();
-  return false;
 }
 
 void frmLoans::Form_Load() {
@@ -59,37 +50,34 @@ void frmLoans::Form_Load() {
 
 // A right that is missing on the main screen is missing here.
 void frmLoans::ApplyRights() {
-  cmdAdd->setEnabled(gclsOF->CanAdd());
-  cmdUpdate->setEnabled(gclsOF->CanUpdate());
-  cmdDelete->setEnabled(gclsOF->CanDelete());
-  cmdClear->setEnabled(gclsOF->CanUpdate() && gclsOF->CanDelete());
+  rights_ = gclsOF->Rights();
+  cmdAdd->setEnabled(rights_.add);
+  cmdUpdate->setEnabled(rights_.update);
+  cmdDelete->setEnabled(rights_.remove);
+  cmdClear->setEnabled(rights_.update && rights_.remove);
 }
 
 void frmLoans::LoadDataInGrid() {
   Procedure procedure("frmLoans.LoadDataInGrid", this);
   const Hourglass hourglass;
   procedure.Run([this] {
-    policies_->Load();
-    statuses_->Load();
+    for (LoansPage* page : pages_) page->Load();
   });
 }
 
 void frmLoans::Loans_Tab() {
   LoadDataInGrid();
-  if (OnPolicies())
-    policies_->Enter();
-  else
-    statuses_->Enter();
-  mbRecordModified = false;
+  Front().Enter();
 }
 
 // The questions are those of the main screen's tabs: No takes the user back to the record, freshly loaded.
 void frmLoans::sstab6Loans_Click(int previous) {
   Procedure procedure("frmLoans.sstab6Loans_Click", this);
   procedure.Run([&] {
-    const bool modified = mbRecordModified && cmdUpdate->isEnabled();
-    const bool update = CloseButtonUpdate();
-    const bool goesOn = update ? UpdateOn(previous) : !modified;
+    LoansPage& left = *pages_.at(static_cast<size_t>(previous));
+    const bool modified = left.record().Modified() && rights_.update;
+    const bool update = CloseButtonUpdate(left);
+    const bool goesOn = update ? Loans_Update(left) : !modified;
     if (!goesOn) {
       const QScopedValueRollback back(movingBack_, true);
       sstab6Loans->setCurrentIndex(previous);
@@ -99,46 +87,33 @@ void frmLoans::sstab6Loans_Click(int previous) {
   });
 }
 
-bool frmLoans::CloseButtonUpdate() {
-  if (!mbRecordModified || !cmdUpdate->isEnabled()) return false;
-  return Tell("A record has been modified.\nDo you wish to apply the updates before continuing?",
+bool frmLoans::CloseButtonUpdate(LoansPage& page) {
+  if (!page.record().Modified() || !rights_.update) return false;
+  return Tell(this, "A record has been modified.\nDo you wish to apply the updates before continuing?",
               MessageStyle::Question) != MessageAnswer::No;
 }
 
 bool frmLoans::Form_QueryUnload() {
-  if (!CloseButtonUpdate()) return false;
-  Loans_Update();
+  if (!CloseButtonUpdate(Front())) return false;
+  Loans_Update(Front());
   return true;
 }
 
 void frmLoans::Loans_Add() {
-  Procedure procedure("frmLoans.Loans_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([this] {
-    if (OnPolicies() ? policies_->Add() : statuses_->Add()) mbRecordModified = false;
-  });
+  if (Procedure("frmLoans.Loans_Add", this).OnFailure(Texts::DatabaseError).Answers([this] { return Front().Add(); }))
+    Front().record().Settled();
 }
 
-bool frmLoans::UpdateOn(int subTab) {
-  bool done = false;
-  Procedure procedure("frmLoans.Loans_Update", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    done = subTab == LoanPolicy ? policies_->Update() : statuses_->Update();
-    if (done) mbRecordModified = false;
-  });
+bool frmLoans::Loans_Update(LoansPage& page) {
+  const bool done =
+      Procedure("frmLoans.Loans_Update", this).OnFailure(Texts::DatabaseError).Answers([&] { return page.Update(); });
+  if (done) page.record().Settled();
   return done;
 }
 
 void frmLoans::Loans_Delete() {
-  Procedure procedure("frmLoans.Loans_Delete", this);
-  procedure.OnFailure(DeleteFailureText).Run([this] {
-    if (OnPolicies() ? policies_->Delete() : statuses_->Delete()) mbRecordModified = false;
-  });
-}
-
-void frmLoans::ClearFields() {
-  if (OnPolicies())
-    policies_->Clear();
-  else
-    statuses_->Clear();
-  mbRecordModified = false;
+  if (Procedure("frmLoans.Loans_Delete", this).OnFailure(DeleteFailureText).Answers([this] {
+        return Front().Delete();
+      }))
+    Front().record().Settled();
 }

@@ -2,12 +2,15 @@
 
 #include <QPushButton>
 #include <QTabWidget>
+#include <array>
 
+#include "core/UserRights.h"
 #include "platform/controls/FormLayout.h"
 #include "shell/Screen.h"
 
 class LoanPolicies;
 class LoanStatuses;
+class LoansPage;
 
 // "Ostana - Configure Loans": the loan policies and the loan statuses, each a sub-tab with a page of its own. The
 // form's buttons act on the sub-tab on show.
@@ -17,40 +20,34 @@ class frmLoans : public Screen {
  public:
   explicit frmLoans(QWidget* parent = nullptr);
 
-  // What the two pages ask of their form.
+  // Reads the rows of both pages.
   void LoadDataInGrid();
-  int Tell(const QString& text, int style);
-  // A message, then the focus; always False.
-  bool Refuse(const QString& text, int style, QWidget* focus);
-  void SetRecordModified(bool modified) { mbRecordModified = modified; }
 
  protected:
   void Form_Load() override;
   bool Form_QueryUnload() override;
 
  private:
-  enum SubTab { LoanPolicy, LoanStatus };
-
   void BuildControls();
   void ConnectControls();
   void ApplyRights();
   void Loans_Tab();
   void sstab6Loans_Click(int previous);
-  bool CloseButtonUpdate();
+  // Whether the user wants the changed record of the page to be written before it is left.
+  bool CloseButtonUpdate(LoansPage& page);
   void Loans_Add();
-  void Loans_Update() { UpdateOn(sstab6Loans->currentIndex()); }
-  bool UpdateOn(int subTab);
+  bool Loans_Update(LoansPage& page);
   void Loans_Delete();
-  void ClearFields();
-  bool OnPolicies() const { return sstab6Loans->currentIndex() == LoanPolicy; }
+  LoansPage& Front() const { return *pages_.at(static_cast<size_t>(subTab_)); }
 
-  bool mbRecordModified = false;
-  int subTab_ = LoanPolicy;  // the one on show
+  FunctionRights rights_;
+  int subTab_ = 0;  // the one on show
   bool movingBack_ = false;
 
   QTabWidget* const sstab6Loans = new QTabWidget(this);
   LoanPolicies* const policies_;
   LoanStatuses* const statuses_;
+  const std::array<LoansPage*, 2> pages_;  // in the order of the sub-tabs
   QPushButton* const cmdAdd = Form::Button(this, "cmdAdd", "&Add");
   QPushButton* const cmdUpdate = Form::Button(this, "cmdUpdate", "&Update");
   QPushButton* const cmdDelete = Form::Button(this, "cmdDelete", "&Delete");

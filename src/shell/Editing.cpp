@@ -1,5 +1,7 @@
 #include "shell/Editing.h"
 
+#include <QEvent>
+
 #include "core/ModuleState.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
@@ -18,6 +20,21 @@ std::function<void()> Trimmer(Box* box, Trim trim) {
     box->SetText(trim == Trim::BothUpper ? TextInput::Upper(text) : text);
   };
 }
+
+// The focus that comes with the window's activation, after a message has closed, is passed on too.
+class FocusPasser : public QObject {
+ public:
+  FocusPasser(QWidget* box, QWidget* next) : QObject(box), next_(next) { box->installEventFilter(this); }
+  bool eventFilter(QObject* box, QEvent* event) override {
+    if (event->type() != QEvent::FocusIn) return false;
+    box->event(event);
+    next_->setFocus();
+    return true;
+  }
+
+ private:
+  QWidget* next_;
+};
 
 }  // namespace
 
@@ -106,7 +123,7 @@ void WatchAnyChange(Record& record, TextBox* box) {
 void PassFocusOn(TextBox* box, QWidget* next) {
   box->setReadOnly(true);
   box->setFocusPolicy(Qt::ClickFocus);
-  QObject::connect(box, &TextBox::GotFocus, next, [next] { next->setFocus(); });
+  new FocusPasser(box, next);
 }
 
 void KeepRowOnSort(Grid* grid) {

@@ -27,6 +27,9 @@ inline const QString DeleteFailed = "An error has occurred while attempting to d
 inline const QString Referenced = "The Code is referenced by another table in the database.";
 inline const QString Persists = "If the error persists notify support.";
 inline const QString NoAccess = "You do not have access to this function";
+// A row that is not, or no longer, in the table.
+inline const QString NoSuchCode = "This Code does not exist in the table.  Please select a Valid Code to Update.";
+inline const QString NoSuchRow = "Please select a valid record from the table.";
 inline const QString DeleteQuestion = "Are you sure you wish to Delete this record?";
 }  // namespace Texts
 

@@ -82,13 +82,13 @@ void frmTabulon::BuildControls() {
 
 void frmTabulon::BuildMenu() {
   QMenu* const file = Form::Menu(this, "mnuFile", "Fi&le");
-  connect(Form::MenuEntry(file, "mnuFileExit", "E&xit"), &QAction::triggered, this, &frmTabulon::cmdClose_Click);
+  Form::OnPress(Form::MenuEntry(file, "mnuFileExit", "E&xit"), this, [this] { cmdClose_Click(); });
 
   mnuOptions_ = Form::Menu(this, "mnuOptions", "Opt&ions");
   // The entries call the operations themselves: a button that is off for the present page presses nothing.
   const auto entry = [this](const char* name, const char* caption, const char* logName, void (frmTabulon::*press)()) {
     QAction* const action = Form::MenuEntry(mnuOptions_, name, caption);
-    connect(action, &QAction::triggered, this, [this, logName, press] {
+    Form::OnPress(action, this, [this, logName, press] {
       gstrErrorMessage.clear();
       Procedure(logName).Step([this, press] { (this->*press)(); });
     });

@@ -271,4 +271,14 @@ TEST_F(LibraryBillingTest, UpdateNeedsASymbol) {
   Click("cmdSearch");
 }
 
+TEST_F(LibraryBillingTest, AnEntryLeavesTheBoxFirst) {
+  OpenScreen();
+  Type("txtWeightingFactor", "500");
+  Statements();
+  Prompt().ExpectStart("", MessageStyle::Stop);
+  Trigger("mnuOptionsUpdate");
+  EXPECT_EQ(Focus(), "txtWeightingFactor");
+  EXPECT_TRUE(Writing().isEmpty());
+}
+
 }  // namespace

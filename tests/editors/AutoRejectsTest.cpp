@@ -347,4 +347,29 @@ TEST_F(AutoRejectsTest, Looks) {
   Picture("auto-rejects");
 }
 
+TEST_F(AutoRejectsTest, ATypeThatIsInNoListIsKeptWithItsCode) {
+  Another("UPDATE ID_EXCEPTION_CODE SET EXCEPTION_TYPE = 'N' WHERE EXCEPTION_CODE = 'ONL'");
+  EnterList("Call Number");
+  EXPECT_EQ(Text("cmb4RejectType"), Cell("grd4AutoReject", 1, 2));
+  EXPECT_FALSE(Text("cmb4RejectType").isEmpty());
+  Type("txt4Code", "NEW");
+  Prompt().Expect("Record Added", 64);
+  Click("cmdAdd");
+  EXPECT_EQ(Writing(), QStringList{"INSERT INTO ID_REJ_CALL_NUMBER VALUES('NEW', 'ONL')"});
+}
+
+TEST_F(AutoRejectsTest, AListThatCouldNotBeFilledLosesNoCode) {
+  Start();
+  Another("ALTER TABLE ID_EXCEPTION_CODE RENAME TO ID_AWAY");
+  Prompt().Expect("***** SQL error on OSTANA.ID_EXCEPTION_CODE (SELECT) *****", 16);
+  SelectTab("sstabtables", frmTabulon::AutoRejectsTab);
+  Another("ALTER TABLE ID_AWAY RENAME TO ID_EXCEPTION_CODE");
+  Choose("cmb4Tables", "Call Number");
+  Statements();
+  Type("txt4Code", "NEW");
+  Prompt().Expect("Record Added", 64);
+  Click("cmdAdd");
+  EXPECT_EQ(Writing(), QStringList{"INSERT INTO ID_REJ_CALL_NUMBER VALUES('NEW', 'ONL')"});
+}
+
 }  // namespace

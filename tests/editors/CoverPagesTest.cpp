@@ -1,3 +1,5 @@
+#include <QApplication>
+
 #include "core/ModuleState.h"
 #include "shell/Screen.h"
 #include "support/Desk.h"
@@ -252,6 +254,30 @@ TEST_F(CoverPagesTest, Looks) {
       "the cover sheet with the document.' WHERE REQUEST_TYPE = 'ILL'");
   Enter();
   Picture("cover-pages");
+}
+
+TEST_F(CoverPagesTest, ATextKeepsTheLineEndsOfAnotherProgram) {
+  Another("UPDATE ID_COVER_INFO SET MESSAGE_1 = 'one\r\ntwo' WHERE REQUEST_TYPE = 'ILL'");
+  Enter();
+  EXPECT_FALSE(gbRecordModified);
+  Type("txt1Header", "other");
+  Update();
+  EXPECT_EQ(Stored("MESSAGE_1"), "one\r\ntwo");
+}
+
+TEST_F(CoverPagesTest, TheFocusThatComesWithTheWindowIsHandedOnToo) {
+  Enter();
+  // As under a message box: the window is not the active one while the focus is set in it.
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  QApplication::setActiveWindow(&other);
+  Find<TextBox>("txt1RequestType")->setFocus();
+  ASSERT_EQ(Focus(), "txt1RequestType");
+  other.hide();
+  Shell().activateWindow();
+  QApplication::setActiveWindow(&Shell());
+  EXPECT_EQ(Focus(), "txt1Header");
 }
 
 }  // namespace

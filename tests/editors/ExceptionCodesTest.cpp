@@ -495,4 +495,14 @@ TEST_F(ExceptionCodesTest, ClearLeavesTheType) {
   EXPECT_FALSE(gbRecordModified);
 }
 
+TEST_F(ExceptionCodesTest, NoChargeIsNotAChargeOfZero) {
+  Enter();
+  SelectRowOf("grd8Table", "AAA");
+  Type("txt8ServiceCharge", "0");
+  Prompt().Expect("Record Updated", MessageStyle::Information);
+  Click("cmdUpdate");
+  EXPECT_EQ(Ask("SELECT SERVICE_CHARGE FROM ID_EXCEPTION_CODE WHERE EXCEPTION_CODE = 'AAA'").toDouble(), 0);
+  EXPECT_FALSE(Ask("SELECT SERVICE_CHARGE FROM ID_EXCEPTION_CODE WHERE EXCEPTION_CODE = 'AAA'").isNull());
+}
+
 }  // namespace

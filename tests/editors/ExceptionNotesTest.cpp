@@ -250,4 +250,60 @@ TEST_F(ExceptionNotesTest, ARightThatIsMissingIsMissingHere) {
   for (const char* button : {"cmdUpdate", "cmdUp", "cmdDown"}) EXPECT_FALSE(IsEnabled(button)) << button;
 }
 
+// --- A list that was not read whole ---
+
+TEST_F(ExceptionNotesTest, NotesThatWereNotReadAreNotReplaced) {
+  Another("ALTER TABLE ID_EXCEPTION_NOTE RENAME TO ID_GONE");
+  Prompt().Expect("***** SQL ERROR ON ID_EXCEPTION_NOTE (SELECT) *****", MessageStyle::Stop);
+  OpenNotes();
+  Another("ALTER TABLE ID_GONE RENAME TO ID_EXCEPTION_NOTE");
+  for (const char* button : {"cmdAdd", "cmdUpdate", "cmdDelete", "cmdUp", "cmdDown"})
+    EXPECT_FALSE(IsEnabled(button)) << button;
+  Type("txtExceptionNote", "New");
+  Click("cmdClose");
+  EXPECT_FALSE(IsOpen());
+  EXPECT_TRUE(Writing().isEmpty());
+  EXPECT_EQ(Stored(), "2 First Second");
+}
+
+TEST_F(ExceptionNotesTest, AListThatWasReadAfterAFailureIsWrittenAgain) {
+  Another("ALTER TABLE ID_EXCEPTION_NOTE RENAME TO ID_GONE");
+  Prompt().Expect("***** SQL ERROR ON ID_EXCEPTION_NOTE (SELECT) *****", MessageStyle::Stop);
+  OpenNotes();
+  Click("cmdClose");
+  Another("ALTER TABLE ID_GONE RENAME TO ID_EXCEPTION_NOTE");
+  OpenNotes();
+  AddNote("Third");
+  Prompt().Expect("Settings updated.", MessageStyle::Information);
+  Click("cmdClose");
+  EXPECT_EQ(Stored(), "3 First Second");
+}
+
+TEST_F(ExceptionNotesTest, UpdateWithoutACurrentRowSaysSo) {
+  OpenNotes();
+  Type("txtExceptionNote", "New");
+  Prompt().Expect("Please select a row to update.", MessageStyle::Stop);
+  Click("cmdUpdate");
+  EXPECT_EQ(Notes(), Texts({"First", "Second"}));
+}
+
+TEST_F(ExceptionNotesTest, OneNoteInTwoLineEndsIsOneNote) {
+  Another("UPDATE ID_EXCEPTION_NOTE SET EXCEPTION_NOTE = 'one\r\ntwo' WHERE EXCEPTION_NOTE = 'First'");
+  OpenNotes();
+  Prompt().ExpectStart("The Exception Note 'one\ntwo'", MessageStyle::Stop);
+  AddNote("one\ntwo");
+  EXPECT_EQ(Notes(), Texts({"one\r\ntwo", "Second"}));
+}
+
+TEST_F(ExceptionNotesTest, ANoteKeepsTheLineEndsOfAnotherProgram) {
+  Another("UPDATE ID_EXCEPTION_NOTE SET EXCEPTION_NOTE = 'one\r\ntwo' WHERE EXCEPTION_NOTE = 'First'");
+  OpenNotes();
+  SelectRow("grdExceptionNote", 1);
+  Append("txtExceptionNote", "\nthree");
+  Click("cmdUpdate");
+  Prompt().Expect("Settings updated.", MessageStyle::Information);
+  Click("cmdClose");
+  EXPECT_EQ(Stored(), "2 one\r\ntwo\r\nthree Second");
+}
+
 }  // namespace

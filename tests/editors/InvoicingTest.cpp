@@ -1,4 +1,8 @@
 // Choosing a rate table: inputs, captions, grids, lists, keys and ranges, the checks before Add and Update.
+#include <QAction>
+#include <QTest>
+#include <QToolBar>
+
 #include <QLabel>
 
 #include "editors/InvoicingDesk.h"
@@ -343,6 +347,8 @@ TEST_F(InvoicingTest, TheExposureChecksComeInTheirOrder) {
   Trigger("mnuOptionsAdd");
   EXPECT_EQ(Focus(), "txt7aFreeExposures");
   EXPECT_EQ(Text("txt7aFreeExposures"), "x");
+  // Leaving the box writes its number in full: a fraction gets here by code only.
+  Find<QWidget>("cmb7aBillingRate")->setFocus();
   Put("txt7aFreeExposures", "2.");
   Prompt().Expect("Please enter a numeric value with no decimals for Free Exposure field.", 48);
   Trigger("mnuOptionsAdd");
@@ -352,7 +358,8 @@ TEST_F(InvoicingTest, TheExposureChecksComeInTheirOrder) {
   Trigger("mnuOptionsUpdate");
   EXPECT_EQ(Focus(), "txt7aUnitSize");
   EXPECT_EQ(Text("txt7aUnitSize"), "abc");
-  Paste("txt7aUnitSize", ".5");
+  Find<QWidget>("cmb7aBillingRate")->setFocus();
+  Put("txt7aUnitSize", ".5");
   Prompt().Expect("Please enter a numeric value with no decimals for Unit Size field.", 48);
   Trigger("mnuOptionsUpdate");
   EXPECT_EQ(Focus(), "txt7aUnitSize");
@@ -362,7 +369,7 @@ TEST_F(InvoicingTest, TheExposureChecksComeInTheirOrder) {
 TEST_F(InvoicingTest, OnACommaMachineACommaIsAFractionToo) {
   EnterWithComma();
   Pick("Delivery Method Rates");
-  Type("txt7aUnitSize", "1,5");
+  Put("txt7aUnitSize", "1,5");
   Prompt().Expect("Please enter a numeric value with no decimals for Unit Size field.", 48);
   Trigger("mnuOptionsAdd");
   EXPECT_EQ(Text("txt7aUnitSize"), "");
@@ -397,6 +404,29 @@ TEST_F(InvoicingTest, ClearEmptiesTheInputsAndLeavesNoRow) {
   EXPECT_EQ(Row("grd7Table"), 0);
   EXPECT_EQ(Rows("grd7Table"), 2);
   EXPECT_FALSE(gbRecordModified);
+}
+
+// --- Entries and tool buttons ---
+
+TEST_F(InvoicingTest, AnEntryAndAToolButtonLeaveTheBoxFirst) {
+  Another("INSERT INTO ID_RATE_SERVICE (BILLING_RATE, SERVICE_LEVEL, SURCHARGE) VALUES ('A', 'U', 9)");
+  Enter();
+  Pick("Service Level Rates");
+  Type("txt7aFlatFee", "500");
+  for (const char* entry : {"mnuOptionsUpdate", "mnuOptionsAdd", "mnuOptionsDelete", "mnuFileExit"}) {
+    Prompt().Expect("Surcharge: may not be greater than 99.99", 16);
+    Trigger(entry);
+    EXPECT_EQ(Focus(), "txt7aFlatFee") << entry;
+  }
+  auto* const bar = Find<QToolBar>("tlbButtons");
+  QWidget* const update = bar->widgetForAction(Find<QAction>("mnuOptionsUpdate"));
+  Prompt().Expect("Surcharge: may not be greater than 99.99", 16);
+  QTest::mouseClick(update, Qt::LeftButton);
+  EXPECT_TRUE(Writing().isEmpty());
+  Type("txt7aFlatFee", "5");
+  Prompt().Expect("Record Updated", 64);
+  QTest::mouseClick(update, Qt::LeftButton);
+  EXPECT_EQ(Ask("SELECT SURCHARGE FROM ID_RATE_SERVICE WHERE BILLING_RATE = 'A'"), "5.00");
 }
 
 }  // namespace

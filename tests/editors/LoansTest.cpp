@@ -578,4 +578,55 @@ TEST_F(LoansTest, ChangingTheSubTabWithAChangedRecordAsks) {
   EXPECT_EQ(Stored("LON_PERIOD", "N"), "30");
 }
 
+TEST_F(LoansTest, AnEditThatIsGivenUpIsGoneFromThePageOfStatuses) {
+  EnterStatuses();
+  SelectRow("grd6bTable", 1);
+  const QString code = Text("txt6bCode"), description = Text("txt6bDescription");
+  Type("txt6bDescription", "Given up");
+  Prompt().Expect(LeaveQuestion, 36, MessageAnswer::No);
+  SelectTab("sstab6Loans", 0);
+  EXPECT_EQ(Find<QTabWidget>("sstab6Loans")->currentIndex(), 1);
+  EXPECT_EQ(Text("txt6bCode"), code);
+  EXPECT_EQ(Text("txt6bDescription"), description);
+  EXPECT_EQ(Row("grd6bTable"), 1);
+  Click("cmdClose");
+  EXPECT_FALSE(loans_->isVisible());
+}
+
+TEST_F(LoansTest, EachVisitShowsWhatTheTableHoldsNow) {
+  EnterStatuses();
+  SelectRow("grd6bTable", 1);
+  const QString code = Text("txt6bCode");
+  SelectTab("sstab6Loans", 0);
+  Another("UPDATE ID_LOAN_STATUS SET LOAN_STATUS_DESC = 'Meanwhile' WHERE LOAN_STATUS = '" + code + "'");
+  SelectTab("sstab6Loans", 1);
+  EXPECT_EQ(Text("txt6bDescription"), "Meanwhile");
+  SelectTab("sstab6Loans", 0);
+  Another("DELETE FROM ID_LOAN_STATUS WHERE LOAN_STATUS = '" + code + "'");
+  SelectTab("sstab6Loans", 1);
+  EXPECT_EQ(Text("txt6bCode"), "");
+  EXPECT_EQ(Text("txt6bDescription"), "");
+}
+
+TEST_F(LoansTest, ARefusedDuplicateLeavesNothingToBeAskedFor) {
+  Enter();
+  Type("txt6LoanPeriod", "30");
+  Prompt().Expect("This record already exists", 48);
+  Click("cmdAdd");
+  Click("cmdClose");
+  EXPECT_FALSE(loans_->isVisible());
+}
+
+TEST_F(LoansTest, ARowThatIsGoneIsNeitherUpdatedNorDeleted) {
+  EnterStatuses();
+  SelectRow("grd6bTable", 1);
+  Another("DELETE FROM ID_LOAN_STATUS WHERE LOAN_STATUS = '" + Text("txt6bCode") + "'");
+  Type("txt6bDescription", "Other");
+  Prompt().Expect("This Code does not exist in the table.  Please select a Valid Code to Update.", 16);
+  Click("cmdUpdate");
+  AnswerDelete(MessageAnswer::Yes);
+  Prompt().Expect("Please select a valid record from the table.", 16);
+  Click("cmdDelete");
+}
+
 }  // namespace

@@ -91,9 +91,7 @@ TEST_P(TypicalRatesTest, AddUpdateAndDeleteWriteTheirStatements) {
   Pick(rate.rateTable);
   AddRow();
   EXPECT_EQ(Writing(), QStringList{rate.insert});
-  EXPECT_EQ(Text("cmb7aBillingRate"), "(none)");
-  EXPECT_EQ(Row("grd7Table"), 0);
-  SelectRow("grd7Table", 1);
+  EXPECT_EQ(Row("grd7Table"), 1);
   EXPECT_EQ(Text("cmb7aBillingRate"), "Companies");
   EXPECT_EQ(Text("cmb7aDeliveryMethod"), rate.key);
   EXPECT_EQ(Cell("grd7Table", 1, 3), "2.50");
@@ -299,6 +297,58 @@ TEST_F(RateRowsTest, AConnectionThatWasClosedIsOpenedAgain) {
   gclsOF->Connection().Close();
   Done("Record Added", "cmdAdd");
   EXPECT_EQ(Count("ID_RATE_SERVICE", "BILLING_RATE = 'C' AND SURCHARGE IS NULL"), 1);
+}
+
+// --- What stands on show belongs to the table that was chosen ---
+
+TEST_F(RateRowsTest, AListThatCouldNotBeFilledKeepsNoCodesOfAnotherTable) {
+  Another("INSERT INTO ID_RATE_SUPPLY (BILLING_RATE, EXCEPTION_CODE, FLAT_FEE_UNIT) VALUES ('C', 'MCR', 2)");
+  Enter();
+  Pick("Document Supply Rates");
+  Another("ALTER TABLE ID_BILLING_RATE RENAME TO ID_AWAY");
+  Prompt().Expect("***** SQL error on OSTANA.ID_DBILLING_RATE (Select) *****", 16);
+  Pick("Reject Code Rates");
+  Another("ALTER TABLE ID_AWAY RENAME TO ID_BILLING_RATE");
+  EXPECT_EQ(Find<CodeComboBox>("cmb7aBillingRate")->IndexOfText("Companies"), -1);
+  EXPECT_EQ(Find<CodeComboBox>("cmb7aDeliveryMethod")->IndexOfCode("MCR"), -1);
+  EXPECT_EQ(Text("txt7aFlatFee"), "");
+  Refused("Please select a Valid Billing Rate.", 48, "cmdAdd", "cmb7aBillingRate");
+}
+
+TEST_F(RateRowsTest, AnEmptyTableShowsNoNumbersOfTheTableBefore) {
+  Another(
+      "INSERT INTO ID_RATE_SUPPLY (BILLING_RATE, EXCEPTION_CODE, FLAT_FEE_UNIT, UNIT_SIZE, FREE_EXPOSURE, "
+      "PER_EXPOSURE) VALUES ('C', 'MCR', 2, 3, 4, 5)");
+  Another("DELETE FROM ID_RATE_OUTPUT");
+  Enter();
+  Pick("Document Supply Rates");
+  EXPECT_EQ(Text("txt7aFlatFee"), "2.00");
+  Pick("Output Format Rates");
+  for (const char* box : {"txt7aFlatFee", "txt7aUnitSize", "txt7aFreeExposures", "txt7aPerExposure"})
+    EXPECT_EQ(Text(box), "") << box;
+}
+
+TEST_F(RateRowsTest, AnEmptyTableOfCopyrightBeginsWithNoSurcharge) {
+  Another("DELETE FROM ID_COPYRIGHT_CMP");
+  Enter();
+  Pick("Copyright Comply");
+  EXPECT_EQ(Text("txt7Surcharge"), "0.00");
+}
+
+TEST_F(RateRowsTest, AfterAWriteTheRecordIsCurrentAgain) {
+  Another("INSERT INTO ID_RATE_SERVICE (BILLING_RATE, SERVICE_LEVEL, SURCHARGE) VALUES ('A', 'U', 9)");
+  Another("INSERT INTO ID_RATE_SERVICE (BILLING_RATE, SERVICE_LEVEL, SURCHARGE) VALUES ('C', 'X', 1)");
+  Enter();
+  Pick("Service Level Rates");
+  SelectRowOf("grd7Table", "1.00", 3);
+  const int row = Row("grd7Table");
+  const QString key = Text("cmb7aDeliveryMethod");
+  Type("txt7aFlatFee", "2");
+  Done("Record Updated", "cmdUpdate");
+  EXPECT_EQ(Row("grd7Table"), row);
+  EXPECT_EQ(Text("cmb7aBillingRate"), "Companies");
+  EXPECT_EQ(Text("cmb7aDeliveryMethod"), key);
+  EXPECT_EQ(Text("txt7aFlatFee"), "2.00");
 }
 
 }  // namespace

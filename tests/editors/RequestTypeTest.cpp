@@ -289,4 +289,35 @@ TEST_F(RequestTypeTest, Looks) {
   Picture("request-type");
 }
 
+TEST_F(RequestTypeTest, AListOfCustomersThatCouldNotBeFilledLosesNoCustomer) {
+  const QString customer = Stored("CUSTOMER_ID", "ILL");
+  ASSERT_FALSE(customer.isEmpty());
+  Start();
+  Another("ALTER TABLE ID_CUSTOMER_ID RENAME TO ID_AWAY");
+  Prompt().Expect("***** SQL error on OSTANA.ID_CUSTOMER_ID (Select) *****", 16);
+  SelectTab("sstabtables", frmTabulon::RequestTypeTab);
+  Another("ALTER TABLE ID_AWAY RENAME TO ID_CUSTOMER_ID");
+  EXPECT_EQ(Text("cmb9CustomerID"), customer);
+  Type("txt9Description", "Other words");
+  Update();
+  EXPECT_EQ(Stored("CUSTOMER_ID", "ILL"), customer);
+  EXPECT_EQ(Stored("REQUEST_TYPE_DESC", "ILL"), "Other words");
+}
+
+TEST_F(RequestTypeTest, ACustomerThatIsInNoListIsKeptUntilAnotherIsChosen) {
+  Another(
+      "DELETE FROM ID_CUSTOMER_ID WHERE CUSTOMER_ID NOT IN (SELECT CUSTOMER_ID FROM ID_REQUEST_TYPE WHERE "
+      "CUSTOMER_ID IS NOT NULL)");
+  const QString customer = Stored("CUSTOMER_ID", "ILL");
+  Enter();
+  // As a row whose customer another program has put in since the list was filled.
+  Find<CodeComboBox>("cmb9CustomerID")->Clear();
+  SelectRow("grd9RequestType", 2);
+  SelectRow("grd9RequestType", 1);
+  EXPECT_EQ(Text("cmb9CustomerID"), customer);
+  Prompt().Expect("Nothing has been changed", 48);
+  Click("cmdUpdate");
+  EXPECT_TRUE(Writing().isEmpty());
+}
+
 }  // namespace

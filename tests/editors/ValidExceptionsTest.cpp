@@ -547,4 +547,17 @@ TEST_F(ValidExceptionsTest, MoreNotesWithoutTheOnlyNoteEmptiesTheCell) {
   EXPECT_TRUE(IsEnabled("txtExceptionNote"));
 }
 
+TEST_F(ValidExceptionsTest, ATextKeepsTheLineEndsOfAnotherProgram) {
+  Another(
+      "UPDATE ID_EXCEPTION_PROCESS SET MESSAGE = 'one\r\ntwo', EXCEPTION_NOTE = 'a\r\nb' WHERE PROCESS_TYPE = 'REQ'");
+  Enter(Valid);
+  SelectRow("grd8Document", 3);
+  EXPECT_FALSE(gbRecordModified);
+  Choose("cmb8DeliverySource", "Print Locally");
+  Prompt().Expect("Record Updated", MessageStyle::Information);
+  Click("cmdUpdate");
+  EXPECT_EQ(Ask("SELECT MESSAGE FROM ID_EXCEPTION_PROCESS WHERE PROCESS_TYPE = 'REQ'"), "one\r\ntwo");
+  EXPECT_EQ(Ask("SELECT EXCEPTION_NOTE FROM ID_EXCEPTION_PROCESS WHERE PROCESS_TYPE = 'REQ'"), "a\r\nb");
+}
+
 }  // namespace

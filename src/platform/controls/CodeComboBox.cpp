@@ -135,11 +135,11 @@ bool CodeComboBox::SetCode(const QString& code) {
   return true;
 }
 
-void CodeComboBox::Hold(const QString& code, const QString& shown) {
+void CodeComboBox::Hold(const QString& code, const QString& shownAs) {
   if (SetCode(code)) return;
   SetIndex(-1);
   if (code.isNull()) return;
-  Show(shown.isEmpty() ? code : shown);
+  Show(shownAs.isEmpty() ? code : shownAs);
   held_ = code;
 }
 

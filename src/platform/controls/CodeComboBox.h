@@ -38,9 +38,9 @@ class CodeComboBox : public QComboBox {
   QString DescriptionOf(const QString& code) const;
   // Chooses the entry of the code (exact). False when there is none; the box is then left alone.
   bool SetCode(const QString& code);
-  // Chooses the entry of the code. A code that is no entry is shown as it stands, or as `shown`, and given back by Code
-  // until an entry is chosen or the list is emptied; a null one without an entry chooses nothing.
-  void Hold(const QString& code, const QString& shown = {});
+  // Chooses the entry of the code. A code that is no entry is shown as it stands, and given back by Code until an entry
+  // is chosen or the list is emptied; a null one without an entry chooses nothing. `shownAs`: instead of such a code.
+  void Hold(const QString& code, const QString& shownAs = {});
   bool HoldsUnknown() const { return held_.has_value(); }
   int IndexOfCode(const QString& code) const;
   int IndexOfText(const QString& text) const;

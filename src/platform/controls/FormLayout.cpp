@@ -13,6 +13,7 @@
 
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
+#include "platform/controls/LeaveGuard.h"
 #include "platform/controls/MemoBox.h"
 
 namespace {
@@ -142,6 +143,12 @@ QAction* MenuEntry(QMenu* menu, const QString& name, const QString& caption) {
   QAction* entry = menu->addAction(caption);
   entry->setObjectName(name);
   return entry;
+}
+
+void OnPress(QAction* entry, QWidget* window, const std::function<void()>& act) {
+  QObject::connect(entry, &QAction::triggered, window, [window, act] {
+    if (LeaveGuard::MayLeave(window)) act();
+  });
 }
 
 QMenu* Menu(QWidget* window, const QString& name, const QString& caption) {

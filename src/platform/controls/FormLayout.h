@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLayout>
 #include <QPushButton>
+#include <functional>
 #include <initializer_list>
 
 class QAction;
@@ -20,6 +21,9 @@ QPushButton* Button(QWidget* parent, const QString& name, const QString& caption
 QCheckBox* Check(QWidget* parent, const QString& name, const QString& caption);
 QGroupBox* Frame(QWidget* parent, const QString& name, const QString& caption);
 QAction* MenuEntry(QMenu* menu, const QString& name, const QString& caption);
+// What an entry of the window's menu, or its tool button, does. Its press is the press of a button: what has the focus
+// is left first, and may refuse.
+void OnPress(QAction* entry, QWidget* window, const std::function<void()>& act);
 QMenu* Menu(QWidget* window, const QString& name, const QString& caption);
 
 // A two-column form: label, field. Fields are as wide as their limit calls for, up to the room there is.

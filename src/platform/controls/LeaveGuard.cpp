@@ -48,13 +48,20 @@ void LeaveGuard::Left(const QFocusEvent& event) {
   Check(event.reason() == Qt::MouseFocusReason);
 }
 
-void LeaveGuard::Check(bool byMouse) {
+bool LeaveGuard::MayLeave(const QWidget* window) {
+  for (QWidget* inside = window->focusWidget(); inside != nullptr && inside != window; inside = inside->parentWidget())
+    if (auto* guard = inside->findChild<LeaveGuard*>(QString(), Qt::FindDirectChildrenOnly))
+      return guard->phase_ == Phase::Outside || guard->Check(false);
+  return true;
+}
+
+bool LeaveGuard::Check(bool byMouse) {
   Enter(Phase::Checking);
   released_ = false;
   const QPointer<LeaveGuard> self = this;
   const auto check = check_;  // which may put another one in its own place
   const bool mayLeave = check();
-  if (self.isNull()) return;
+  if (self.isNull()) return mayLeave;
   if (!mayLeave && !FocusIsInside()) control_->setFocus(Qt::OtherFocusReason);
   // A press whose release went to a message box would leave the button down for ever.
   if (byMouse && (!mayLeave || released_)) {
@@ -65,6 +72,7 @@ void LeaveGuard::Check(bool byMouse) {
   } else {
     Enter(FocusIsInside() ? Phase::Inside : Phase::Outside);
   }
+  return mayLeave;
 }
 
 bool LeaveGuard::eventFilter(QObject* watched, QEvent* event) {

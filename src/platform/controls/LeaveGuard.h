@@ -21,6 +21,8 @@ class LeaveGuard : public QObject {
   // To be called at the end of focusInEvent and focusOutEvent of whatever takes the focus inside of the control.
   void Entered();
   void Left(const QFocusEvent& event);
+  // Whether what has the focus in the window may be left, its check having run: for what acts without taking the focus.
+  static bool MayLeave(const QWidget* window);
   bool Checking() const { return phase_ == Phase::Checking; }
 
  protected:
@@ -34,7 +36,7 @@ class LeaveGuard : public QObject {
   void Enter(Phase phase);
   bool FocusIsInside() const;
   bool ReallyLeaves(const QFocusEvent& event) const;
-  void Check(bool byMouse);
+  bool Check(bool byMouse);
   // Gives the focus to what is about to act without taking it. True when the check kept the focus.
   bool Refuses(QWidget* actor, Qt::FocusReason reason);
   bool BeforeActing(QWidget* receiver, QEvent* event);
