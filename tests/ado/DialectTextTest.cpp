@@ -181,6 +181,53 @@ TEST(DialectText, UserAndPasswordOfOdbcAreEnclosedWhereTheyWouldEndTheirValue) {
   QSqlDatabase::removeDatabase("enclosed");
 }
 
+TEST(DialectText, EncryptionIsAskedOfOdbcInTheConnectionString) {
+  const std::pair<Encryption, const char*> words[] = {{Encryption::Off, "Encrypt=no"},
+                                                      {Encryption::Required, "Encrypt=yes;TrustServerCertificate=yes"},
+                                                      {Encryption::Verify, "Encrypt=yes;TrustServerCertificate=no"}};
+  QSqlDatabase database = QSqlDatabase::addDatabase("QODBC", "encrypted");
+  for (const auto& [encryption, expected] : words) {
+    ConnectionSettings settings;
+    settings.engine = Engine::SqlServer;
+    settings.host = "db.example.org";
+    settings.port = 1433;
+    settings.name = "ostana";
+    settings.encryption = encryption;
+    QString reason;
+    EXPECT_TRUE(Dialect::For(Engine::SqlServer).Prepare(database, settings, &reason));
+    EXPECT_EQ(database.databaseName(),
+              QString("DRIVER={ODBC Driver 18 for SQL Server};SERVER=db.example.org,1433;DATABASE=ostana;") + expected);
+  }
+  database = QSqlDatabase();
+  QSqlDatabase::removeDatabase("encrypted");
+}
+
+// What the server's reference tells of a literal: a backslash before LF or CR LF is taken away with it.
+QString AsSqlServerReads(const QString& literal) {
+  QString text;
+  for (qsizetype i = 0; i < literal.size(); ++i) {
+    if (literal[i] == u'\\' && literal.mid(i + 1).startsWith(u"\r\n")) {
+      i += 2;
+    } else if (literal[i] == u'\\' && literal.mid(i + 1).startsWith(u'\n')) {
+      ++i;
+    } else {
+      if (literal[i] == u'\'') ++i;
+      text += literal[i];
+    }
+  }
+  return text;
+}
+
+TEST(DialectText, ABackslashAtTheEndOfALineStaysOnSqlServer) {
+  const Dialect& dialect = Dialect::For(Engine::SqlServer);
+  for (const QString& text : QStringList{"\\\\server\\share\\\r\nnext line", "a\\\nb", "\\\\\n\n", "\\\r\n\r\n",
+                                         "\\\n\\\r\n\\", "a\\", "it's\\\n", "\\\rx"})
+    EXPECT_EQ(AsSqlServerReads(dialect.Escape(text)), text) << text.toStdString();
+  EXPECT_EQ(dialect.Escape("a\\\r\nb"), "a\\\\\r\n\r\nb");
+  for (const Engine other : {Engine::Sqlite, Engine::PostgreSql, Engine::MariaDb})
+    EXPECT_EQ(Dialect::For(other).Escape("a\\\nb'c"), "a\\\nb''c");
+}
+
 TEST(DialectText, DatabaseTypesAndDrivers) {
   const int types[] = {1, 2, 3, 5};
   const char* const drivers[] = {"QSQLITE", "QPSQL", "QMYSQL", "QODBC"};

@@ -34,8 +34,15 @@ class Dialect {
   virtual QString OpenAdvice(const QSqlError& error, const ConnectionSettings& settings) const = 0;
   // Statements that every session begins with.
   virtual QStringList SessionSetup(const ConnectionSettings& settings) const = 0;
-  // A SELECT that verifies the set-up: its one value must equal "1". Empty where there is nothing to verify.
+  // A SELECT that verifies the set-up: its first value must equal "1". The second is how the server encrypts this
+  // session, such as "TLSv1.3", and empty when it does not; the third the server's name of the session. Empty where
+  // there is nothing to verify.
   virtual QString SessionCheck() const { return {}; }
+  // True where a session that should be encrypted is known by the second value of the check.
+  virtual bool KnowsEncryption() const { return true; }
+  // Ends the statement under way of another session, known by the third value of its check. Empty where that takes
+  // more than a statement.
+  virtual QString StopStatement(const QString& session) const;
   virtual QString BeginStatement() const = 0;
   // Run before each statement where the session itself keeps an image of the tables that another client may have made
   // stale. Empty where the server looks after that.
@@ -49,8 +56,8 @@ class Dialect {
 
   virtual QString DateLiteral(const QDate& date) const;
   virtual QString DateTimeLiteral(const QDateTime& moment) const;
-  // Doubles each single quote; a backslash is an ordinary character on every engine.
-  QString Escape(const QString& text) const;
+  // The text as it stands inside of a literal: each single quote is doubled.
+  virtual QString Escape(const QString& text) const;
 
   AdoError Translate(const QSqlError& error, const QString& source) const;
   // True when the error says that the server is gone.

@@ -4,6 +4,8 @@
 #include <QVariant>
 #include <atomic>
 
+#include "platform/ado/DriverLink.h"
+
 namespace {
 
 const QString OpenSource = QStringLiteral("Connection.Open");
@@ -19,6 +21,11 @@ Session::Session(ConnectionSettings settings, const Dialect& dialect)
     : settings_(std::move(settings)), dialect_(dialect), handle_(NextHandle()) {}
 
 Session::~Session() {
+  End();
+  for (std::thread& stopper : stoppers_) stopper.join();
+}
+
+void Session::End() {
   Close();
   database_ = QSqlDatabase();
   if (QSqlDatabase::contains(handle_)) QSqlDatabase::removeDatabase(handle_);
@@ -27,8 +34,9 @@ Session::~Session() {
 void Session::Open() {
   CheckDriver();
   if (!database_.isValid()) database_ = QSqlDatabase::addDatabase(dialect_.DriverName(), handle_);
-  QString reason;
-  if (!dialect_.Prepare(database_, settings_, &reason)) throw AdoError(AdoNumber::Unspecified, reason, OpenSource);
+  QString reason = WhyNoEncryption(settings_);
+  if (!reason.isEmpty() || !dialect_.Prepare(database_, settings_, &reason))
+    throw AdoError(AdoNumber::Unspecified, reason, OpenSource);
   database_.setNumericalPrecisionPolicy(QSql::HighPrecision);
   if (!database_.open()) {
     const QSqlError error = database_.lastError();
@@ -36,6 +44,7 @@ void Session::Open() {
     throw AdoError(AdoNumber::Unspecified, WithoutPassword(advice + u'\n' + dialect_.EngineText(error)), OpenSource);
   }
   open_ = true;
+  KnowLink(true);
   SetUp();
 }
 
@@ -58,25 +67,97 @@ void Session::SetUp() {
     const quint32 number = dialect_.Translate(error, OpenSource).Number();
     const QString advice = dialect_.OpenAdvice(error, settings_);
     query = QSqlQuery();
-    Close();
-    throw AdoError(number, WithoutPassword(advice + u'\n' + dialect_.EngineText(error)), OpenSource);
+    GiveUp(advice + u'\n' + dialect_.EngineText(error), number);
   }
-  if (check.isEmpty() || (query.next() && query.value(0).toString() == u"1")) return;
+  if (check.isEmpty()) return;
+  const bool accepted = query.next() && query.value(0).toString() == u"1";
+  cipher_ = dialect_.KnowsEncryption() ? query.value(1).toString() : QString();
+  if (dialect_.KnowsEncryption()) {
+    const std::lock_guard<std::mutex> lock(link_);
+    name_ = query.value(2).toString();
+  }
   query = QSqlQuery();
+  if (!accepted) {
+    GiveUp(QStringLiteral("%1 did not accept the settings that every session needs. Ask the database's "
+                          "administrator to lift the server's limits on session settings.")
+               .arg(dialect_.EngineName()));
+  }
+  if (settings_.encryption != Encryption::Off && dialect_.KnowsEncryption() && cipher_.isEmpty())
+    GiveUp(LinkAdvice::NotEncrypted(dialect_.EngineName(), settings_));
+}
+
+void Session::GiveUp(const QString& reason, quint32 number) {
   Close();
-  throw AdoError(AdoNumber::Unspecified,
-                 QStringLiteral("%1 did not accept the settings that every session needs. Ask the database's "
-                                "administrator to lift the server's limits on session settings.")
-                     .arg(dialect_.EngineName()),
-                 OpenSource);
+  throw AdoError(number, WithoutPassword(reason), OpenSource);
+}
+
+QString Session::LinkDescription() const {
+  if (!open_) return QStringLiteral("not open");
+  if (settings_.engine == Engine::Sqlite) return QStringLiteral("a file");
+  const QString cipher = cipher_.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(cipher_);
+  switch (settings_.encryption) {
+    case Encryption::Off:
+      break;
+    case Encryption::Required:
+      return QStringLiteral("encrypted%1; the server's certificate is not verified").arg(cipher);
+    case Encryption::Verify:
+      return QStringLiteral("encrypted%1; the server's certificate is verified").arg(cipher);
+  }
+  if (!cipher.isEmpty()) return QStringLiteral("encrypted") + cipher;
+  if (!dialect_.KnowsEncryption()) return QStringLiteral("as the driver was told to make it");
+  return QStringLiteral("not encrypted");
 }
 
 void Session::Close() {
+  KnowLink(false);
   open_ = false;
+  cipher_.clear();
   if (database_.isValid()) database_.close();
 }
 
+// --- A statement that another thread wants to end ---
+
+void Session::KnowLink(bool open) {
+  const std::lock_guard<std::mutex> lock(link_);
+  socket_ = open ? DriverLink::SocketOf(database_) : -1;
+  embedded_ = open ? DriverLink::EmbeddedEngineOf(database_) : nullptr;
+  name_.clear();
+}
+
+void Session::Stop() {
+  const int number = statement_;
+  stopped_ = number;
+  const std::lock_guard<std::mutex> lock(link_);
+  if (embedded_) return DriverLink::Interrupt(embedded_);
+  const QString statement = name_.isEmpty() ? QString() : dialect_.StopStatement(name_);
+  if (statement.isEmpty()) return;
+  // Where the server hangs this hangs as well.
+  stoppers_.emplace_back([this, statement, number] {
+    AskToStop(settings_, dialect_, statement, [this, number] { return statement_ == number; });
+  });
+}
+
+void Session::AskToStop(const ConnectionSettings& settings, const Dialect& dialect, const QString& statement,
+                        const std::function<bool()>& stillRuns) {
+  try {
+    Session session(settings, dialect);
+    session.Open();
+    // The next statement is another one, which nobody wants to stop.
+    if (stillRuns()) session.Run(statement, OpenSource);
+  } catch (const AdoError&) {
+    // The link is cut in the end.
+  }
+}
+
+void Session::CutLink() {
+  const std::lock_guard<std::mutex> lock(link_);
+  DriverLink::Cut(socket_);
+}
+
+// --- Statements ---
+
 QSqlQuery Session::Run(const QString& statement, const QString& source) {
+  ++statement_;
   // A failure here comes again with the statement itself.
   if (const QString refresh = dialect_.SchemaRefresh(); !refresh.isEmpty()) QSqlQuery(database_).exec(refresh);
   QSqlQuery query(database_);
@@ -105,6 +186,8 @@ AdoError Session::Failed(const QSqlError& error, const QString& source) {
   AdoError translated = dialect_.Translate(error, source);
   // PostgreSQL's driver sometimes tells a loss only by being closed.
   const bool lost = translated.ConnectionLost() || !database_.isOpen();
+  if (!lost && stopped_ == statement_)
+    return {AdoNumber::Unspecified, QStringLiteral("The statement was stopped. ") + dialect_.EngineText(error), source};
   if (!lost) return translated;
   Close();
   if (translated.ConnectionLost()) return translated;

@@ -16,6 +16,23 @@ QString Enclosed(const QString& value) {
 
 }  // namespace
 
+namespace {
+
+// In the words of Microsoft's driver.
+QString EncryptionWords(Encryption encryption) {
+  switch (encryption) {
+    case Encryption::Off:
+      break;
+    case Encryption::Required:
+      return QStringLiteral("Encrypt=yes;TrustServerCertificate=yes");
+    case Encryption::Verify:
+      return QStringLiteral("Encrypt=yes;TrustServerCertificate=no");
+  }
+  return QStringLiteral("Encrypt=no");
+}
+
+}  // namespace
+
 bool SqlServerDialect::Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const {
   if (settings.name.isEmpty()) {
     *reason = QStringLiteral("No database is named. Set Name in the database section of the settings file.");
@@ -24,8 +41,8 @@ bool SqlServerDialect::Prepare(QSqlDatabase& database, const ConnectionSettings&
   QString source = settings.name;  // a data source or a whole connection string
   if (!settings.host.isEmpty()) {
     const QString port = settings.port == 0 ? QString() : u',' + QString::number(settings.port);
-    source = QStringLiteral("DRIVER={ODBC Driver 18 for SQL Server};SERVER=%1%2;DATABASE=%3")
-                 .arg(settings.host, port, Enclosed(settings.name));
+    source = QStringLiteral("DRIVER={ODBC Driver 18 for SQL Server};SERVER=%1%2;DATABASE=%3;%4")
+                 .arg(settings.host, port, Enclosed(settings.name), EncryptionWords(settings.encryption));
   }
   database.setDatabaseName(source);
   database.setUserName(Enclosed(settings.user));
@@ -86,6 +103,14 @@ QString SqlServerDialect::Carry(const QString& statement, const ConnectionSettin
   LongTexts(tokens);
   StatementWords::ColumnType(tokens, "TIMESTAMP", QStringLiteral("DATETIME2(0)"));
   return Join(tokens);
+}
+
+// A backslash before a line end joins the lines, and both are gone ("Backslash (Line Continuation)" of the server's
+// reference): they stand twice.
+QString SqlServerDialect::Escape(const QString& text) const {
+  QString escaped = Dialect::Escape(text);
+  return escaped.replace(QLatin1String("\\\r\n"), QLatin1String("\\\\\r\n\r\n"))
+      .replace(QLatin1String("\\\n"), QLatin1String("\\\\\n\n"));
 }
 
 // Without hyphens a date is read in the same way under every language and date format of the server.
