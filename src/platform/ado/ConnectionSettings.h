@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+#include <functional>
 
 #include "platform/ado/Encryption.h"
 
@@ -17,4 +19,6 @@ struct ConnectionSettings {
   Encryption encryption = Encryption::Off;
   QString options;      // further options in the driver's own words, joined by ";"
   QString ownerPrefix;  // as it stands before table names in SQL, closing point included; may be empty
+  // The columns of a table's key, upper case; none where it is not known. Rows that tie stand in their order.
+  std::function<QStringList(const QString& table)> keyOf = {};
 };

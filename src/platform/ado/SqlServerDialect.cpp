@@ -3,6 +3,8 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 
+#include "platform/ado/StatementOrder.h"
+#include "platform/ado/StatementPatterns.h"
 #include "platform/ado/StatementWords.h"
 
 namespace {
@@ -76,10 +78,14 @@ QString SqlServerDialect::OpenAdvice(const QSqlError& error, const ConnectionSet
 }
 
 QStringList SqlServerDialect::SessionSetup(const ConnectionSettings&) const {
-  return {QStringLiteral("SET XACT_ABORT ON"),     QStringLiteral("SET NOCOUNT OFF"),
+  return {QStringLiteral("SET XACT_ABORT ON"), QStringLiteral("SET NOCOUNT OFF"),
           QStringLiteral("SET LOCK_TIMEOUT 5000"), QStringLiteral("SET ANSI_NULLS ON"),
-          QStringLiteral("SET ANSI_PADDING ON"),   QStringLiteral("SET QUOTED_IDENTIFIER ON"),
-          QStringLiteral("SET DATEFORMAT ymd")};
+          QStringLiteral("SET ANSI_PADDING ON"), QStringLiteral("SET QUOTED_IDENTIFIER ON"),
+          QStringLiteral("SET DATEFORMAT ymd"),
+          // A table with an index of a part of its rows refuses every change without these.
+          QStringLiteral("SET ANSI_WARNINGS ON"), QStringLiteral("SET ARITHABORT ON"),
+          QStringLiteral("SET CONCAT_NULL_YIELDS_NULL ON"), QStringLiteral("SET NUMERIC_ROUNDABORT OFF"),
+          QStringLiteral("SET TRANSACTION ISOLATION LEVEL READ COMMITTED")};
 }
 
 namespace {
@@ -96,12 +102,16 @@ void LongTexts(StatementWords::Tokens& tokens) {
 
 }  // namespace
 
-QString SqlServerDialect::Carry(const QString& statement, const ConnectionSettings&) const {
+QString SqlServerDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
   StatementWords::Tokens tokens = Tokenize(statement);
+  StatementWords::NationalLiterals(tokens);
   // VARCHAR holds one code page only, and TIMESTAMP is no time at all but a row version.
   StatementWords::ColumnType(tokens, "VARCHAR", QStringLiteral("NVARCHAR"));
   LongTexts(tokens);
   StatementWords::ColumnType(tokens, "TIMESTAMP", QStringLiteral("DATETIME2(0)"));
+  StatementWords::OrderTies(tokens, settings.keyOf);
+  // The columns compare letter by letter; a pattern does not.
+  StatementWords::Patterns(tokens, {{}, {}, QStringLiteral("Latin1_General_100_CI_AS_KS_WS_SC"), {}, {}});
   return Join(tokens);
 }
 
