@@ -12,6 +12,7 @@
 
 class QSqlDatabase;
 class QSqlError;
+class Recording;
 
 // What one engine needs otherwise than the shared words of the system. One class for each engine, no state.
 class Dialect {
@@ -34,9 +35,14 @@ class Dialect {
   virtual QString OpenAdvice(const QSqlError& error, const ConnectionSettings& settings) const = 0;
   // Statements that every session begins with.
   virtual QStringList SessionSetup(const ConnectionSettings& settings) const = 0;
-  // A SELECT that verifies the set-up: its one value must equal "1". Empty where there is nothing to verify.
-  virtual QString SessionCheck() const { return {}; }
+  // A SELECT of one row: "1" when the set-up holds, and the number of tables named ID_HISTORY_CHANGE that are there.
+  virtual QString SessionCheck() const = 0;
   virtual QString BeginStatement() const = 0;
+  // The same in a session that told its user to the recording of changes.
+  virtual QString BeginRecorded() const { return BeginStatement(); }
+  // False where each definition of a table or trigger ends the transaction.
+  virtual bool DefinesInTransactions() const { return true; }
+  virtual const Recording& recording() const = 0;
   // Run before each statement where the session itself keeps an image of the tables that another client may have made
   // stale. Empty where the server looks after that.
   virtual QString SchemaRefresh() const { return {}; }

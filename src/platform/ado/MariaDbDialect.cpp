@@ -4,6 +4,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 
+#include "platform/ado/MariaDbRecording.h"
 #include "platform/ado/StatementWords.h"
 
 bool MariaDbDialect::Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const {
@@ -71,7 +72,14 @@ QString MariaDbDialect::SessionCheck() const {
   return QStringLiteral(
       "SELECT FIND_IN_SET('NO_BACKSLASH_ESCAPES', @@sql_mode) > 0 AND FIND_IN_SET('STRICT_TRANS_TABLES', @@sql_mode) > "
       "0 "
-      "AND FIND_IN_SET('ANSI_QUOTES', @@sql_mode) > 0 AND @@autocommit = 1");
+      "AND FIND_IN_SET('ANSI_QUOTES', @@sql_mode) > 0 AND @@autocommit = 1, "
+      "(SELECT COUNT(*) FROM INFORMATION_SCHEMA.TABLES WHERE TABLE_SCHEMA = DATABASE() AND TABLE_NAME = "
+      "'ID_HISTORY_CHANGE')");
+}
+
+const Recording& MariaDbDialect::recording() const {
+  static const MariaDbRecording recording;
+  return recording;
 }
 
 QString MariaDbDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {

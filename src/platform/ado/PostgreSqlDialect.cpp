@@ -3,6 +3,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 
+#include "platform/ado/PostgreSqlRecording.h"
 #include "platform/ado/StatementWords.h"
 
 bool PostgreSqlDialect::Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const {
@@ -64,7 +65,13 @@ QStringList PostgreSqlDialect::SessionSetup(const ConnectionSettings& settings) 
 QString PostgreSqlDialect::SessionCheck() const {
   return QStringLiteral(
       "SELECT CASE WHEN current_setting('standard_conforming_strings') = 'on' AND "
-      "pg_client_encoding() = 'UTF8' THEN 1 ELSE 0 END");
+      "pg_client_encoding() = 'UTF8' THEN 1 ELSE 0 END, "
+      "CASE WHEN to_regclass('id_history_change') IS NULL THEN 0 ELSE 1 END");
+}
+
+const Recording& PostgreSqlDialect::recording() const {
+  static const PostgreSqlRecording recording;
+  return recording;
 }
 
 QString PostgreSqlDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {

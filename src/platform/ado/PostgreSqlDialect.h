@@ -14,6 +14,7 @@ class PostgreSqlDialect : public Dialect {
   QStringList SessionSetup(const ConnectionSettings& settings) const override;
   QString SessionCheck() const override;
   QString BeginStatement() const override { return QStringLiteral("BEGIN"); }
+  const Recording& recording() const override;
   bool ReadsForwardOnly() const override { return false; }
   QString Carry(const QString& statement, const ConnectionSettings& settings) const override;
   QString EngineText(const QSqlError& error) const override;

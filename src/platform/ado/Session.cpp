@@ -4,6 +4,8 @@
 #include <QVariant>
 #include <atomic>
 
+#include "platform/ado/Recording.h"
+
 namespace {
 
 const QString OpenSource = QStringLiteral("Connection.Open");
@@ -49,19 +51,18 @@ void Session::CheckDriver() const {
 
 void Session::SetUp() {
   QSqlQuery query(database_);
-  QStringList statements = dialect_.SessionSetup(settings_);
-  const QString check = dialect_.SessionCheck();
-  if (!check.isEmpty()) statements += check;
-  for (const QString& statement : statements) {
-    if (query.exec(statement)) continue;
-    const QSqlError error = query.lastError();
-    const quint32 number = dialect_.Translate(error, OpenSource).Number();
-    const QString advice = dialect_.OpenAdvice(error, settings_);
-    query = QSqlQuery();
-    Close();
-    throw AdoError(number, WithoutPassword(advice + u'\n' + dialect_.EngineText(error)), OpenSource);
-  }
-  if (check.isEmpty() || (query.next() && query.value(0).toString() == u"1")) return;
+  for (const QString& statement : dialect_.SessionSetup(settings_))
+    if (!query.exec(statement)) RefuseSetUp(query);
+  Check();
+  if (told_) TellRecording();
+}
+
+void Session::Check() {
+  QSqlQuery query(database_);
+  if (!query.exec(dialect_.SessionCheck())) RefuseSetUp(query);
+  const bool accepted = query.next() && query.value(0).toString() == u"1";
+  hasHistory_ = accepted && query.value(1).toInt() > 0;
+  if (accepted) return;
   query = QSqlQuery();
   Close();
   throw AdoError(AdoNumber::Unspecified,
@@ -71,8 +72,42 @@ void Session::SetUp() {
                  OpenSource);
 }
 
+void Session::RefuseSetUp(QSqlQuery& query) {
+  const QSqlError error = query.lastError();
+  const quint32 number = dialect_.Translate(error, OpenSource).Number();
+  const QString advice = dialect_.OpenAdvice(error, settings_);
+  query = QSqlQuery();
+  Close();
+  throw AdoError(number, WithoutPassword(advice + u'\n' + dialect_.EngineText(error)), OpenSource);
+}
+
+void Session::Tell(const QString& user, const QString& program) {
+  told_ = true;
+  user_ = user;
+  program_ = program;
+  if (open_) TellRecording();
+}
+
+void Session::TellRecording() {
+  if (!hasHistory_) return;
+  for (const QString& statement : dialect_.recording().Told(user_, program_)) {
+    QSqlQuery query(database_);
+    if (query.exec(statement)) continue;
+    const QSqlError error = query.lastError();
+    query = QSqlQuery();
+    throw Failed(error, OpenSource);
+  }
+  recorded_ = true;
+}
+
+void Session::MarkUnit() {
+  if (!recorded_) return;
+  // It fails only with the session, which the statement itself finds.
+  if (const QString mark = dialect_.recording().UnitMark(); !mark.isEmpty()) QSqlQuery(database_).exec(mark);
+}
+
 void Session::Close() {
-  open_ = false;
+  open_ = hasHistory_ = recorded_ = false;
   if (database_.isValid()) database_.close();
 }
 
@@ -82,6 +117,14 @@ QSqlQuery Session::Run(const QString& statement, const QString& source) {
   QSqlQuery query(database_);
   query.setForwardOnly(dialect_.ReadsForwardOnly());
   if (query.exec(dialect_.Carry(statement, settings_))) return query;
+  const QSqlError error = query.lastError();
+  query = QSqlQuery();
+  throw Failed(error, source);
+}
+
+void Session::Define(const QString& text, const QString& source) {
+  QSqlQuery query(database_);
+  if (query.exec(text)) return;
   const QSqlError error = query.lastError();
   query = QSqlQuery();
   throw Failed(error, source);

@@ -26,8 +26,17 @@ class Session {
   // The engine rolls back what is open.
   void Close();
 
+  // Tells who is at work to the recording of changes, where the database has one; again each time it is opened.
+  void Tell(const QString& user, const QString& program);
+  // True where the recording was told the user.
+  bool IsRecorded() const { return recorded_; }
+  // A transaction, or a statement outside of one, is about to begin.
+  void MarkUnit();
+
   // One statement of the shared words. The query stands before its first row.
   QSqlQuery Run(const QString& statement, const QString& source);
+  // A text in the engine's own words.
+  void Define(const QString& text, const QString& source);
   // Names and types of its columns, without a word to the server.
   static QSqlRecord Shape(QSqlQuery& query);
   // To be called after the last row: a reading that broke off is an AdoError.
@@ -38,6 +47,10 @@ class Session {
  private:
   void CheckDriver() const;
   void SetUp();
+  void Check();
+  void TellRecording();
+  // Closes and throws.
+  [[noreturn]] void RefuseSetUp(QSqlQuery& query);
   QString WithoutPassword(QString text) const;
 
   const ConnectionSettings settings_;
@@ -45,4 +58,8 @@ class Session {
   const QString handle_;  // QtSql's name of the connection
   QSqlDatabase database_;
   bool open_ = false;
+  bool hasHistory_ = false;
+  bool recorded_ = false;
+  bool told_ = false;
+  QString user_, program_;  // for the recording
 };

@@ -14,7 +14,9 @@ class SqlServerDialect : public Dialect {
   bool Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const override;
   QString OpenAdvice(const QSqlError& error, const ConnectionSettings& settings) const override;
   QStringList SessionSetup(const ConnectionSettings& settings) const override;
+  QString SessionCheck() const override;
   QString BeginStatement() const override { return QStringLiteral("BEGIN TRANSACTION"); }
+  const Recording& recording() const override;
   bool ReadsForwardOnly() const override { return true; }
   QString Carry(const QString& statement, const ConnectionSettings& settings) const override;
   QString DateLiteral(const QDate& date) const override;

@@ -16,6 +16,7 @@ class SqliteDialect : public Dialect {
   QStringList SessionSetup(const ConnectionSettings& settings) const override;
   QString SessionCheck() const override;
   QString BeginStatement() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
+  const Recording& recording() const override;
   // Qt's driver counts a statement's columns once; when another client has added a column since the session last
   // looked, the engine prepares the statement anew with more of them while it runs, and the driver writes past its row.
   QString SchemaRefresh() const override { return QStringLiteral("SELECT 1 FROM sqlite_master LIMIT 1"); }
