@@ -5,6 +5,9 @@
 -- is kept in every language of the site: for each code XXX in ID_LANGUAGE_CODE the table has one more column with the
 -- same type, named as the marked one and "_XXX". Those columns stand behind all others. "tabulon-db" adds them.
 --
+-- The word "history" behind the name of a table marks one that only a site with a history of changes has: "tabulon-db
+-- history on" makes it.
+--
 -- What has no foreign key here has none on purpose: a row may outlive, or come before, the one it names.
 
 -- Users who log on to the programs; the password is a salted digest
@@ -1073,3 +1076,31 @@ CREATE INDEX IX_LIBRARY_RAPID_CODE ON ID_LIBRARY (RAPID_CODE);
 CREATE INDEX IX_LIBRARY_AGENT_SYMBOL ON ID_LIBRARY (AGENT_SYMBOL);
 CREATE INDEX IX_REQUEST_LIBRARY ON ID_REQUEST (LIBRARY_ID);
 CREATE INDEX IX_AGENCY_ID_RECEIVE ON ID_ISO18626_AGENCY_ID_RECEIVE (ISO18626_AGENCY_ID);
+
+-- Transactions that changed settings or rights; the first row tells when the recording began. MOMENT is UTC, as
+-- "yyyy-MM-dd hh:mm:ss.zzz"
+CREATE TABLE ID_HISTORY_TRANSACTION ( -- history
+  TRANSACTION_ID IDENTITY NOT NULL,
+  MOMENT VARCHAR(23) NOT NULL,
+  USER_ID VARCHAR(100),
+  PROGRAM VARCHAR(100),
+  PRIMARY KEY (TRANSACTION_ID)
+);
+
+-- Rows that a transaction added (KIND I), changed (U) or removed (D). ROW_KEY holds the values of the row's key, parted
+-- by U+001F, U+001E being NULL; the values are JSON objects by column
+CREATE TABLE ID_HISTORY_CHANGE ( -- history
+  CHANGE_ID IDENTITY NOT NULL,
+  TRANSACTION_ID INTEGER NOT NULL,
+  TABLE_NAME VARCHAR(40) NOT NULL,
+  ROW_KEY VARCHAR(250) NOT NULL,
+  KIND VARCHAR(1) NOT NULL,
+  OLD_VALUES TEXT,
+  NEW_VALUES TEXT,
+  PRIMARY KEY (CHANGE_ID)
+);
+
+CREATE INDEX IX_HISTORY_MOMENT ON ID_HISTORY_TRANSACTION (MOMENT);
+CREATE INDEX IX_HISTORY_USER ON ID_HISTORY_TRANSACTION (USER_ID, TRANSACTION_ID);
+CREATE INDEX IX_HISTORY_CHANGE ON ID_HISTORY_CHANGE (TRANSACTION_ID);
+CREATE INDEX IX_HISTORY_ROW ON ID_HISTORY_CHANGE (TABLE_NAME, ROW_KEY);

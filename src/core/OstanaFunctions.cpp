@@ -247,6 +247,7 @@ bool OstanaFunctions::ID_ValidateLogin(const QString& user, const QString& passw
   try {
     QString reason;
     if (!d_->userRights.Read(Connection(), user, password, function, d_->rights, reason)) return d_->Refuse(reason);
+    Connection().Tell(user, d_->applicationName);
   } catch (const AdoError& error) {
     d_->lastError = error.Description();
     throw;

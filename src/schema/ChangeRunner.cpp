@@ -29,6 +29,11 @@ std::optional<Row> KeyCells(const TableDifference& difference, const QStringList
   return cells;
 }
 
+bool MayBeParked(const SchemaTable& table, const QString& column) {
+  return std::any_of(table.uniqueKeys.begin(), table.uniqueKeys.end(),
+                     [&](const QStringList& key) { return key.contains(column); });
+}
+
 }  // namespace
 
 void ChangeRunner::Run(const std::vector<TableDifference>& differences) {
@@ -83,11 +88,15 @@ void ChangeRunner::ParkKey(const TableDifference& difference, const QStringList&
 void ChangeRunner::Update(const TableDifference& difference) {
   for (const TableDifference::Change& change : difference.changed) {
     QStringList sets;
-    for (const size_t i : change.columns)
-      sets += difference.columns[i].name + " = " + Value(difference.columns[i], change.first[i]);
+    QString asRead;  // nobody has changed it meanwhile
+    for (const size_t i : change.columns) {
+      const SchemaColumn& column = difference.columns[i];
+      sets += column.name + " = " + Value(column, change.first[i]);
+      if (!MayBeParked(*difference.table, column.name)) asRead += " AND " + Condition(column, change.second[i]);
+    }
     const qint64 rows = Execute(difference, change.second, "changed",
                                 "UPDATE " + SchemaSql::Table(connection_, difference.table->name) + " SET " +
-                                    sets.join(", ") + Where(difference, change.second));
+                                    sets.join(", ") + Where(difference, change.second) + asRead);
     if (rows != 1)
       RefuseRow(difference, change.second, "changed", QStringLiteral("The database holds it %1 times.").arg(rows));
   }

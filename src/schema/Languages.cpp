@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <functional>
 
+#include "platform/ado/Dialect.h"
 #include "platform/ado/Recordset.h"
+#include "schema/History.h"
 #include "schema/SchemaSql.h"
 #include "schema/SchemaStatements.h"
 
@@ -31,9 +33,11 @@ void ForEachDescription(const std::function<void(const SchemaTable&, const Schem
 int AddAll(Connection& connection, const Languages::Language& language, bool legacyColumns) {
   int added = Languages::AddColumns(connection, language.code);
   if (!Languages::Codes(connection).contains(language.code)) Languages::AddRow(connection, language);
-  Languages::FillEmptyDescriptions(connection, {language.code});
   if (legacyColumns)
     for (const QString& code : Languages::Codes(connection)) added += Languages::AddLegacyColumns(connection, code);
+  // What goes into the new columns is recorded as well.
+  if (History::IsOn(connection)) History::TurnOn(connection);
+  Languages::FillEmptyDescriptions(connection, {language.code});
   return added;
 }
 
@@ -93,8 +97,7 @@ void Languages::FillEmptyDescriptions(Connection& connection, const QStringList&
 }
 
 int Languages::Add(Connection& connection, const Language& language, bool legacyColumns) {
-  // MariaDB commits at each change of a table.
-  if (connection.Settings().engine == Engine::MariaDb) return AddAll(connection, language, legacyColumns);
+  if (!connection.dialect().DefinesInTransactions()) return AddAll(connection, language, legacyColumns);
   Transaction transaction(connection);
   const int added = AddAll(connection, language, legacyColumns);
   transaction.Commit();

@@ -57,7 +57,9 @@ class Parser {
   }
 
   void NoteMark(const QString& comment) {
-    if (marked_ && comment.mid(2).trimmed() == u"language") marked_->language = true;
+    const QString mark = comment.mid(2).trimmed();
+    if (marked_ && mark == u"language") marked_->language = true;
+    if (table_ && !marked_ && mark == u"history") table_->history = true;
   }
 
   QString Next() {
@@ -106,10 +108,12 @@ class Parser {
     table.description = comment_;
     table.name = Next();
     Expect("(");
+    table_ = &table;
     do Element(table);
     while (Accept(","));
     Expect(")");
     marked_ = nullptr;
+    table_ = nullptr;
     return table;
   }
 
@@ -136,8 +140,11 @@ class Parser {
       const QStringList sizes = Names();
       column.size = sizes.at(0).toInt();
       column.scale = sizes.value(1).toInt();
-    } else if (type == u"INTEGER") {
+    } else if (type == u"TEXT") {
+      column.type = SchemaColumn::Text;
+    } else if (type == u"INTEGER" || type == u"IDENTITY") {
       column.type = SchemaColumn::Integer;
+      column.identity = type == u"IDENTITY";
     } else if (type == u"DATE") {
       column.type = SchemaColumn::Date;
     } else if (type == u"TIMESTAMP") {
@@ -171,6 +178,7 @@ class Parser {
   std::vector<SqlToken> tokens_;
   size_t position_ = 0;
   QString comment_;
+  SchemaTable* table_ = nullptr;    // the table whose elements are read
   SchemaColumn* marked_ = nullptr;  // the column that a comment behind it speaks of
 };
 
@@ -179,6 +187,20 @@ const Named* FindNamed(const std::vector<Named>& all, const QString& name) {
   const auto found = std::find_if(all.begin(), all.end(),
                                   [&](const Named& one) { return one.name.compare(name, Qt::CaseInsensitive) == 0; });
   return found == all.end() ? nullptr : &*found;
+}
+
+const SchemaModel& Whole() {
+  static const SchemaModel model = SchemaModel::Parse(SqlScript::Text("schema.sql"));
+  return model;
+}
+
+SchemaModel Part(SchemaModel model, bool history) {
+  std::erase_if(model.indexes, [&](const SchemaIndex& index) {
+    const SchemaTable* const table = model.Find(index.table);
+    return table && table->history != history;
+  });
+  std::erase_if(model.tables, [&](const SchemaTable& table) { return table.history != history; });
+  return model;
 }
 
 }  // namespace
@@ -196,7 +218,12 @@ SchemaModel SchemaModel::Parse(const QString& text) {
 }
 
 const SchemaModel& SchemaModel::Get() {
-  static const SchemaModel model = Parse(SqlScript::Text("schema.sql"));
+  static const SchemaModel model = Part(Whole(), false);
+  return model;
+}
+
+const SchemaModel& SchemaModel::History() {
+  static const SchemaModel model = Part(Whole(), true);
   return model;
 }
 

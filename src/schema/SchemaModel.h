@@ -11,9 +11,10 @@ struct SchemaColumn {
 
   QString name;
   Type type = Text;
-  int size = 0;   // characters of a text, digits of a Numeric
+  int size = 0;   // characters of a text, 0 without limit; digits of a Numeric
   int scale = 0;  // digits behind the decimal point
   bool required = false;
+  bool identity = false;  // an Integer that the engine counts up by itself
   bool language = false;  // one more column for each language of the site, see LanguageColumn
 };
 
@@ -27,6 +28,7 @@ struct SchemaForeignKey {
 struct SchemaTable {
   QString name;
   QString description;
+  bool history = false;  // one of those that "tabulon-db history on" makes
   std::vector<SchemaColumn> columns;
   QStringList primaryKey;  // empty where the table has none
   std::vector<QStringList> uniqueKeys;
@@ -49,8 +51,10 @@ struct SchemaModel {
 
   // Reads the text of a schema file. std::runtime_error with the place where it cannot be understood.
   static SchemaModel Parse(const QString& text);
-  // The schema that the tools carry with them.
+  // The tables of every site, of the schema that the tools carry with them.
   static const SchemaModel& Get();
+  // Those of the history of changes.
+  static const SchemaModel& History();
 };
 
 // Name of the column that holds `column` in a language: base name, "_" and the code.

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "platform/ado/Dialect.h"
+#include "platform/ado/Recording.h"
+
 namespace {
 
 bool BeginsWith(const QStringList& key, const QStringList& columns) {
@@ -38,6 +41,7 @@ QString SchemaStatements::Names(const QStringList& columns) const {
 QString SchemaStatements::Type(const SchemaColumn& column) const {
   switch (column.type) {
     case SchemaColumn::Text:
+      if (column.size == 0) return Dialect::For(engine_).recording().LongTextType();
       // The collation tells codes apart that differ in letter case or accents alone, as SQLite and PostgreSQL do.
       if (engine_ == Engine::SqlServer)
         return QStringLiteral("NVARCHAR(%1) COLLATE Latin1_General_100_BIN2").arg(column.size);
@@ -45,7 +49,7 @@ QString SchemaStatements::Type(const SchemaColumn& column) const {
       if (engine_ == Engine::PostgreSql) return QStringLiteral("VARCHAR(%1) COLLATE \"C\"").arg(column.size);
       return QStringLiteral("VARCHAR(%1)").arg(column.size);
     case SchemaColumn::Integer:
-      return QStringLiteral("INTEGER");
+      return column.identity ? Dialect::For(engine_).recording().IdentityType() : QStringLiteral("INTEGER");
     case SchemaColumn::Numeric:
       return QStringLiteral("NUMERIC(%1,%2)").arg(column.size).arg(column.scale);
     case SchemaColumn::Date:
@@ -60,7 +64,8 @@ QString SchemaStatements::Type(const SchemaColumn& column) const {
 
 // SQLite stores anything in any column: these conditions refuse what the other engines refuse by the type.
 QString SchemaStatements::Check(const SchemaColumn& column) const {
-  if (engine_ != Engine::Sqlite) return {};
+  if (engine_ != Engine::Sqlite || column.identity || (column.type == SchemaColumn::Text && column.size == 0))
+    return {};
   const QString name = Name(column.name);
   const auto number = [&](const QString& types, const QString& limit) {
     return QStringLiteral(" CHECK (%1 IS NULL OR (typeof(%1) IN (%2) AND %1 > -%3 AND %1 < %3))")

@@ -170,7 +170,8 @@ Cell Content::Canonical(const SchemaColumn& column, const QString& text) {
   return std::nullopt;
 }
 
-TableContent Content::Read(Connection& connection, const SchemaTable& table, const Secrets& secrets) {
+TableContent Content::Read(Connection& connection, const SchemaTable& table, const Secrets& secrets,
+                           const QString& where) {
   QStringList present;
   for (const ColumnInfo& info : connection.Columns(table.name)) present += info.name;
   TableContent content{&table, KnownColumns(table, present), {}};
@@ -183,7 +184,7 @@ TableContent Content::Read(Connection& connection, const SchemaTable& table, con
   QStringList names;
   for (const SchemaColumn& column : content.columns) names += column.name;
   Recordset rows;
-  rows.Open(connection, "SELECT " + names.join(", ") + " FROM " + SchemaSql::Table(connection, table.name));
+  rows.Open(connection, "SELECT " + names.join(", ") + " FROM " + SchemaSql::Table(connection, table.name) + where);
   for (; !rows.EOF_(); rows.MoveNext()) {
     Row row;
     for (int field = 0; field < rows.FieldCount(); ++field)

@@ -65,8 +65,9 @@ QStringList OrderOf(const QString& table);
 // The one form of a value; nothing when the text is no value of the column's type. Lengths are the database's matter.
 Cell Canonical(const SchemaColumn& column, const QString& text);
 
-// All rows, ordered by key. std::runtime_error when the database lacks the table or holds what is no value.
-TableContent Read(Connection& connection, const SchemaTable& table, const Secrets& secrets);
+// All rows, or those of a condition (" WHERE ..."), ordered by key. std::runtime_error when the database lacks the
+// table or holds what is no value.
+TableContent Read(Connection& connection, const SchemaTable& table, const Secrets& secrets, const QString& where = {});
 void Sort(TableContent& content);
 
 }  // namespace Content

@@ -1,3 +1,4 @@
+#include "schema/History.h"
 #include "tools/Command.h"
 #include "tools/DatabaseCheck.h"
 #include "tools/Terminal.h"
@@ -9,7 +10,8 @@ int RunCheck(const QStringList& arguments) {
   int exitCode = 0;
   if (!command.Parse(arguments, 0, 0, exitCode)) return exitCode;
   return WithDatabase(command, [](Connection& connection, const SiteSettings& settings) {
-    const DatabaseCheck found = CheckDatabase(connection, !settings.singleLanguage);
+    DatabaseCheck found = CheckDatabase(connection, !settings.singleLanguage);
+    found.gaps += History::Gaps(connection);
     for (const QString& note : found.notes) Terminal::Print("Note: " + note);
     for (const QString& gap : found.gaps) Terminal::Print(gap);
     if (!found.gaps.isEmpty()) return Refuse(QStringLiteral("The database has %1 gaps.").arg(found.gaps.size()));

@@ -20,7 +20,8 @@ const std::vector<Command>& Commands() {
       {"user", "Adds, changes, removes and lists users and their rights.", RunUser},
       {"export", "Writes the settings of a site to a text file.", RunExport},
       {"compare", "Tells what differs between a file, a database and that of another site.", RunCompare},
-      {"apply", "Carries the settings of a file into the database of a site.", RunApply}};
+      {"apply", "Carries the settings of a file into the database of a site.", RunApply},
+      {"history", "Records changes of settings and rights, lists them and takes them back.", RunHistory}};
   return commands;
 }
 
@@ -48,6 +49,12 @@ QString Wrapped(const QString& text) {
     line += (line.isEmpty() ? "" : " ") + word;
   }
   return lines + line;
+}
+
+QString SystemUser() {
+  for (const char* variable : {"USER", "LOGNAME", "USERNAME"})
+    if (const QString user = qEnvironmentVariable(variable); !user.isEmpty()) return user;
+  return {};
 }
 
 // --site may stand before the command too.
@@ -119,6 +126,8 @@ SiteSettings ReadSite(const QString& site) {
 }
 
 void OpenDatabase(Connection& connection) {
+  // A site's history tells who ran the tool.
+  connection.Tell(SystemUser(), "tabulon-db");
   connection.Open();
   if (!DatabaseBuilder::HasTables(connection))
     throw std::runtime_error("The database holds no tables of Ostana. Make them with tabulon-db create.");
@@ -144,6 +153,20 @@ int WithDatabase(const CommandArguments& arguments, const std::function<int(Conn
     OpenDatabase(connection);
     return body(connection, settings);
   });
+}
+
+int RunAction(const QString& command, const std::vector<Command>& actions, const QStringList& arguments) {
+  const QString name = arguments.value(0);
+  if (name == u"--help" || name == u"-h") {
+    QString text = "Usage: tabulon-db " + command + " ACTION [options]\n\nActions:\n";
+    for (const Command& action : actions) text += "  " + action.name.leftJustified(10) + action.summary + '\n';
+    Terminal::Print(text + "\nEach action tells more with --help.");
+    return ExitCode::Done;
+  }
+  const auto action =
+      std::find_if(actions.begin(), actions.end(), [&](const Command& one) { return one.name == name; });
+  if (action != actions.end()) return action->run(arguments.mid(1));
+  return RefuseUsage(name.isEmpty() ? "An action is missing." : "There is no action \"" + name + "\".", command);
 }
 
 int RunTabulonDb(const QStringList& given) {

@@ -32,6 +32,7 @@ class CommandArguments {
   QStringList Positional() const { return parser_.positionalArguments(); }
   bool IsSet(const QString& option) const { return parser_.isSet(option); }
   QString Value(const QString& option) const { return parser_.value(option); }
+  QStringList Values(const QString& option) const { return parser_.values(option); }
 
  private:
   QString HelpText() const;
@@ -61,6 +62,9 @@ struct Command {
   int (*run)(const QStringList& arguments);  // without the command's name
 };
 
+// Runs the action of a command that has several, or lists them for --help.
+int RunAction(const QString& command, const std::vector<Command>& actions, const QStringList& arguments);
+
 int RunCreate(const QStringList& arguments);
 int RunCheck(const QStringList& arguments);
 int RunAddLanguage(const QStringList& arguments);
@@ -69,6 +73,7 @@ int RunUser(const QStringList& arguments);
 int RunExport(const QStringList& arguments);
 int RunCompare(const QStringList& arguments);
 int RunApply(const QStringList& arguments);
+int RunHistory(const QStringList& arguments);
 
 // All of tabulon-db but its main: the arguments of the process without the program's name.
 int RunTabulonDb(const QStringList& arguments);

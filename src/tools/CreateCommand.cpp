@@ -2,6 +2,7 @@
 #include <QFile>
 
 #include "core/PasswordCipher.h"
+#include "schema/History.h"
 #include "schema/SchemaModel.h"
 #include "tools/Command.h"
 #include "tools/DatabaseBuilder.h"
@@ -32,6 +33,7 @@ void AddSampleAdministrator(Connection& connection) {
 void MakeSample(Connection& connection) {
   DatabaseBuilder::Create(connection, DatabaseBuilder::Rows::Sample, SampleLanguages);
   AddSampleAdministrator(connection);
+  History::TurnOn(connection);
 }
 
 int Fill(const ConnectionSettings& settings, bool sample) {

@@ -189,22 +189,8 @@ const std::vector<Command>& Actions() {
   return actions;
 }
 
-QString Overview() {
-  QString text = "Usage: tabulon-db user ACTION [options]\n\nActions:\n";
-  for (const Command& action : Actions()) text += "  " + action.name.leftJustified(10) + action.summary + '\n';
-  return text + "\nEach action tells more with --help.";
-}
-
 }  // namespace
 
 int RunUser(const QStringList& arguments) {
-  const QString name = arguments.value(0);
-  if (name == u"--help" || name == u"-h") {
-    Terminal::Print(Overview());
-    return ExitCode::Done;
-  }
-  const auto action =
-      std::find_if(Actions().begin(), Actions().end(), [&](const Command& one) { return one.name == name; });
-  if (action != Actions().end()) return action->run(arguments.mid(1));
-  return RefuseUsage(name.isEmpty() ? "An action is missing." : "There is no action \"" + name + "\".", "user");
+  return RunAction("user", Actions(), arguments);
 }

@@ -68,8 +68,10 @@ qint64 Connection::Private::Observed(const QString& text, int allowed, const QSt
 }
 
 qint64 Connection::Private::RunOne(const QString& statement, const QString& source) {
+  const bool modifies = StatementWords::IsModification(statement);
+  if (modifies && unit == Unit::None) session.MarkUnit();
   QSqlQuery query = session.Run(statement, source);
-  if (StatementWords::IsModification(statement)) return query.numRowsAffected();
+  if (modifies) return query.numRowsAffected();
   columns.clear();  // whatever else it was, it may have changed tables
   return 0;
 }
@@ -114,7 +116,11 @@ void Connection::BeginTrans() {
   }
   d_->unit = Private::Unit::None;
   d_->EnsureOpen();
-  d_->driver.Call([&] { d_->session.Run(d_->session.dialect().BeginStatement(), source); });
+  d_->driver.Call([&] {
+    d_->session.MarkUnit();
+    const Dialect& dialect = d_->session.dialect();
+    d_->session.Run(d_->session.IsRecorded() ? dialect.BeginRecorded() : dialect.BeginStatement(), source);
+  });
   d_->unit = Private::Unit::Open;
   d_->lastOfUnit.clear();
 }
@@ -195,6 +201,21 @@ QStringList Connection::Tables() {
     d_->NoteFailure();
     throw;
   }
+}
+
+void Connection::Define(const QString& text) {
+  d_->CheckReady(ExecuteSource);
+  d_->columns.clear();
+  try {
+    d_->session.Define(text, ExecuteSource);
+  } catch (const AdoError&) {
+    d_->NoteFailure();
+    throw;
+  }
+}
+
+void Connection::Tell(const QString& user, const QString& program) {
+  d_->session.Tell(user, program);
 }
 
 const Dialect& Connection::dialect() const {

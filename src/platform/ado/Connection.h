@@ -62,6 +62,13 @@ class Connection {
   // All tables of the database whose names begin with "ID_", in upper case.
   QStringList Tables();
 
+  // One definition that holds statements of its own, such as a trigger, in the engine's own words; sent as it stands.
+  void Define(const QString& text);
+
+  // Tells who is at work to the recording of changes (tabulon-db history), now and each time the connection is opened.
+  // No statement where the database has no history.
+  void Tell(const QString& user, const QString& program);
+
   const Dialect& dialect() const;
   const ConnectionSettings& Settings() const;
   // How the link to the server is, for a user: "encrypted (TLSv1.3 ...); the server's certificate is verified".

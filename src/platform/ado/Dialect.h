@@ -12,6 +12,7 @@
 
 class QSqlDatabase;
 class QSqlError;
+class Recording;
 
 // What one engine needs otherwise than the shared words of the system. One class for each engine, no state.
 class Dialect {
@@ -34,16 +35,21 @@ class Dialect {
   virtual QString OpenAdvice(const QSqlError& error, const ConnectionSettings& settings) const = 0;
   // Statements that every session begins with.
   virtual QStringList SessionSetup(const ConnectionSettings& settings) const = 0;
-  // A SELECT that verifies the set-up: its first value must equal "1". The second is how the server encrypts this
-  // session, such as "TLSv1.3", and empty when it does not; the third the server's name of the session. Empty where
-  // there is nothing to verify.
-  virtual QString SessionCheck() const { return {}; }
-  // True where a session that should be encrypted is known by the second value of the check.
+  // A SELECT of one row that verifies the set-up: "1" when it holds; the number of tables named ID_HISTORY_CHANGE that
+  // are there; and on servers how this session is encrypted, such as "TLSv1.3" (empty when it is not), and the server's
+  // name of the session.
+  virtual QString SessionCheck() const = 0;
+  // True where a session that should be encrypted is known by the third value of the check.
   virtual bool KnowsEncryption() const { return true; }
-  // Ends the statement under way of another session, known by the third value of its check. Empty where that takes
+  // Ends the statement under way of another session, known by the fourth value of its check. Empty where that takes
   // more than a statement.
   virtual QString StopStatement(const QString& session) const;
   virtual QString BeginStatement() const = 0;
+  // The same in a session that told its user to the recording of changes.
+  virtual QString BeginRecorded() const { return BeginStatement(); }
+  // False where each definition of a table or trigger ends the transaction.
+  virtual bool DefinesInTransactions() const { return true; }
+  virtual const Recording& recording() const = 0;
   // Called when the driver has opened, before the statements of the set-up. A reason for the user when the session
   // cannot be used.
   virtual QString Opened(QSqlDatabase&) const { return {}; }

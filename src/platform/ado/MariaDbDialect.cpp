@@ -5,6 +5,7 @@
 #include <QSqlError>
 #include <algorithm>
 
+#include "platform/ado/MariaDbRecording.h"
 #include "platform/ado/StatementOrder.h"
 #include "platform/ado/StatementPatterns.h"
 #include "platform/ado/StatementWords.h"
@@ -160,9 +161,16 @@ QString MariaDbDialect::SessionCheck() const {
   return QStringLiteral(
       "SELECT FIND_IN_SET('NO_BACKSLASH_ESCAPES', @@sql_mode) > 0 AND FIND_IN_SET('STRICT_TRANS_TABLES', @@sql_mode) > "
       "0 "
-      "AND FIND_IN_SET('ANSI_QUOTES', @@sql_mode) > 0 AND @@autocommit = 1, (SELECT GROUP_CONCAT(VARIABLE_VALUE ORDER "
-      "BY VARIABLE_NAME DESC SEPARATOR ' ') FROM INFORMATION_SCHEMA.SESSION_STATUS WHERE VARIABLE_NAME IN "
-      "('SSL_VERSION', 'SSL_CIPHER') AND VARIABLE_VALUE <> ''), CONNECTION_ID()");
+      "AND FIND_IN_SET('ANSI_QUOTES', @@sql_mode) > 0 AND @@autocommit = 1, "
+      "(SELECT COUNT(*) FROM INFORMATION_SCHEMA.TABLES WHERE TABLE_SCHEMA = DATABASE() AND TABLE_NAME = "
+      "'ID_HISTORY_CHANGE'), (SELECT GROUP_CONCAT(VARIABLE_VALUE ORDER BY VARIABLE_NAME DESC SEPARATOR ' ') FROM "
+      "INFORMATION_SCHEMA.SESSION_STATUS WHERE VARIABLE_NAME IN ('SSL_VERSION', 'SSL_CIPHER') AND VARIABLE_VALUE <> "
+      "''), CONNECTION_ID()");
+}
+
+const Recording& MariaDbDialect::recording() const {
+  static const MariaDbRecording recording;
+  return recording;
 }
 
 QString MariaDbDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {

@@ -15,6 +15,12 @@ class MariaDbDialect : public Dialect {
   QString SessionCheck() const override;
   QString StopStatement(const QString& session) const override { return QStringLiteral("KILL QUERY %1").arg(session); }
   QString BeginStatement() const override { return QStringLiteral("START TRANSACTION"); }
+  // One round trip for both; see MariaDbRecording.
+  QString BeginRecorded() const override {
+    return QStringLiteral("BEGIN NOT ATOMIC SET @tabulon_unit = UUID_SHORT(); START TRANSACTION; END");
+  }
+  bool DefinesInTransactions() const override { return false; }
+  const Recording& recording() const override;
   bool ReadsForwardOnly() const override { return false; }
   QString Carry(const QString& statement, const ConnectionSettings& settings) const override;
 

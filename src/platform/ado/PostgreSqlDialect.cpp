@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/ado/PostgreSqlRecording.h"
 #include "platform/ado/StatementOrder.h"
 #include "platform/ado/StatementPatterns.h"
 #include "platform/ado/StatementWords.h"
@@ -143,8 +144,14 @@ QString PostgreSqlDialect::SessionCheck() const {
   return QStringLiteral(
       "SELECT CASE WHEN current_setting('standard_conforming_strings') = 'on' AND "
       "pg_client_encoding() = 'UTF8' THEN 1 ELSE 0 END, "
+      "CASE WHEN to_regclass('id_history_change') IS NULL THEN 0 ELSE 1 END, "
       "(SELECT version || ' ' || cipher FROM pg_catalog.pg_stat_ssl WHERE pid = pg_backend_pid() AND ssl), "
       "pg_backend_pid()");
+}
+
+const Recording& PostgreSqlDialect::recording() const {
+  static const PostgreSqlRecording recording;
+  return recording;
 }
 
 namespace {

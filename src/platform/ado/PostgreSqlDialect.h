@@ -17,6 +17,7 @@ class PostgreSqlDialect : public Dialect {
     return QStringLiteral("SELECT pg_cancel_backend(%1)").arg(session);
   }
   QString BeginStatement() const override { return QStringLiteral("BEGIN"); }
+  const Recording& recording() const override;
   bool ReadsForwardOnly() const override { return false; }
   QString Carry(const QString& statement, const ConnectionSettings& settings) const override;
   QString EngineText(const QSqlError& error) const override;

@@ -5,6 +5,7 @@
 #include <atomic>
 
 #include "platform/ado/DriverLink.h"
+#include "platform/ado/Recording.h"
 
 namespace {
 
@@ -62,23 +63,21 @@ void Session::CheckDriver() const {
 
 void Session::SetUp() {
   QSqlQuery query(database_);
-  QStringList statements = dialect_.SessionSetup(settings_);
-  const QString check = dialect_.SessionCheck();
-  if (!check.isEmpty()) statements += check;
-  for (const QString& statement : statements) {
-    if (query.exec(statement)) continue;
-    const QSqlError error = query.lastError();
-    const quint32 number = dialect_.Translate(error, OpenSource).Number();
-    const QString advice = dialect_.OpenAdvice(error, settings_);
-    query = QSqlQuery();
-    GiveUp(advice + u'\n' + dialect_.EngineText(error), number);
-  }
-  if (check.isEmpty()) return;
+  for (const QString& statement : dialect_.SessionSetup(settings_))
+    if (!query.exec(statement)) RefuseSetUp(query);
+  Check();
+  if (told_) TellRecording();
+}
+
+void Session::Check() {
+  QSqlQuery query(database_);
+  if (!query.exec(dialect_.SessionCheck())) RefuseSetUp(query);
   const bool accepted = query.next() && query.value(0).toString() == u"1";
-  cipher_ = dialect_.KnowsEncryption() ? query.value(1).toString() : QString();
+  hasHistory_ = accepted && query.value(1).toInt() > 0;
+  cipher_ = dialect_.KnowsEncryption() ? query.value(2).toString() : QString();
   if (dialect_.KnowsEncryption()) {
     const std::lock_guard<std::mutex> lock(link_);
-    name_ = query.value(2).toString();
+    name_ = query.value(3).toString();
   }
   query = QSqlQuery();
   if (!accepted) {
@@ -112,9 +111,43 @@ QString Session::LinkDescription() const {
   return QStringLiteral("not encrypted");
 }
 
+void Session::RefuseSetUp(QSqlQuery& query) {
+  const QSqlError error = query.lastError();
+  const quint32 number = dialect_.Translate(error, OpenSource).Number();
+  const QString advice = dialect_.OpenAdvice(error, settings_);
+  query = QSqlQuery();
+  GiveUp(advice + u'
+' + dialect_.EngineText(error), number);
+}
+
+void Session::Tell(const QString& user, const QString& program) {
+  told_ = true;
+  user_ = user;
+  program_ = program;
+  if (open_) TellRecording();
+}
+
+void Session::TellRecording() {
+  if (!hasHistory_) return;
+  for (const QString& statement : dialect_.recording().Told(user_, program_)) {
+    QSqlQuery query(database_);
+    if (query.exec(statement)) continue;
+    const QSqlError error = query.lastError();
+    query = QSqlQuery();
+    throw Failed(error, OpenSource);
+  }
+  recorded_ = true;
+}
+
+void Session::MarkUnit() {
+  if (!recorded_) return;
+  // It fails only with the session, which the statement itself finds.
+  if (const QString mark = dialect_.recording().UnitMark(); !mark.isEmpty()) QSqlQuery(database_).exec(mark);
+}
+
 void Session::Close() {
   KnowLink(false);
-  open_ = false;
+  open_ = hasHistory_ = recorded_ = false;
   cipher_.clear();
   if (database_.isValid()) database_.close();
 }
@@ -167,6 +200,14 @@ QSqlQuery Session::Run(const QString& statement, const QString& source) {
   QSqlQuery query(database_);
   query.setForwardOnly(dialect_.ReadsForwardOnly());
   if (query.exec(dialect_.Carry(statement, settings_))) return query;
+  const QSqlError error = query.lastError();
+  query = QSqlQuery();
+  throw Failed(error, source);
+}
+
+void Session::Define(const QString& text, const QString& source) {
+  QSqlQuery query(database_);
+  if (query.exec(text)) return;
   const QSqlError error = query.lastError();
   query = QSqlQuery();
   throw Failed(error, source);

@@ -42,8 +42,17 @@ class Session {
   // How the link to the server is, for a user.
   QString LinkDescription() const;
 
+  // Tells who is at work to the recording of changes, where the database has one; again each time it is opened.
+  void Tell(const QString& user, const QString& program);
+  // True where the recording was told the user.
+  bool IsRecorded() const { return recorded_; }
+  // A transaction, or a statement outside of one, is about to begin.
+  void MarkUnit();
+
   // One statement of the shared words. The query stands before its first row.
   QSqlQuery Run(const QString& statement, const QString& source);
+  // A text in the engine's own words.
+  void Define(const QString& text, const QString& source);
   // Names and types of its columns, without a word to the server.
   static QSqlRecord Shape(QSqlQuery& query);
   // To be called after the last row: a reading that broke off is an AdoError.
@@ -54,8 +63,11 @@ class Session {
  private:
   void CheckDriver() const;
   void SetUp();
+  void Check();
+  void TellRecording();
   // Closes, and tells why.
   [[noreturn]] void GiveUp(const QString& reason, quint32 number = AdoNumber::Unspecified);
+  [[noreturn]] void RefuseSetUp(QSqlQuery& query);
   QString WithoutPassword(QString text) const;
   void KnowLink(bool open);
   static void AskToStop(const ConnectionSettings& settings, const Dialect& dialect, const QString& statement,
@@ -75,4 +87,8 @@ class Session {
   std::atomic<int> statement_{0};      // number of the statement under way
   std::atomic<int> stopped_{-1};       // the one that was asked to stop
   std::vector<std::thread> stoppers_;  // each asks in a session of its own
+  bool hasHistory_ = false;
+  bool recorded_ = false;
+  bool told_ = false;
+  QString user_, program_;  // for the recording
 };

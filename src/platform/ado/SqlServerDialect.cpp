@@ -3,6 +3,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 
+#include "platform/ado/SqlServerRecording.h"
 #include "platform/ado/StatementOrder.h"
 #include "platform/ado/StatementPatterns.h"
 #include "platform/ado/StatementWords.h"
@@ -101,6 +102,15 @@ void LongTexts(StatementWords::Tokens& tokens) {
 }
 
 }  // namespace
+
+QString SqlServerDialect::SessionCheck() const {
+  return QStringLiteral("SELECT 1, COUNT(*) FROM sys.tables WHERE name = N'ID_HISTORY_CHANGE'");
+}
+
+const Recording& SqlServerDialect::recording() const {
+  static const SqlServerRecording recording;
+  return recording;
+}
 
 QString SqlServerDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
   StatementWords::Tokens tokens = Tokenize(statement);

@@ -16,7 +16,9 @@ class SqlServerDialect : public Dialect {
   QString OpenAdvice(const QSqlError& error, const ConnectionSettings& settings) const override;
   QStringList SessionSetup(const ConnectionSettings& settings) const override;
   bool KnowsEncryption() const override { return false; }
+  QString SessionCheck() const override;
   QString BeginStatement() const override { return QStringLiteral("BEGIN TRANSACTION"); }
+  const Recording& recording() const override;
   bool ReadsForwardOnly() const override { return true; }
   QString Carry(const QString& statement, const ConnectionSettings& settings) const override;
   QString Escape(const QString& text) const override;

@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "platform/ado/SqliteLetters.h"
+#include "platform/ado/SqliteRecording.h"
 #include "platform/ado/StatementOrder.h"
 #include "platform/ado/StatementWords.h"
 
@@ -79,7 +80,13 @@ QStringList SqliteDialect::SessionSetup(const ConnectionSettings&) const {
 QString SqliteDialect::SessionCheck() const {
   // Counting the tables reads the file's first page: a file that is no database is told here and not at first use.
   return QStringLiteral(
-      "SELECT (SELECT COUNT(*) FROM sqlite_master) >= 0 AND (SELECT foreign_keys FROM pragma_foreign_keys) = 1");
+      "SELECT (SELECT COUNT(*) FROM sqlite_master) >= 0 AND (SELECT foreign_keys FROM pragma_foreign_keys) = 1, "
+      "(SELECT COUNT(*) FROM sqlite_master WHERE type = 'table' AND name = 'ID_HISTORY_CHANGE')");
+}
+
+const Recording& SqliteDialect::recording() const {
+  static const SqliteRecording recording;
+  return recording;
 }
 
 QString SqliteDialect::Opened(QSqlDatabase& database) const {

@@ -17,6 +17,7 @@ class SqliteDialect : public Dialect {
   bool KnowsEncryption() const override { return false; }
   QString Opened(QSqlDatabase& database) const override;
   QString BeginStatement() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
+  const Recording& recording() const override;
   // Qt's driver counts a statement's columns once; when another client has added a column since the session last
   // looked, the engine prepares the statement anew with more of them while it runs, and the driver writes past its row.
   QString SchemaRefresh() const override { return QStringLiteral("SELECT 1 FROM sqlite_master LIMIT 1"); }
