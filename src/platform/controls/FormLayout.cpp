@@ -12,6 +12,7 @@
 #include <QStyleOptionFrame>
 
 #include "platform/controls/CodeComboBox.h"
+#include "platform/controls/FieldEdge.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 
@@ -129,6 +130,7 @@ QPushButton* Button(QWidget* parent, const QString& name, const QString& caption
 QCheckBox* Check(QWidget* parent, const QString& name, const QString& caption) {
   auto* check = new QCheckBox(caption, parent);
   check->setObjectName(name);
+  FieldEdge::Watch(check);
   return check;
 }
 
@@ -250,6 +252,10 @@ QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> buttons) {
       row->addStretch();
   }
   return row;
+}
+
+void KeepInSight(QWidget* part) {
+  part->setProperty(KeptInSight, true);
 }
 
 QWidget* Together(QWidget* parent, const QString& name, std::initializer_list<QWidget*> controls) {
