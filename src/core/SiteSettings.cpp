@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <array>
 #include <exception>
 #include <optional>
@@ -141,6 +142,14 @@ QString ReadOwnerPrefix(const SectionReader& section) {
   return owner.isEmpty() || owner.endsWith('.') ? owner : owner + '.';
 }
 
+QString ReadColour(const SectionReader& section) {
+  static const QRegularExpression hexadecimal(QStringLiteral("^#[0-9A-Fa-f]{6}$"));
+  const QString colour = section.Text("SiteColour").trimmed();
+  if (colour.isEmpty() || hexadecimal.match(colour).hasMatch()) return colour;
+  section.Refuse("SiteColour", colour, "Write the parts red, green and blue as #RRGGBB, such as #B00020.");
+  return {};
+}
+
 void ReadDatabase(const SectionReader& section, SiteSettings& settings) {
   ConnectionSettings& connection = settings.connection;
   const std::optional<Engine> engine = ReadEngine(section);
@@ -157,6 +166,8 @@ void ReadDatabase(const SectionReader& section, SiteSettings& settings) {
   connection.password = ReadPassword(section, settings.settingsFile);
   connection.options = section.Text("Options").trimmed();
   connection.ownerPrefix = ReadOwnerPrefix(section);
+  settings.siteName = section.Text("SiteName").trimmed();
+  settings.siteColour = ReadColour(section);
   settings.databaseType = section.Number("DatabaseType", 0, 32767, Dialect::For(connection.engine).DatabaseType());
 }
 

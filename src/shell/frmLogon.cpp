@@ -5,8 +5,12 @@
 #include <QVBoxLayout>
 
 #include "core/Logon.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
+#include "platform/controls/ElidedLabel.h"
 #include "platform/controls/FormLayout.h"
 #include "shell/Help.h"
+#include "shell/SiteStrip.h"
 
 namespace {
 
@@ -50,6 +54,11 @@ void frmLogon::BuildControls() {
   // Both as wide as most entries need; a longer password scrolls.
   for (TextBox* field : {txtUser, txtPassword}) field->setFixedWidth(Form::FieldWidth(field, 30));
   auto* const column = Form::Column(this, {fields});
+  if (SiteStrip::IsSet()) column->insertWidget(0, new SiteStrip(this));
+  auto* const database = new ElidedLabel(this);
+  database->setObjectName("lblDatabase");
+  if (!gclsOF->DatabaseName().isEmpty()) database->setText("Database: " + gclsOF->DatabaseName());
+  column->addWidget(database);
   column->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}));
 
   connect(txtUser, &TextBox::Change, this, &frmLogon::EnableOK);

@@ -49,7 +49,7 @@ qint64 Connection::Private::Observed(const QString& text, int allowed, const QSt
     record.milliseconds = timer.elapsed();
     record.affectedRows = affected;
     record.failed = failed;
-    for (const auto& observer : observers) observer(record);
+    for (const auto& [number, observer] : observers) observer(record);
   };
   qint64 affected = -1;
   try {
@@ -200,8 +200,13 @@ const ConnectionSettings& Connection::Settings() const {
   return d_->session.Settings();
 }
 
-void Connection::AddObserver(std::function<void(const StatementRecord&)> observer) {
-  d_->observers.push_back(std::move(observer));
+int Connection::AddObserver(std::function<void(const StatementRecord&)> observer) {
+  d_->observers.emplace(++d_->lastObserver, std::move(observer));
+  return d_->lastObserver;
+}
+
+void Connection::RemoveObserver(int number) {
+  d_->observers.erase(number);
 }
 
 // --- Transaction ---

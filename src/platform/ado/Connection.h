@@ -65,8 +65,9 @@ class Connection {
   const Dialect& dialect() const;
   const ConnectionSettings& Settings() const;
 
-  // Called after every statement, failed ones included. One observer is added, none is ever removed.
-  void AddObserver(std::function<void(const StatementRecord&)> observer);
+  // Called after every statement, failed ones included, until it is removed by the number that it was given.
+  int AddObserver(std::function<void(const StatementRecord&)> observer);
+  void RemoveObserver(int number);
 
  private:
   friend class Recordset;
