@@ -4,6 +4,7 @@
 
 #include "Screens.h"
 #include "core/CommandLine.h"
+#include "platform/controls/OwnStyle.h"
 #include "platform/desktop/TerminalPrompts.h"
 #include "shell/frmTabulon.h"
 
@@ -50,6 +51,7 @@ int main(int argc, char** argv) {
   QApplication::setOrganizationName("Ostana");
   QApplication::setApplicationVersion(Version());
 
+  QApplication::setStyle(new OwnStyle);
   TerminalPrompts terminal;
   if (qEnvironmentVariableIntValue("OSTANA_UNATTENDED") == 1) SetPrompts(&terminal);
   RegisterDialogs();

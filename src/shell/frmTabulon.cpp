@@ -12,9 +12,15 @@
 #include "core/ProcessEnd.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
+#include "shell/FirstField.h"
+#include "shell/FitDisplay.h"
 #include "shell/Messages.h"
 #include "shell/Procedure.h"
 #include "shell/WindowMemory.h"
+
+namespace {
+constexpr int AroundPages = 60;  // pixels that the window, its rows of tabs and a scroll bar take beside a page
+}
 
 void frmTabulon::SetTab(int index, TabRow row) {
   rows_.at(static_cast<size_t>(index)) = std::move(row);
@@ -76,8 +82,10 @@ void frmTabulon::Enter(int index) {
   if (!rows_[at].make) return EnableButtons("O");
   if (!pages_[at]) {
     pages_[at] = rows_[at].make(*this);
-    sstabtables_->widget(index)->layout()->addWidget(pages_[at]);
+    FitDisplay::Narrow(*pages_[at], WindowMemory::RoomFor(*this).width() - AroundPages);
+    Holder(index)->layout()->addWidget(pages_[at]);
     Form::ReadingOrder(this);
+    LeadFromListsToFields(*pages_[at]);
   }
   ShowPage();
   buttonState();
@@ -92,7 +100,7 @@ void frmTabulon::ShowPage() {
     line = new QLabel("Click the tab again to open it.");
     line->setObjectName("lblNotSetUp");
     line->setAlignment(Qt::AlignCenter);
-    sstabtables_->widget(tab_)->layout()->addWidget(line);
+    Holder(tab_)->layout()->addWidget(line);
   }
   if (line != nullptr) line->setVisible(!IsSetUp());
   // The layout would show it only when the event loop runs again, too late for the entry to set a focus.

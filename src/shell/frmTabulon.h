@@ -15,6 +15,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class QTabWidget;
+class TextBox;
 class Procedure;
 
 // One row of the shell's table of tabs. An empty operation is a button that does nothing there. Operations answer
@@ -119,6 +120,8 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   void BuildMenu();
   void BuildStatusBar();
   QString GuidePage() const;
+  void ShowSite();
+  static QString PaperOrigin();
   QAction* HelpEntry(QMenu* menu, const QString& name, const QString& caption, const QString& formName);
 
   // The stages of Form_Load. False: the process is ending.
@@ -128,6 +131,8 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   void NameTabs();
   void FinishLoad();
 
+  // Where the page of a tab stands; it scrolls where the window is too small for the page.
+  QWidget* Holder(int index) const;
   void TabChanged(int index);
   void ShowPage();
   bool IsSetUp() const { return tab_ == live_; }
@@ -149,6 +154,7 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   QPushButton* cmdClose_ = nullptr;
   QMenu* mnuOptions_ = nullptr;
   QLabel* status_ = nullptr;
+  TextBox* find_ = nullptr;
   int tab_ = 0;               // the tab on screen
   int live_ = 0;              // the tab set up last; another one on screen came up behind a record that waited
   bool mbFormLoaded = false;  // Form_Load has gone all the way through
