@@ -1,6 +1,7 @@
 #include "shell/FitDisplay.h"
 
 #include <QBoxLayout>
+#include <QGridLayout>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStyle>
@@ -131,6 +132,12 @@ void Narrow(QWidget& page, int width) {
     if (excess <= 0) return;
     if (!MayBeWrapped(*row)) continue;
     Wrap(*row, row->minimumSize().width() - excess);
+    Forget(page);
+  }
+  for (QGridLayout* rows : page.findChildren<QGridLayout*>()) {
+    if (NeedsWidth(page) <= width) return;
+    if (!Form::HasPairs(rows)) continue;
+    Form::Unfold(rows);
     Forget(page);
   }
 }

@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QTextBrowser>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
 
@@ -24,7 +25,10 @@ constexpr int LargestZoom = 12, Margin = 40;  // points; pixels
 // Pictures of the guide are wider than a window beside the work is.
 class GuideText : public QTextBrowser {
  public:
-  using QTextBrowser::QTextBrowser;
+  explicit GuideText(QWidget* parent) : QTextBrowser(parent) {
+    // The room for pictures is the same whatever the page's length.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  }
 
  protected:
   QVariant loadResource(int type, const QUrl& name) override {
@@ -42,7 +46,9 @@ class GuideText : public QTextBrowser {
   }
   void resizeEvent(QResizeEvent* event) override {
     QTextBrowser::resizeEvent(event);
-    if (event->oldSize().width() != event->size().width() && source().isValid()) Again();
+    // Not now: a text that is being read may have caused it.
+    if (event->oldSize().width() != event->size().width() && source().isValid())
+      QTimer::singleShot(0, this, &GuideText::Again);
   }
 
  private:

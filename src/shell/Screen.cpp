@@ -10,6 +10,7 @@
 #include "shell/FirstField.h"
 #include "shell/FitDisplay.h"
 #include "shell/Help.h"
+#include "shell/RoundKeys.h"
 #include "shell/StatementsWindow.h"
 #include "shell/WindowMemory.h"
 
@@ -30,7 +31,11 @@ void Screen::Begin() {
   if (focus != nullptr) focus->setFocus(Qt::OtherFocusReason);
   Form::ReadingOrder(this);
   if (findChild<QPushButton*>("cmdUpdate") != nullptr) LeadFromListsToFields(*this);
+  new RoundKeys(*this);
   WindowMemory::Restore(*this);
+  // Texts in several lines are as high as the width makes them.
+  if (layout() != nullptr && layout()->hasHeightForWidth())
+    resize(size().expandedTo({0, layout()->totalHeightForWidth(width())}).boundedTo(WindowMemory::RoomFor(*this)));
 }
 
 void Screen::ShowModeless() {

@@ -98,6 +98,8 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   bool CloseButtonUpdate();
   // User, database, working language and rights in the status bar.
   void ShowStatus();
+  // Reads the tab on screen again, with the guard.
+  void ReadAgain();
 
   void cmdAdd_Click();
   void cmdUpdate_Click();
@@ -109,6 +111,7 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   struct Command {
@@ -135,6 +138,8 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   QWidget* Holder(int index) const;
   void TabChanged(int index);
   void ShowPage();
+  void WatchRecords(TabPage& page);
+  void ShowModified();
   bool IsSetUp() const { return tab_ == live_; }
   void sstabtables_Click(int previousTab);
   void Enter(int index);
@@ -154,6 +159,7 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   QPushButton* cmdClose_ = nullptr;
   QMenu* mnuOptions_ = nullptr;
   QLabel* status_ = nullptr;
+  QLabel* modified_ = nullptr;
   TextBox* find_ = nullptr;
   int tab_ = 0;               // the tab on screen
   int live_ = 0;              // the tab set up last; another one on screen came up behind a record that waited

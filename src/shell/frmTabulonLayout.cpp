@@ -23,9 +23,11 @@
 #include "shell/Icons.h"
 #include "shell/ListTools.h"
 #include "shell/Procedure.h"
+#include "shell/RoundKeys.h"
 #include "shell/Screens.h"
 #include "shell/SiteStrip.h"
 #include "shell/StatementsWindow.h"
+#include "shell/TabKeys.h"
 #include "shell/WindowMemory.h"
 #include "shell/frmTabulon.h"
 
@@ -165,6 +167,14 @@ void frmTabulon::BuildMenu() {
   connect(Form::MenuEntry(site, "mnuSiteStatements", "&Statements\tF12"), &QAction::triggered, this,
           [this] { StatementsWindow::Open(this); });
   StatementsWindow::OpenByF12(*this);
+  QAction* const again = Form::MenuEntry(site, "mnuSiteReadAgain", "&Read Again");
+  again->setShortcut(Qt::Key_F5);
+  connect(again, &QAction::triggered, this, &frmTabulon::ReadAgain);
+  new RoundKeys(*this);
+  new TabKeys(*this, *sstabtables_);
+  RoundKeys::Tell(*add_.entry, Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+  RoundKeys::Tell(*update_.entry, Qt::CTRL | Qt::Key_S);
+  RoundKeys::Tell(*clear_.entry, Qt::CTRL | Qt::Key_N);
 
   QMenu* const help = Form::Menu(this, "mnuHelp", "&Help");
   Help::AddEntry(*help, *this, [this] { return GuidePage(); });
@@ -210,8 +220,11 @@ void frmTabulon::BuildStatusBar() {
   status_->setObjectName("lblStatus");
   auto* const rows = new QLabel;
   rows->setObjectName("lblRows");
+  modified_ = new QLabel;
+  modified_->setObjectName("lblModified");
   statusBar()->setContentsMargins(8, 0, 8, 0);
   statusBar()->addPermanentWidget(status_, 1);
+  statusBar()->addPermanentWidget(modified_);
   statusBar()->addPermanentWidget(rows);
   new ListTools(*this, *find_, *rows);
 }

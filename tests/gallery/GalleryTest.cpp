@@ -27,8 +27,8 @@ QStringList SheetOf(const QWidget& form) {
     const QString name = object->objectName();
     const QString kind = object->metaObject()->className();
     // Parts that the toolkit adds to its own widgets.
-    if (name.isEmpty() || name.startsWith("qt_") || kind.startsWith("QAbstract") || kind.startsWith("QWidgetLine") ||
-        name == "ScrollLeftButton" || name == "ScrollRightButton")
+    if (name.isEmpty() || name.startsWith("qt_") || name.startsWith("_q_") || kind.startsWith("QAbstract") ||
+        kind.startsWith("QWidgetLine") || name == "ScrollLeftButton" || name == "ScrollRightButton")
       continue;
     names.append(name + " " + kind);
   }

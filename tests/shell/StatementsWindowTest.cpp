@@ -57,7 +57,7 @@ TEST_F(StatementsWindowTest, StatementsComeWithWhereTheyComeFrom) {
 TEST_F(StatementsWindowTest, SecretsAreMasked) {
   Start();
   Press12();
-  gclsOF->Connection().Execute("UPDATE ID_USER SET PASSWORD = 'top secret' WHERE USER_ID = 'nobody'");
+  gclsOF->Connection().Execute("UPDATE ID_USER SET USER_PASSWORD = 'top secret' WHERE USER_ID = 'nobody'");
   EXPECT_TRUE(Sent()->Text(1, Statement).contains("'***'")) << Sent()->Text(1, Statement).toStdString();
   EXPECT_FALSE(Sent()->Text(1, Statement).contains("top secret"));
 }

@@ -25,7 +25,7 @@ void PutUpScreen(const QString& folder) {
   QFile file(QDir(folder).filePath("screen.json"));
   if (!file.open(QIODevice::WriteOnly)) return;
   QStringList screens;
-  const auto put = [&screens, x = 0](const QString& name, const QString& size, double ratio) mutable {
+  auto put = [&screens, x = 0](const QString& name, const QString& size, double ratio) mutable {
     const QStringList sides = size.split('x');
     screens.append(QString(R"({"name": "%1", "x": %2, "y": 0, "width": %3, "height": %4,
                            "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": %5})")

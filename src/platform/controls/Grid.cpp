@@ -303,6 +303,13 @@ int Grid::LastFilledRow() const {
   return row;
 }
 
+int Grid::Neighbour(int step) const {
+  int row = row_ == 0 && step < 0 ? Rows() : row_;
+  do row += step;
+  while (model_->Holds(row, 0) && (RowHidden(row) || model_->IsBlank(row)));
+  return model_->Holds(row, 0) ? row : 0;
+}
+
 QString Grid::CountText() const {
   const int all = LastFilledRow();
   const QLocale here;

@@ -86,6 +86,8 @@ class Grid : public QTableView {
   const QString& Filter() const { return filter_; }
   bool RowHidden(int row) const;
   int ShownRows() const;  // those that the filter leaves
+  // The row on screen before (-1) or after (1) the current one; 0 when there is none. Blank ones are none.
+  int Neighbour(int step) const;
   // How many rows there are, in words: "12 rows", "39 of 20,010 rows". Blank ones at the end do not count.
   QString CountText() const;
   // Columns on screen, from the left, without the marker.

@@ -248,7 +248,7 @@ Grid* Grid::InUse(const QWidget& window) {
   const QPointer<Grid>& last = LastUsed();
   if (!last.isNull() && last->isVisible() && last->window() == &window) return last.data();
   for (Grid* grid : window.findChildren<Grid*>())
-    if (grid->isVisible()) return grid;
+    if (grid->isVisible() && grid->window() == &window) return grid;
   return nullptr;
 }
 

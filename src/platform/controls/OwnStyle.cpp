@@ -8,7 +8,7 @@
 namespace {
 
 constexpr double EnoughForText = 4.5, EnoughForMarks = 3;
-constexpr int TabPadding = 6;  // pixels that a tab is narrower, twelve of them beside each other
+constexpr int TabPadding = 12;  // pixels that a tab is narrower, so that twelve of them stand beside each other on 1024
 
 QColor Between(const QColor& a, const QColor& b, double part) {
   const auto mix = [part](float x, float y) { return static_cast<float>(x + (y - x) * part); };
