@@ -9,6 +9,7 @@
 #include "Screens.h"
 #include "core/CommandLine.h"
 #include "core/Logon.h"
+#include "platform/controls/OwnStyle.h"
 #include "platform/desktop/TerminalPrompts.h"
 #include "shell/WaitingWindow.h"
 #include "shell/frmTabulon.h"
@@ -65,6 +66,7 @@ int main(int argc, char** argv) {
   QApplication::setOrganizationName("Ostana");
   QApplication::setApplicationVersion(Version());
 
+  QApplication::setStyle(new OwnStyle);
   TerminalPrompts terminal;
   if (qEnvironmentVariableIntValue("OSTANA_UNATTENDED") == 1) {
     SetPrompts(&terminal);

@@ -200,6 +200,18 @@ qint32 OstanaFunctions::SiteNumber() const {
   return d_->settings.siteNumber;
 }
 
+const QString& OstanaFunctions::SiteName() const {
+  return d_->settings.siteName;
+}
+
+const QString& OstanaFunctions::SiteColour() const {
+  return d_->settings.siteColour;
+}
+
+const QString& OstanaFunctions::DatabaseName() const {
+  return d_->settings.connection.name;
+}
+
 // --- Settings and login ---
 
 bool OstanaFunctions::LoadApplicationSettings(const QString& application, const QString& site, const QString& user,

@@ -58,6 +58,10 @@ class OstanaFunctions {
   const QString& ContactName() const;
   const QString& InstitutionName() const;
   qint32 SiteNumber() const;
+  // What the site calls itself, and its colour as "#RRGGBB"; both may be empty.
+  const QString& SiteName() const;
+  const QString& SiteColour() const;
+  const QString& DatabaseName() const;  // of the settings: a file, or the name on the server
 
   // --- Settings and login ---
   // The application's name and the first three command-line arguments: site, user id, password.

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <algorithm>
+#include <QRegularExpression>
 #include <array>
 #include <exception>
 #include <optional>
@@ -180,6 +181,14 @@ QString ReadOwnerPrefix(const SectionReader& section) {
   return owner.isEmpty() || owner.endsWith('.') ? owner : owner + '.';
 }
 
+QString ReadColour(const SectionReader& section) {
+  static const QRegularExpression hexadecimal(QStringLiteral("^#[0-9A-Fa-f]{6}$"));
+  const QString colour = section.Text("SiteColour").trimmed();
+  if (colour.isEmpty() || hexadecimal.match(colour).hasMatch()) return colour;
+  section.Refuse("SiteColour", colour, "Write the parts red, green and blue as #RRGGBB, such as #B00020.");
+  return {};
+}
+
 void ReadDatabase(const SectionReader& section, SiteSettings& settings) {
   ConnectionSettings& connection = settings.connection;
   const std::optional<Engine> engine = ReadEngine(section);
@@ -199,6 +208,8 @@ void ReadDatabase(const SectionReader& section, SiteSettings& settings) {
   connection.options = section.Text("Options").trimmed();
   connection.ownerPrefix = ReadOwnerPrefix(section);
   connection.keyOf = Content::OrderOf;
+  settings.siteName = section.Text("SiteName").trimmed();
+  settings.siteColour = ReadColour(section);
   settings.databaseType = section.Number("DatabaseType", 0, 32767, Dialect::For(connection.engine).DatabaseType());
 }
 

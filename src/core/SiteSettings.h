@@ -19,6 +19,8 @@ struct SiteSettings {
   QString customConfigFile;  // name without directory; may be empty
   QString statementLog;      // full path of the file every statement is written to; empty for none
   qint32 siteNumber = 0;
+  QString siteName;         // told on the main screen and in the logon, so that production is never taken for a test
+  QString siteColour;       // "#RRGGBB", with it; both may be empty
   QString applicationPath;  // root directory of the system, ending in a separator
   QString settingsFile;     // full path
 };

@@ -9,6 +9,7 @@
 #include "directory/LibraryScreen.h"
 #include "platform/controls/DateBox.h"
 #include "platform/controls/OptionGroup.h"
+#include "platform/controls/OwnStyle.h"
 #include "shell/Help.h"
 #include "shell/Procedure.h"
 #include "shell/Screens.h"
@@ -27,6 +28,9 @@ void MakeBanner(QLabel* label, const QColor& colour) {
   label->setFont(font);
   QPalette palette = label->palette();
   palette.setColor(QPalette::WindowText, colour);
+  palette.setColor(QPalette::Window, Contrast::GroundFor(colour));
+  label->setAutoFillBackground(true);
+  label->setContentsMargins(8, 2, 8, 2);
   label->setPalette(palette);
   label->hide();
 }
@@ -127,6 +131,7 @@ QWidget* LibraryScreen::SymbolRow() {
 
 QWidget* LibraryScreen::Banner() {
   auto* const banner = new QWidget(this);
+  Form::KeepInSight(banner);
   Form::Rows rows(banner);
   rows.Add(lblLibrarySymbol, SymbolRow());
   rows.Add(lblInstitution, txtInstitution);

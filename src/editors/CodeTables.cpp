@@ -33,6 +33,7 @@ void CodeTables::BuildControls() {
   rows.Add(lbl0Display, fra0Display);
   rows.Add(lbl0bDisplay, fra0bDisplay);
 
+  cmb0Tables->OpenByArrows();
   grd0TableDesc->setAccessibleName("Rows of the code table");
   Form::Require({txt0Code});
   Form::Column(this, {choices})->addWidget(grd0TableDesc, 1);

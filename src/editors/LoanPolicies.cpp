@@ -88,6 +88,7 @@ void LoanPolicies::BuildControls() {
   for (int col = Description; col < Columns; ++col) {
     grd6aTable->SetHeading(col, headings[col]);
     grd6aTable->SetColWidth(col, col == Description ? 4000 : 1300);
+    grd6aTable->AlignRight(col, col != Description);
   }
   grd6aTable->SetColWidth(Marker, 400);
   grd6aTable->setAccessibleName("Loan policies");

@@ -60,6 +60,7 @@ void LoanStatuses::BuildControls() {
 }
 
 void LoanStatuses::ConnectControls() {
+  txt6bLoanCharge->SetRule(NumericRule(QString::number(HighestCharge), ChargePattern, true, false, false));
   txt6bLoanCharge->SetKeyPress([this](char16_t key) { return FilterNumericKey(key, *txt6bLoanCharge, false, false); });
   txt6bLoanCharge->SetLeaveCheck([this] { return FormatCharge(); });
   for (TextBox* box : {txt6bCode, txt6bDescription, txt6bLoanCharge})

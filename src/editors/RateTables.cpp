@@ -57,6 +57,7 @@ void RateTables::BuildControls() {
   for (CodeComboBox* list : {cmb7aBillingRate, cmb7aDeliveryMethod, cmb7RequestingLibrary, cmb7Alias})
     list->setMinimumContentsLength(40);
   txt7Surcharge->SetText("0.00");
+  cmb7RateTable->OpenByArrows();
   grd7Table->setAccessibleName("Rows of the rate table");
   Form::Require({txt7Code, txt7Description});
   Form::Column(this, {inputs})->addWidget(grd7Table, 1);

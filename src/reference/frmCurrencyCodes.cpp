@@ -46,12 +46,11 @@ void frmCurrencyCodes::BuildControls() {
                                 {"Description", 1875},
                                 {"Country", 1875},
                                 {"Base", 450},
-                                {"Exchange", 810},
+                                Amount("Exchange", 810),
                                 {"Symbol", 495}}});
   grdCurrencyCode->setAccessibleName("Currencies");
   grdCurrencyCode->setAccessibleDescription("Space makes the selected currency the base currency");
   grdCurrencyCode->setToolTip("A click on the Base column, or Space, makes a currency the base currency");
-  grdCurrencyCode->AlignRight(Exchange);
 
   auto* const entry = new QWidget(this);
   Form::Rows rows(entry);

@@ -37,12 +37,12 @@ frmItemType::frmItemType(QWidget* parent) : Screen("frmItemType", "Ostana - Item
 }
 
 void frmItemType::BuildControls() {
-  ShapeGrid(
-      *grdItemType,
-      {"", "grdItemType", {{"", 195}, {"Item Type", 1005}, {"Charge", 795}, {"Fixed", 705}, {"Description", 960}}});
+  ShapeGrid(*grdItemType,
+            {"",
+             "grdItemType",
+             {{"", 195}, {"Item Type", 1005}, Amount("Charge", 795), {"Fixed", 705}, {"Description", 960}}});
   ShapeGrid(*grdAccessItemType, {"", "grdAccessItemType", {{"", 195}, {"Item Type"}}});
   grdItemType->setAccessibleName("Item types");
-  grdItemType->AlignRight(Charge);
   grdAccessItemType->setAccessibleName("Item types of the group");
 
   auto* const typeEntry = new QWidget(this);
@@ -73,6 +73,7 @@ void frmItemType::BuildControls() {
 void frmItemType::ConnectControls() {
   MarkEdits(record_, txtItemType, txtCharge, txtDescription, optFixedCharge);
   txtItemType->UpperCaseAsTyped();
+  txtCharge->SetRule(NumericRule(QString::number(HighestCharge), "##0.00", true, true, false));
   txtCharge->SetKeyPress([this](char16_t key) { return FilterNumericKey(key, *txtCharge, false, false); });
   txtCharge->SetLeaveCheck([this] { return ChargeMayStay(); });
   connect(sstabItemType, &QTabWidget::currentChanged, this, &frmItemType::sstabItemType_Click);

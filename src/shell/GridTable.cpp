@@ -8,6 +8,10 @@
 #include "core/SqlText.h"
 #include "platform/controls/Grid.h"
 
+GridColumn Amount(const QString& heading, int width) {
+  return {heading, width, false, true};
+}
+
 namespace {
 
 const GridColumn Marker{"", 400};
@@ -51,36 +55,36 @@ const std::vector<GridLayout>& Layouts() {
         {"ILS Code", 1800},
         {"Delivery Code", 1500},
         {"Description", 4000}}},
-      {"7 copyright", "grd7Table", {Marker, {"Code", 1000}, {"Surcharge", 2000}, {"Description", 7520}}},
+      {"7 copyright", "grd7Table", {Marker, {"Code", 1000}, Amount("Surcharge", 2000), {"Description", 7520}}},
       {"7 delivery",
        "grd7Table",
        {Marker,
         {"Billing Rate", 5500},
         {"Delivery Method", 1500},
-        {"Flat Fee", 750},
-        {"Unit Size", 750},
-        {"Free Exp.", 750},
-        {"Per Exp.", 750}}},
+        Amount("Flat Fee", 750),
+        Amount("Unit Size", 750),
+        Amount("Free Exp.", 750),
+        Amount("Per Exp.", 750)}},
       {"7 supply",
        "grd7Table",
        {Marker,
         {"Billing Rate", 4500},
         {"Document Supply", 2300},
-        {"Flat Fee", 750},
-        {"Unit Size", 750},
-        {"Free Exp.", 750},
-        {"Per Exp.", 750}}},
+        Amount("Flat Fee", 750),
+        Amount("Unit Size", 750),
+        Amount("Free Exp.", 750),
+        Amount("Per Exp.", 750)}},
       {"7 output",
        "grd7Table",
        {Marker,
         {"Billing Rate", 5500},
         {"Output Format", 1500},
-        {"Flat Fee", 750},
-        {"Unit Size", 750},
-        {"Free Exp.", 750},
-        {"Per Exp.", 750}}},
-      {"7 reject", "grd7Table", {Marker, {"Billing Rate", 6200}, {"Reject Type", 3000}, {"Surcharge", 500}}},
-      {"7 service", "grd7Table", {Marker, {"Billing Rate", 6200}, {"Service Level", 3000}, {"Surcharge", 500}}},
+        Amount("Flat Fee", 750),
+        Amount("Unit Size", 750),
+        Amount("Free Exp.", 750),
+        Amount("Per Exp.", 750)}},
+      {"7 reject", "grd7Table", {Marker, {"Billing Rate", 6200}, {"Reject Type", 3000}, Amount("Surcharge", 500)}},
+      {"7 service", "grd7Table", {Marker, {"Billing Rate", 6200}, {"Service Level", 3000}, Amount("Surcharge", 500)}},
       {"7 alias",
        "grd7Table",
        {Marker,
@@ -95,7 +99,7 @@ const std::vector<GridLayout>& Layouts() {
        {Marker, {"Code", 1000}, {"Description", 7020}, {"Invoice Flag Override", 1800}}},
       {"8 exceptions",
        "grd8Table",
-       {Marker, {"Code", 1000}, {"Type", 1000}, {"Description", 6000}, {"Service Charge", 1500}}},
+       {Marker, {"Code", 1000}, {"Type", 1000}, {"Description", 6000}, Amount("Service Charge", 1500)}},
       {"8 process",
        "grd8Document",
        {Marker,
@@ -197,6 +201,7 @@ void ShapeGrid(Grid& grid, const GridLayout& layout) {
     const GridColumn& column = layout.columns[static_cast<size_t>(col)];
     grid.SetHeading(col, column.heading);
     grid.HideCol(col, column.hidden);
+    grid.AlignRight(col, column.amount);
     if (column.width > 0) grid.SetColWidth(col, column.width);
   }
 }

@@ -14,7 +14,9 @@ struct GridColumn {
   QString heading;
   int width = 0;  // twips; 0 leaves the width as it is
   bool hidden = false;
+  bool amount = false;  // of money or things: stands at the right
 };
+GridColumn Amount(const QString& heading, int width);
 
 struct GridLayout {
   QString key;

@@ -1,22 +1,25 @@
 #include "shell/Help.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFileInfo>
 #include <QMenu>
+#include <QPointer>
 #include <QShortcut>
-#include <QUrl>
 
 #include "platform/controls/FormLayout.h"
+#include "shell/Beside.h"
+#include "shell/HelpWindow.h"
 #include "shell/Icons.h"
 #include "shell/Messages.h"
 
 namespace {
 
-Help::Opener& OwnOpener() {
-  static Help::Opener opener;
-  return opener;
+// One for the program; it goes with it.
+HelpWindow& Guide() {
+  static QPointer<HelpWindow> guide;
+  if (guide.isNull()) guide = new HelpWindow;
+  return *guide;
 }
 
 QStringList Folders() {
@@ -58,11 +61,8 @@ void OpenHelp(const QString& page, QWidget* owner) {
     ShowMessage("The guide has no page " + page + " on this machine.", MessageStyle::Warning, caption, {}, owner);
     return;
   }
-  const QUrl url = QUrl::fromLocalFile(file);
-  const bool opened = OwnOpener() ? OwnOpener()(url) : QDesktopServices::openUrl(url);
-  if (!opened)
-    ShowMessage("No program on this machine opens the page of the guide:\n" + QDir::toNativeSeparators(file),
-                MessageStyle::Warning, caption, {}, owner);
+  Guide().Open(file);
+  Beside::Show(Guide(), owner);
 }
 
 void OpenByF1(QWidget& window, std::function<QString()> page) {
@@ -76,10 +76,6 @@ void AddEntry(QMenu& menu, QWidget& window, std::function<QString()> page) {
   entry->setIcon(OwnIcon("help"));
   QObject::connect(entry, &QAction::triggered, &window, [&window, page] { OpenHelp(page(), &window); });
   menu.addSeparator();
-}
-
-void SetOpener(Opener opener) {
-  OwnOpener() = std::move(opener);
 }
 
 }  // namespace Help

@@ -4,7 +4,6 @@
 #include <functional>
 
 class QMenu;
-class QUrl;
 class QWidget;
 
 // The user's guide: one page for each screen, named as its form ("frmLoans"), and one for each tab of the main screen
@@ -18,15 +17,12 @@ QString PageFile(const QString& page);
 // The name of a tab's page, by its caption: letters and digits in small letters, the rest one dash.
 QString TabPageName(const QString& form, const QString& tabCaption);
 
-// Opens the page in the program that the desktop has for it; says so where there is none, with the owner's caption.
+// Opens the page in the window of the guide, which stays beside the work; a page that is missing is told with the
+// owner's caption.
 void OpenHelp(const QString& page, QWidget* owner);
 // F1 in this window opens the page that `page` names at that moment.
 void OpenByF1(QWidget& window, std::function<QString()> page);
 // An entry of the window's help menu that does the same, for those who do not know the key.
 void AddEntry(QMenu& menu, QWidget& window, std::function<QString()> page);
-
-// What opens a file; nullptr brings the desktop's own back.
-using Opener = std::function<bool(const QUrl&)>;
-void SetOpener(Opener opener);
 
 }  // namespace Help

@@ -57,9 +57,17 @@ bool RangeMessage(TextBox& box, const QString& caption, const QString& highest, 
   return false;
 }
 
+QString NumericRule(const QString& highest, const QString& pattern, bool zeroAllowed, bool noMinus, bool noDecimal) {
+  const QString most = Numbers::Format(Numbers::Val(highest), pattern), zero = Numbers::Format(0, pattern);
+  QString rule = (noMinus ? zero : "-" + most) + " to " + most;
+  if (!zeroAllowed) rule += ", not " + zero;
+  return noDecimal ? rule : rule + "; decimal separator: " + gstrDecimalSeparator;
+}
+
 void MakeNumeric(TextBox& box, const QLabel* label, const QString& highest, const QString& pattern, bool zeroAllowed,
                  bool noMinus, bool noDecimal) {
   box.SetKeyPress([&box, noMinus, noDecimal](char16_t key) { return FilterNumericKey(key, box, noMinus, noDecimal); });
+  box.SetRule(NumericRule(highest, pattern, zeroAllowed, noMinus, noDecimal));
   box.SetLeaveCheck([&box, label, highest, pattern, zeroAllowed] {
     return RangeMessage(box, label ? Form::PlainCaption(label->text()) : QString(), highest, pattern, zeroAllowed);
   });

@@ -17,6 +17,9 @@ char16_t FilterNumericKey(char16_t key, const TextBox& box, bool noMinus, bool n
 bool RangeMessage(TextBox& box, const QString& caption, const QString& highest, const QString& pattern,
                   bool zeroAllowed);
 
-// Both on a box: filter while typing and pasting, range check on leaving.
+// What may stand in such a box, for its tip: "-99.99 to 99.99; decimal separator: .".
+QString NumericRule(const QString& highest, const QString& pattern, bool zeroAllowed, bool noMinus, bool noDecimal);
+
+// All of it on a box: filter while typing and pasting, range check on leaving.
 void MakeNumeric(TextBox& box, const QLabel* label, const QString& highest, const QString& pattern,
                  bool zeroAllowed = true, bool noMinus = false, bool noDecimal = false);

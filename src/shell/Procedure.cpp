@@ -1,5 +1,7 @@
 #include "shell/Procedure.h"
 
+#include <QScopedValueRollback>
+
 #include "core/Failure.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
@@ -49,7 +51,19 @@ bool Procedure::Step(const std::function<void()>& statement) {
   return Guard(statement, false);
 }
 
+namespace {
+QString& RunningNow() {
+  static QString name;
+  return name;
+}
+}  // namespace
+
+const QString& Procedure::Running() {
+  return RunningNow();
+}
+
 bool Procedure::Guard(const std::function<void()>& body, bool show) {
+  const QScopedValueRollback running(RunningNow(), logName_);
   const std::optional<AdoError> error = Try(body);
   if (error) Report(*error, show);
   return !error;

@@ -38,6 +38,9 @@ class Procedure {
   // Runs the body and hands its failure out, neither shown nor logged, with an open transaction rolled back.
   static std::optional<AdoError> Try(const std::function<void()>& body);
 
+  // Log name of the innermost procedure that runs now; empty between events.
+  static const QString& Running();
+
   const QString& LogName() const { return logName_; }
 
  private:

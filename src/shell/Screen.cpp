@@ -5,15 +5,15 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QPushButton>
-#include <QScreen>
-#include <QScrollArea>
-#include <QStyle>
-#include <QVBoxLayout>
 
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "platform/controls/FormLayout.h"
+#include "shell/FirstField.h"
+#include "shell/FitDisplay.h"
 #include "shell/Help.h"
+#include "shell/RoundKeys.h"
+#include "shell/StatementsWindow.h"
 #include "shell/WindowMemory.h"
 
 Screen::Screen(const QString& formName, const QString& caption, QWidget* parent)
@@ -23,37 +23,22 @@ Screen::Screen(const QString& formName, const QString& caption, QWidget* parent)
   setModal(true);
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   Help::OpenByF1(*this, [formName] { return formName; });
-}
-
-// A screen that large letters or long captions have made larger than the display scrolls.
-void Screen::FitDisplay() {
-  const QSize room = screen()->availableSize() - QSize(0, WindowMemory::TitleBar);
-  if (layout() == nullptr || layout()->totalMinimumSize().boundedTo(room) == layout()->totalMinimumSize()) return;
-  QWidget* const focus = focusWidget();
-  QWidget* const bar = layout()->menuBar();
-  layout()->setMenuBar(nullptr);
-  auto* const area = new QScrollArea(this);
-  auto* const content = new QWidget;
-  content->setLayout(layout());
-  area->setWidget(content);
-  area->setWidgetResizable(true);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setFocusPolicy(Qt::NoFocus);
-  auto* const whole = new QVBoxLayout(this);
-  whole->setContentsMargins(0, 0, 0, 0);
-  whole->addWidget(area);
-  whole->setMenuBar(bar);
-  const int line = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-  resize((content->minimumSizeHint() + QSize(line, line)).boundedTo(room));
-  if (focus != nullptr) focus->setFocus(Qt::OtherFocusReason);
+  StatementsWindow::OpenByF12(*this);
 }
 
 void Screen::Begin() {
   Form_Load();
   loaded_ = true;
-  FitDisplay();
+  QWidget* const focus = focusWidget();
+  FitDisplay::Fit(*this, WindowMemory::RoomFor(*this));
+  if (focus != nullptr) focus->setFocus(Qt::OtherFocusReason);
   Form::ReadingOrder(this);
+  if (findChild<QPushButton*>("cmdUpdate") != nullptr) LeadFromListsToFields(*this);
+  new RoundKeys(*this);
   WindowMemory::Restore(*this);
+  // Texts in several lines are as high as the width makes them.
+  if (layout() != nullptr && layout()->hasHeightForWidth())
+    resize(size().expandedTo({0, layout()->totalHeightForWidth(width())}).boundedTo(WindowMemory::RoomFor(*this)));
 }
 
 void Screen::ShowModeless() {

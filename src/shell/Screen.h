@@ -50,7 +50,6 @@ class Screen : public QDialog, public ActivatedForm {
 
  private:
   void Begin();
-  void FitDisplay();
 
   bool loaded_ = false;
   bool unloading_ = false;

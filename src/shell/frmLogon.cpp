@@ -8,9 +8,11 @@
 #include "core/Logon.h"
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
+#include "platform/controls/ElidedLabel.h"
 #include "platform/controls/FormLayout.h"
 #include "shell/Help.h"
 #include "shell/Screen.h"
+#include "shell/SiteStrip.h"
 
 namespace {
 
@@ -55,10 +57,15 @@ void frmLogon::BuildControls() {
   // Both as wide as most entries need; a longer password scrolls.
   for (TextBox* field : {txtUser, txtPassword}) field->setFixedWidth(Form::FieldWidth(field, 30));
   // A test site and the real one have databases of the same name. Where the file comes from is what tells them apart.
-  auto* const lblSite = new QLabel("Site: " + gclsOF->ApplicationPath(), this);
+  auto* const lblSite = new ElidedLabel(this);
   lblSite->setObjectName("lblSite");
-  lblSite->setTextFormat(Qt::PlainText);
+  lblSite->setText("Site: " + gclsOF->ApplicationPath());
   auto* const column = Form::Column(this, {lblSite, fields});
+  if (SiteStrip::IsSet()) column->insertWidget(0, new SiteStrip(this));
+  auto* const database = new ElidedLabel(this);
+  database->setObjectName("lblDatabase");
+  if (!gclsOF->DatabaseName().isEmpty()) database->setText("Database: " + gclsOF->DatabaseName());
+  column->addWidget(database);
   column->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}));
 
   connect(txtUser, &TextBox::Change, this, &frmLogon::EnableOK);

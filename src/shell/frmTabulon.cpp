@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QTabBar>
@@ -12,9 +13,16 @@
 #include "core/ProcessEnd.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
+#include "shell/FirstField.h"
+#include "shell/FitDisplay.h"
 #include "shell/Messages.h"
 #include "shell/Procedure.h"
+#include "shell/UnsavedMarks.h"
 #include "shell/WindowMemory.h"
+
+namespace {
+constexpr int AroundPages = 60;  // pixels that the window, its rows of tabs and a scroll bar take beside a page
+}
 
 void frmTabulon::SetTab(int index, TabRow row) {
   rows_.at(static_cast<size_t>(index)) = std::move(row);
@@ -76,12 +84,54 @@ void frmTabulon::Enter(int index) {
   if (!rows_[at].make) return EnableButtons("O");
   if (!pages_[at]) {
     pages_[at] = rows_[at].make(*this);
-    sstabtables_->widget(index)->layout()->addWidget(pages_[at]);
+    FitDisplay::Narrow(*pages_[at], WindowMemory::RoomFor(*this).width() - AroundPages);
+    Holder(index)->layout()->addWidget(pages_[at]);
     Form::ReadingOrder(this);
+    LeadFromListsToFields(*pages_[at]);
+    WatchRecords(*pages_[at]);
   }
   ShowPage();
   buttonState();
   rows_[at].entry(*pages_[at]);
+}
+
+void frmTabulon::WatchRecords(TabPage& page) {
+  QList<TabPage*> pages = page.findChildren<TabPage*>();
+  // The fields of a tab with sub-tabs are theirs.
+  if (pages.isEmpty()) pages.append(&page);
+  for (TabPage* each : pages) {
+    new UnsavedMarks(*each, each->CurrentRecord());
+    each->CurrentRecord().Observe([this] { ShowModified(); });
+  }
+}
+
+// What is not stored is seen: Update is the button in the highlight colour, and the status bar says it.
+void frmTabulon::ShowModified() {
+  const bool modified = gbRecordModified;
+  modified_->setText(modified ? "Modified" : QString());
+  update_.button->setDefault(modified);
+}
+
+void frmTabulon::ReadAgain() {
+  Procedure procedure("frmTabulon.ReadAgain");
+  // As with a click on the tab: the field that is left is checked first.
+  sstabtables_->tabBar()->setFocus(Qt::ShortcutFocusReason);
+  if (focusWidget() != sstabtables_->tabBar() || !IsSetUp()) return;
+  if (UpdateIsPossible() && gbRecordModified && CloseButtonUpdate()) {
+    cmdUpdate_Click();
+    if (gbRecordModified) return;
+  }
+  procedure.Step([this] { Enter(tab_); });
+  if (LivePage() != nullptr) LivePage()->CurrentRecord().Settled();
+  gbSkipGridEvents = false;
+}
+
+// Escape in a changed field gives back what the record holds.
+void frmTabulon::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Escape || event->modifiers() != Qt::NoModifier || focusWidget() == nullptr)
+    return QMainWindow::keyPressEvent(event);
+  for (UnsavedMarks* marks : findChildren<UnsavedMarks*>())
+    if (marks->GiveBack(focusWidget())) return;
 }
 
 // A tab that was not set up shows nothing of what its page showed last, and says what to do.
@@ -92,7 +142,7 @@ void frmTabulon::ShowPage() {
     line = new QLabel("Click the tab again to open it.");
     line->setObjectName("lblNotSetUp");
     line->setAlignment(Qt::AlignCenter);
-    sstabtables_->widget(tab_)->layout()->addWidget(line);
+    Holder(tab_)->layout()->addWidget(line);
   }
   if (line != nullptr) line->setVisible(!IsSetUp());
   // The layout would show it only when the event loop runs again, too late for the entry to set a focus.

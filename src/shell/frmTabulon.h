@@ -16,6 +16,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class QTabWidget;
+class TextBox;
 class Procedure;
 
 // One row of the shell's table of tabs. An empty operation is a button that does nothing there. Operations answer
@@ -98,6 +99,8 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   bool CloseButtonUpdate();
   // User, database, working language and rights in the status bar.
   void ShowStatus();
+  // Reads the tab on screen again, with the guard.
+  void ReadAgain();
 
   void cmdAdd_Click();
   void cmdUpdate_Click();
@@ -109,6 +112,7 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   struct Command {
@@ -120,6 +124,8 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   void BuildMenu();
   void BuildStatusBar();
   QString GuidePage() const;
+  void ShowSite();
+  static QString PaperOrigin();
   QAction* HelpEntry(QMenu* menu, const QString& name, const QString& caption, FormName formName);
 
   // The stages of Form_Load. False: the process is ending.
@@ -129,8 +135,12 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   void NameTabs();
   void FinishLoad();
 
+  // Where the page of a tab stands; it scrolls where the window is too small for the page.
+  QWidget* Holder(int index) const;
   void TabChanged(int index);
   void ShowPage();
+  void WatchRecords(TabPage& page);
+  void ShowModified();
   bool IsSetUp() const { return tab_ == live_; }
   void sstabtables_Click(int previousTab);
   void Enter(int index);
@@ -150,6 +160,8 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   QPushButton* cmdClose_ = nullptr;
   QMenu* mnuOptions_ = nullptr;
   QLabel* status_ = nullptr;
+  QLabel* modified_ = nullptr;
+  TextBox* find_ = nullptr;
   int tab_ = 0;               // the tab on screen
   int live_ = 0;              // the tab set up last; another one on screen came up behind a record that waited
   bool mbFormLoaded = false;  // Form_Load has gone all the way through

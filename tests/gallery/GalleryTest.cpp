@@ -15,32 +15,10 @@
 #include "core/OstanaFunctions.h"
 #include "shell/frmLogon.h"
 #include "support/Folders.h"
+#include "support/Palettes.h"
 #include "support/Walk.h"
 
 namespace {
-
-QPalette DarkPalette() {
-  QPalette dark;
-  const QColor base(35, 38, 41), window(49, 54, 59), text(239, 240, 241), mid(99, 104, 109);
-  dark.setColor(QPalette::Window, window);
-  dark.setColor(QPalette::WindowText, text);
-  dark.setColor(QPalette::Base, base);
-  dark.setColor(QPalette::AlternateBase, window);
-  dark.setColor(QPalette::Text, text);
-  dark.setColor(QPalette::Button, window);
-  dark.setColor(QPalette::ButtonText, text);
-  dark.setColor(QPalette::BrightText, Qt::red);
-  dark.setColor(QPalette::ToolTipBase, window);
-  dark.setColor(QPalette::ToolTipText, text);
-  dark.setColor(QPalette::Link, QColor(41, 128, 185));
-  dark.setColor(QPalette::Highlight, QColor(61, 174, 233));
-  dark.setColor(QPalette::HighlightedText, QColor(20, 22, 24));
-  dark.setColor(QPalette::Mid, mid);
-  dark.setColor(QPalette::PlaceholderText, QColor(160, 164, 168));
-  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-    dark.setColor(QPalette::Disabled, role, QColor(127, 140, 141));
-  return dark;
-}
 
 // Names of all controls of a form that a data sheet lists, sorted, each with its kind.
 QStringList SheetOf(const QWidget& form) {
@@ -49,8 +27,8 @@ QStringList SheetOf(const QWidget& form) {
     const QString name = object->objectName();
     const QString kind = object->metaObject()->className();
     // Parts that the toolkit adds to its own widgets.
-    if (name.isEmpty() || name.startsWith("qt_") || kind.startsWith("QAbstract") || kind.startsWith("QWidgetLine") ||
-        name == "ScrollLeftButton" || name == "ScrollRightButton")
+    if (name.isEmpty() || name.startsWith("qt_") || name.startsWith("_q_") || kind.startsWith("QAbstract") ||
+        kind.startsWith("QWidgetLine") || name == "ScrollLeftButton" || name == "ScrollRightButton")
       continue;
     names.append(name + " " + kind);
   }
@@ -80,7 +58,7 @@ class GalleryTest : public Walk {
     const QString path = folder_ + name;
     QApplication::setPalette(light_);
     Picture(path, window);
-    QApplication::setPalette(DarkPalette());
+    QApplication::setPalette(Palettes::Of(Palettes::Dark));
     Picture(path + "-dark", window);
     QApplication::setPalette(light_);
   }

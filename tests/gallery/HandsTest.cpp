@@ -11,6 +11,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
@@ -38,7 +39,8 @@ QList<T*> Seen(const QWidget& window) {
 bool IsPartOfControl(const QWidget* control) {
   for (const QWidget* at = control->parentWidget(); at != nullptr && !at->isWindow(); at = at->parentWidget())
     if (qobject_cast<const QComboBox*>(at) || qobject_cast<const QAbstractSpinBox*>(at) ||
-        qobject_cast<const QAbstractScrollArea*>(at) || qobject_cast<const QTabBar*>(at))
+        (qobject_cast<const QAbstractScrollArea*>(at) && !qobject_cast<const QScrollArea*>(at)) ||
+        qobject_cast<const QTabBar*>(at))
       return true;
   return false;
 }

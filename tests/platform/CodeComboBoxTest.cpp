@@ -3,8 +3,13 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractItemView>
+#include <QLabel>
+#include <QListView>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTabWidget>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "platform/Window.h"
@@ -259,6 +264,94 @@ TEST_F(CodeComboBoxTest, GotFocusByTab) {
   QSignalSpy got(list, &CodeComboBox::GotFocus);
   QTest::keyClick(next, Qt::Key_Tab, Qt::ShiftModifier);
   EXPECT_EQ(got.count(), 1);
+}
+
+// --- Keys ---
+
+TEST_F(CodeComboBoxTest, KeysWithControlAreTheWindows) {
+  auto* const tabs = window.Add(new QTabWidget(&window));
+  tabs->addTab(list, "first");
+  tabs->addTab(new QWidget, "second");
+  Fill();
+  Show();
+  QTest::keyClick(list, Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(tabs->currentIndex(), 1);
+  tabs->setCurrentIndex(0);
+  list->SetIndex(1);
+  list->setFocus();
+  QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);
+  EXPECT_EQ(list->Index(), 1);
+}
+
+TEST_F(CodeComboBoxTest, ArrowsOpenTheListWhereThatIsAskedFor) {
+  Fill();
+  list->SetIndex(0);
+  Show();
+  QTest::keyClick(list, Qt::Key_Down);
+  EXPECT_EQ(list->Index(), 1);
+  list->OpenByArrows();
+  QSignalSpy picked(list, &CodeComboBox::Click);
+  QTest::keyClick(list, Qt::Key_Down);
+  EXPECT_TRUE(list->view()->isVisible());
+  EXPECT_EQ(list->Index(), 1);
+  EXPECT_EQ(picked.count(), 0);
+  QTest::keyClick(list->view(), Qt::Key_Down);
+  QTest::keyClick(list->view(), Qt::Key_Return);
+  EXPECT_EQ(list->Index(), 2);
+  EXPECT_EQ(picked.count(), 1);
+}
+
+TEST_F(CodeComboBoxTest, TypingInALongOpenListLeavesWhatHoldsTheText) {
+  list->AddNone();
+  for (int entry = 1; entry <= 30; ++entry) list->Add(QStringLiteral("Table %1").arg(entry), QString::number(entry));
+  list->Add(QString::fromUtf8("Universités"), "U");
+  list->Add("Patron categories of university", "P");
+  Show();
+  auto* const view = qobject_cast<QListView*>(list->view());
+  const auto shown = [&] {
+    QStringList entries;
+    for (int row = 0; row < list->Count(); ++row)
+      if (!view->isRowHidden(row)) entries.append(list->TextAt(row));
+    return entries;
+  };
+  list->showPopup();
+  QTest::keyClicks(view, "universit");
+  EXPECT_EQ(shown(), QStringList({QString::fromUtf8("Universités"), "Patron categories of university"}));
+  EXPECT_EQ(view->currentIndex().row(), list->IndexOfCode("U"));
+  auto* const text = view->parentWidget()->findChild<QLabel*>("qt_choice_filter");
+  ASSERT_NE(text, nullptr);
+  EXPECT_EQ(text->text(), "universit");
+  QTest::keyClicks(view, "y");
+  EXPECT_EQ(shown(), QStringList("Patron categories of university"));
+  QTest::keyClick(view, Qt::Key_Backspace);
+  EXPECT_EQ(shown().size(), 2);
+  QTest::keyClick(view, Qt::Key_Escape);
+  EXPECT_EQ(shown().size(), 33);
+  EXPECT_TRUE(view->isVisible()) << "the first Escape takes the text away, the second closes the list";
+  QTest::keyClicks(view, "gories");
+  QTest::keyClick(view, Qt::Key_Return);
+  EXPECT_EQ(list->Code(), "P");
+  EXPECT_FALSE(view->isVisible());
+  list->showPopup();
+  EXPECT_EQ(shown().size(), 33) << "the next time the list is whole";
+}
+
+TEST_F(CodeComboBoxTest, ATipTellsTheWholeEntryThatIsCut) {
+  Fill();
+  list->Add("Requests of other libraries that came by mail and by telephone", "R");
+  list->setFixedWidth(90);
+  Show();
+  const auto tip = [this] {
+    QToolTip::showText(QPoint(1, 1), "another");
+    const QPoint middle = list->rect().center();
+    QHelpEvent help(QEvent::ToolTip, middle, list->mapToGlobal(middle));
+    QApplication::sendEvent(list, &help);
+    return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+  };
+  list->SetCode("R");
+  EXPECT_EQ(tip(), "Requests of other libraries that came by mail and by telephone");
+  list->SetCode("S");
+  EXPECT_FALSE(tip().contains("Standard"));
 }
 
 }  // namespace

@@ -8,6 +8,8 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QSignalSpy>
+#include <QTextDocumentFragment>
+#include <QToolTip>
 
 #include "platform/Window.h"
 
@@ -327,6 +329,75 @@ TEST_F(TextBoxTest, IsAsWideAsItsLimitCallsFor) {
   EXPECT_EQ(address.sizeHint().width(), note.sizeHint().width());
   EXPECT_LT(note.sizeHint().width(), 640);
   EXPECT_GE(code.sizeHint().width(), code.fontMetrics().horizontalAdvance("WWW") + 8);
+}
+
+// --- What a person sees of a long text ---
+
+TEST_F(TextBoxTest, ABoxWithoutTheFocusShowsTheBeginningOfItsText) {
+  Make()->setFixedWidth(60);
+  auto* const next = window.findChild<TextBox*>("txtNext");
+  next->setFocus();
+  box->SetText("https://ncip.auenfels.example.org/service");
+  EXPECT_EQ(box->cursorPosition(), 0);
+  box->setFocus();
+  QTest::keyClick(box, Qt::Key_End);
+  QTest::keyClicks(box, "/v2");
+  EXPECT_TRUE(box->Text().endsWith("/v2"));
+  next->setFocus();
+  EXPECT_EQ(box->cursorPosition(), 0);
+}
+
+TEST_F(TextBoxTest, ATipTellsTheWholeTextAndTheRule) {
+  Make(80)->setFixedWidth(60);
+  const auto tip = [this] {
+    QToolTip::showText(QPoint(1, 1), "another");
+    const QPoint middle = box->rect().center();
+    QHelpEvent help(QEvent::ToolTip, middle, box->mapToGlobal(middle));
+    QApplication::sendEvent(box, &help);
+    return QTextDocumentFragment::fromHtml(QToolTip::text()).toPlainText();
+  };
+  box->SetText("x");
+  EXPECT_EQ(tip(), "up to 80 characters");
+  box->SetText("https://ncip.auenfels.example.org/service");
+  EXPECT_EQ(tip(), "https://ncip.auenfels.example.org/service\nup to 80 characters");
+  box->UpperCaseAsTyped();
+  box->SetMaxLength(1);
+  EXPECT_EQ(tip(), "1 character, capitals");
+  box->setToolTip("The symbol of the library");
+  box->SetRule("0.00 to 99.99");
+  EXPECT_EQ(tip(), "The symbol of the library\n0.00 to 99.99");
+  box->setReadOnly(true);
+  EXPECT_EQ(tip(), "The symbol of the library");
+}
+
+TEST_F(TextBoxTest, ARefusedKeySaysWhyAtTheBox) {
+  Make(10)->SetKeyPress(DigitsOnly());
+  box->SetRule("digits");
+  QTest::keyClicks(box, "4");
+  EXPECT_FALSE(box->property("refused").toBool());
+  QTest::keyClicks(box, ",");
+  EXPECT_TRUE(box->property("refused").toBool());
+  EXPECT_EQ(QToolTip::text(), "digits");
+  auto* const edge = box->findChild<QWidget*>("qt_edge");
+  ASSERT_NE(edge, nullptr);
+  EXPECT_TRUE(edge->isVisible());
+  EXPECT_TRUE(QTest::qWaitFor([this] { return !box->property("refused").toBool(); }));
+  EXPECT_FALSE(edge->isVisible());
+}
+
+TEST_F(TextBoxTest, WhatIsNotStoredHasAnEdge) {
+  Make(10);
+  auto* const edge = box->findChild<QWidget*>("qt_edge");
+  const auto left = [this] { return window.grab().toImage().pixelColor(box->geometry().topLeft() + QPoint(1, 8)); };
+  box->setProperty("unsaved", true);
+  EXPECT_TRUE(edge->isVisible());
+  EXPECT_EQ(edge->geometry(), box->rect());
+  EXPECT_EQ(left(), box->palette().color(QPalette::Highlight));
+  QTest::mouseClick(box, Qt::LeftButton);
+  EXPECT_TRUE(box->hasFocus()) << "the edge takes no click away";
+  window.findChild<TextBox*>("txtNext")->setFocus();
+  box->setProperty("unsaved", false);
+  EXPECT_FALSE(edge->isVisible());
 }
 
 }  // namespace

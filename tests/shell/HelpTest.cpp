@@ -1,12 +1,17 @@
 // F1 and the guide.
+#include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTextBrowser>
 #include <QUrl>
+#include <QWindow>
 
 #include "shell/Help.h"
+#include "shell/HelpWindow.h"
 #include "shell/Screen.h"
 #include "shell/Screens.h"
 #include "shell/frmLogon.h"
@@ -20,29 +25,34 @@ class HelpTest : public Desk {
     Desk::SetUp();
     QDir(Folder()).mkdir("guide");
     qputenv("OSTANA_GUIDE", Guide().toLocal8Bit());
-    Help::SetOpener([this](const QUrl& url) {
-      opened_.append(url.fileName());
-      return opens_;
-    });
   }
   void TearDown() override {
-    Help::SetOpener(nullptr);
+    delete GuideWindow();
     qunsetenv("OSTANA_GUIDE");
     Desk::TearDown();
   }
   QString Guide() const { return QDir(Folder()).filePath("guide"); }
-  void Page(const QString& name) {
+  void Page(const QString& name, const QByteArray& text = "# Title\n") {
     QFile file(QDir(Guide()).filePath(name));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
   }
+  static HelpWindow* GuideWindow() {
+    for (QWidget* window : QApplication::allWidgets())
+      if (auto* const guide = qobject_cast<HelpWindow*>(window)) return guide;
+    return nullptr;
+  }
+  // The page that the guide shows; empty while it is closed.
+  static QString Opened() {
+    const HelpWindow* const guide = GuideWindow();
+    return guide == nullptr || !guide->isVisible() ? QString() : QFileInfo(guide->File()).fileName();
+  }
+  static QTextBrowser* GuideText() { return GuideWindow()->findChild<QTextBrowser*>("txtGuide"); }
 
   void F1() {
     QApplication::setActiveWindow(Window());
     QTest::keyClick(Window(), Qt::Key_F1);
   }
-
-  QStringList opened_;
-  bool opens_ = true;
 };
 
 TEST_F(HelpTest, F1OpensThePageOfTheDialog) {
@@ -50,7 +60,7 @@ TEST_F(HelpTest, F1OpensThePageOfTheDialog) {
   Logon();
   Open("frmAboutApp");
   F1();
-  EXPECT_EQ(opened_, QStringList{"frmAboutApp.html"});
+  EXPECT_EQ(Opened(), "frmAboutApp.html");
 }
 
 TEST_F(HelpTest, F1OpensThePageOfTheLogon) {
@@ -59,7 +69,7 @@ TEST_F(HelpTest, F1OpensThePageOfTheLogon) {
   logon.show();
   QApplication::setActiveWindow(&logon);
   QTest::keyClick(&logon, Qt::Key_F1);
-  EXPECT_EQ(opened_, QStringList{"frmLogon.html"});
+  EXPECT_EQ(Opened(), "frmLogon.html");
 }
 
 // After Yes to the question of the guard the new tab is on screen, and set up when it is entered again.
@@ -72,16 +82,17 @@ TEST_F(HelpTest, ATabThatWasNotSetUpIsToldOfOnThePageOfTheMainScreen) {
   Prompt().ExpectStart("This Code does not exist in the table.", 48);
   SelectTab("sstabtables", frmTabulon::DeliveryTab);
   F1();
-  EXPECT_EQ(opened_, QStringList{"frmTabulon.html"});
+  EXPECT_EQ(Opened(), "frmTabulon.html");
 }
 
 TEST_F(HelpTest, TheHelpMenuOpensThePageToo) {
   for (const char* page : {"frmTabulon-code-tables.html", "frmLibraryLoginInfo.html"}) Page(page);
   Start();
   Trigger("mnuHelpGuide");
+  EXPECT_EQ(Opened(), "frmTabulon-code-tables.html");
   Open("frmLibraryLoginInfo");
   Trigger("mnuHelpGuide");
-  EXPECT_EQ(opened_, (QStringList{"frmTabulon-code-tables.html", "frmLibraryLoginInfo.html"}));
+  EXPECT_EQ(Opened(), "frmLibraryLoginInfo.html");
 }
 
 TEST_F(HelpTest, HtmlGoesBeforeMarkdownAndMarkdownBeforeNothing) {
@@ -98,18 +109,20 @@ TEST_F(HelpTest, EachTabOfTheMainScreenHasItsPage) {
   for (const QString& page : pages) Page(page);
   Start();
   F1();
+  EXPECT_EQ(Opened(), pages[0]);
   SelectTab("sstabtables", frmTabulon::DeliveryTab);
   F1();
+  EXPECT_EQ(Opened(), pages[1]);
   SelectTab("sstab5Delivery", 2);
   F1();
-  EXPECT_EQ(opened_, pages);
+  EXPECT_EQ(Opened(), pages[2]);
 }
 
 TEST_F(HelpTest, F1InAFieldIsTheWindowsF1) {
   Page("frmTabulon-code-tables.md");
   Start();
   Press("cmb0Tables", Qt::Key_F1);
-  EXPECT_EQ(opened_.size(), 1);
+  EXPECT_EQ(Opened(), "frmTabulon-code-tables.md");
 }
 
 TEST_F(HelpTest, AMissingPageIsSaidPlainly) {
@@ -117,15 +130,92 @@ TEST_F(HelpTest, AMissingPageIsSaidPlainly) {
   Prompt().ExpectTitled("The guide has no page frmTabulon-code-tables on this machine.", 48,
                         "Ostana - System Maintenance");
   F1();
-  EXPECT_TRUE(opened_.isEmpty());
+  EXPECT_EQ(Opened(), "");
 }
 
-TEST_F(HelpTest, ADesktopThatOpensNothingIsSaidPlainly) {
-  Page("frmTabulon-code-tables.md");
-  opens_ = false;
-  Start();
-  Prompt().ExpectStart("No program on this machine opens the page of the guide:\n", 48);
+TEST_F(HelpTest, TheGuideFollowsLinksAndGoesBack) {
+  Page("frmAboutApp.md", "# About\n\n[Loans](frmLoans.md#statuses), [nothing](missing.md)\n");
+  Page("frmLoans.md", "# Loans\n");
+  Page("index.md", "# Contents\n");
+  Logon();
+  Open("frmAboutApp");
   F1();
+  Q_EMIT GuideText()->anchorClicked(QUrl("frmLoans.md#statuses"));
+  EXPECT_EQ(Opened(), "frmLoans.md");
+  EXPECT_TRUE(GuideText()->toPlainText().contains("Loans"));
+  GuideWindow()->findChild<QAction*>("mnuGuideBack")->trigger();
+  EXPECT_EQ(Opened(), "frmAboutApp.md");
+  Q_EMIT GuideText()->anchorClicked(QUrl("missing.md"));
+  EXPECT_EQ(Prompt().Beeps(), 1);
+  EXPECT_EQ(Opened(), "frmAboutApp.md");
+  GuideWindow()->findChild<QAction*>("mnuGuideContents")->trigger();
+  EXPECT_EQ(Opened(), "index.md");
+}
+
+TEST_F(HelpTest, TheGuideFindsATextAndGoesRound) {
+  Page("frmAboutApp.md", "# About\n\nfirst word\n\nsecond word\n");
+  Logon();
+  Open("frmAboutApp");
+  F1();
+  QTest::keyClick(GuideText(), Qt::Key_F, Qt::ControlModifier);
+  auto* const sought = GuideWindow()->findChild<TextBox*>("txtFindInGuide");
+  ASSERT_EQ(GuideWindow()->focusWidget(), sought);
+  QTest::keyClicks(sought, "word");
+  const int first = GuideText()->textCursor().position();
+  EXPECT_EQ(GuideText()->textCursor().selectedText(), "word");
+  QTest::keyClick(sought, Qt::Key_Return);
+  EXPECT_GT(GuideText()->textCursor().position(), first);
+  QTest::keyClick(sought, Qt::Key_Return);
+  EXPECT_EQ(GuideText()->textCursor().position(), first);
+}
+
+TEST_F(HelpTest, LettersOfTheGuideGrowAndStaySo) {
+  Page("frmAboutApp.md");
+  Logon();
+  Open("frmAboutApp");
+  F1();
+  const int before = GuideText()->font().pointSize();
+  GuideWindow()->findChild<QAction*>("mnuGuideLarger")->trigger();
+  EXPECT_GT(GuideText()->font().pointSize(), before);
+  delete GuideWindow();
+  QApplication::setActiveWindow(Window());
+  F1();
+  EXPECT_GT(GuideText()->font().pointSize(), before);
+}
+
+TEST_F(HelpTest, PicturesAreNoWiderThanTheWindow) {
+  QImage(1600, 200, QImage::Format_RGB32).save(QDir(Guide()).filePath("wide.png"));
+  Page("frmAboutApp.md", "# About\n\n![wide](wide.png)\n");
+  Logon();
+  Open("frmAboutApp");
+  F1();
+  QApplication::processEvents();
+  EXPECT_EQ(GuideText()->horizontalScrollBar()->maximum(), 0);
+  GuideWindow()->resize(400, 300);
+  QApplication::processEvents();
+  EXPECT_EQ(GuideText()->horizontalScrollBar()->maximum(), 0);
+}
+
+// Dialogs block all windows but their own.
+TEST_F(HelpTest, TheGuideCanBeUsedWhileADialogIsOpenAndOutlivesIt) {
+  Page("frmTabulon-code-tables.md");
+  Start();
+  F1();
+  HelpWindow* const guide = GuideWindow();
+  WhenShown("frmAboutApp", [&](Screen& dialog) {
+    EXPECT_TRUE(guide->isVisible());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return guide->windowHandle()->transientParent() == dialog.windowHandle(); }));
+    // A press that comes from the display; a blocked window would not get it.
+    auto* const sought = guide->findChild<TextBox*>("txtFindInGuide");
+    GuideText()->setFocus();
+    QTest::mouseClick(guide->windowHandle(), Qt::LeftButton, {}, sought->mapTo(guide, sought->rect().center()));
+    EXPECT_EQ(guide->focusWidget(), sought);
+  });
+  Trigger("mnuHelpAboutTabulon");
+  ASSERT_EQ(GuideWindow(), guide);
+  EXPECT_TRUE(guide->isVisible());
+  QTest::keyClick(guide, Qt::Key_Escape);
+  EXPECT_FALSE(guide->isVisible());
 }
 
 TEST_F(HelpTest, PageNamesOfTabs) {

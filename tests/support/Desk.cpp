@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QRadioButton>
+#include <QScreen>
 #include <QSettings>
 #include <QTabBar>
 #include <QTabWidget>
@@ -126,8 +127,21 @@ void Desk::Observe() {
   });
 }
 
+void Desk::UseDisplay(const QString& name) {
+  for (QScreen* screen : QGuiApplication::screens())
+    if (screen->name() == name) display_ = screen;
+  ASSERT_NE(display_, nullptr) << "There is no display " << name.toStdString();
+}
+
+void Desk::PutOnDisplay(QWidget& window) const {
+  if (display_ == nullptr) return;
+  window.setScreen(display_);
+  window.move(display_->availableGeometry().topLeft());
+}
+
 frmTabulon& Desk::Start(const QString& arguments) {
   shell_ = std::make_unique<frmTabulon>(arguments);
+  PutOnDisplay(*shell_);
   RegisterTabs(*shell_);
   shell_->Form_Initialize();
   if (exitCode_) return *shell_;

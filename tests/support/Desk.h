@@ -33,6 +33,10 @@ class Desk : public testing::Test {
   QString SettingsFile() const { return folder_.filePath("Ostana.ini"); }
   QString Folder() const { return folder_.path(); }
 
+  // Windows open on this display of the offscreen platform ("1024x768"); the first one unless set.
+  void UseDisplay(const QString& name);
+  void PutOnDisplay(QWidget& window) const;
+
   // --- The program ---
   // Starts the main screen as the launcher does and shows it. The quoted arguments default to the administrator's.
   frmTabulon& Start(const QString& arguments = "\"\" \"admin\" \"secret\"");
@@ -102,6 +106,7 @@ class Desk : public testing::Test {
   void WriteSettings();
   void Observe();
 
+  QScreen* display_ = nullptr;
   QTemporaryDir folder_;
   QString before_;
   std::unique_ptr<TestDatabase> database_;

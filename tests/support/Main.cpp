@@ -6,11 +6,11 @@
 #include <QFile>
 #include <QLocale>
 #include <QSettings>
-#include <QStyleFactory>
 #include <QTemporaryDir>
 #include <cstdio>
 
 #include "Screens.h"
+#include "platform/controls/OwnStyle.h"
 
 namespace {
 
@@ -24,11 +24,25 @@ void WithoutSizeHints(QtMsgType, const QMessageLogContext&, const QString& text)
 void PutUpScreen(const QString& folder) {
   QFile file(QDir(folder).filePath("screen.json"));
   if (!file.open(QIODevice::WriteOnly)) return;
-  const QStringList size = qEnvironmentVariable("TABULON_TEST_SCREEN", "1280x832").split('x');
-  file.write(QString(R"({"screens": [{"name": "desk", "x": 0, "y": 0, "width": %1, "height": %2,
-                     "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})")
-                 .arg(size.first(), size.last())
-                 .toUtf8());
+  QStringList screens;
+  auto put = [&screens, x = 0](const QString& name, const QString& size, double ratio) mutable {
+    const QStringList sides = size.split('x');
+    screens.append(QString(R"({"name": "%1", "x": %2, "y": 0, "width": %3, "height": %4,
+                           "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": %5})")
+                       .arg(name)
+                       .arg(x)
+                       .arg(sides.first(), sides.last())
+                       .arg(ratio));
+    x += sides.first().toInt();
+  };
+  put("desk", qEnvironmentVariable("TABULON_TEST_SCREEN", "1280x832"), 1);
+  // Displays that cases choose by name: the pixels that windows count, and how many of the device make one.
+  put("1024x768", "1024x768", 1);
+  put("1280x800", "1280x800", 1);
+  put("1280x800 at 150 %", "853x533", 1.5);
+  put("1280x800 at 200 %", "640x400", 2);
+  put("1920x1080 at 200 %", "960x540", 2);
+  file.write(QString(R"({"screens": [%1]})").arg(screens.join(',')).toUtf8());
   qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toUtf8());
 }
 
@@ -47,7 +61,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("Tabulon");
   QApplication::setApplicationVersion("1.0.0");
   QApplication::setOrganizationName("Ostana tests");
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setStyle(new OwnStyle("Fusion"));
   RegisterDialogs();
   return RUN_ALL_TESTS();
 }

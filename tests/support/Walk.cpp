@@ -85,6 +85,7 @@ void Walk::ThroughDialogs(const Look& look) {
     glngFoundLibraryId = library;
     gstrCoverRequestType = Ask("SELECT MIN(REQUEST_TYPE) FROM ID_COVER_INFO");
     const std::unique_ptr<Screen> screen = MakeScreen(name, nullptr);
+    PutOnDisplay(*screen);
     screen->ShowModeless();
     screen->activateWindow();
     ASSERT_TRUE(screen->isVisible());

@@ -49,7 +49,7 @@ qint64 Connection::Private::Observed(const QString& text, int allowed, const QSt
     record.milliseconds = timer.elapsed();
     record.affectedRows = affected;
     record.failed = failed;
-    for (const auto& observer : observers) observer(record);
+    for (const auto& [number, observer] : observers) observer(record);
   };
   qint64 affected = -1;
   try {
@@ -207,7 +207,7 @@ void Connection::Define(const QString& text) {
   d_->CheckReady(ExecuteSource);
   d_->columns.clear();
   try {
-    d_->session.Define(text, ExecuteSource);
+    d_->driver.Call([&] { d_->session.Define(text, ExecuteSource); });
   } catch (const AdoError&) {
     d_->NoteFailure();
     throw;
@@ -215,7 +215,7 @@ void Connection::Define(const QString& text) {
 }
 
 void Connection::Tell(const QString& user, const QString& program) {
-  d_->session.Tell(user, program);
+  d_->driver.Call([&] { d_->session.Tell(user, program); });
 }
 
 const Dialect& Connection::dialect() const {
@@ -230,8 +230,13 @@ QString Connection::LinkDescription() const {
   return d_->session.LinkDescription();
 }
 
-void Connection::AddObserver(std::function<void(const StatementRecord&)> observer) {
-  d_->observers.push_back(std::move(observer));
+int Connection::AddObserver(std::function<void(const StatementRecord&)> observer) {
+  d_->observers.emplace(++d_->lastObserver, std::move(observer));
+  return d_->lastObserver;
+}
+
+void Connection::RemoveObserver(int number) {
+  d_->observers.erase(number);
 }
 
 // --- Transaction ---

@@ -74,8 +74,9 @@ class Connection {
   // How the link to the server is, for a user: "encrypted (TLSv1.3 ...); the server's certificate is verified".
   QString LinkDescription() const;
 
-  // Called after every statement, failed ones included. One observer is added, none is ever removed.
-  void AddObserver(std::function<void(const StatementRecord&)> observer);
+  // Called after every statement, failed ones included, until it is removed by the number that it was given.
+  int AddObserver(std::function<void(const StatementRecord&)> observer);
+  void RemoveObserver(int number);
 
  private:
   friend class Recordset;

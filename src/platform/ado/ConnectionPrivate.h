@@ -22,7 +22,8 @@ struct Connection::Private {
   DriverThread driver{[this] { session.Stop(); }, [this] { session.CutLink(); }};
   Unit unit = Unit::None;
   QString lastOfUnit;  // the statement that the transaction ran last
-  std::vector<std::function<void(const StatementRecord&)>> observers;
+  std::map<int, std::function<void(const StatementRecord&)>> observers;
+  int lastObserver = 0;
   std::map<QString, std::vector<ColumnInfo>> columns;
 
   // Opens a closed session. A transaction that ended with its server is forgotten.

@@ -12,9 +12,13 @@
 #include <QStyledItemDelegate>
 #include <QWheelEvent>
 
+#include "platform/controls/ChoiceFilter.h"
+#include "platform/controls/FieldEdge.h"
+#include "platform/controls/FieldTip.h"
+
 namespace {
-constexpr int UsualWidth = 24;     // characters
-constexpr int EntriesOnShow = 20;  // of the open list
+constexpr int UsualWidth = 24, NarrowestWidth = 12;  // characters
+constexpr int EntriesOnShow = 20;                    // of the open list
 bool SameCode(const QString& a, const QString& b) {
   return a.isNull() == b.isNull() && a == b;
 }
@@ -34,6 +38,7 @@ CodeComboBox::CodeComboBox(QWidget* parent, const QString& name) : QComboBox(par
   setObjectName(name);
   setModel(new QStringListModel(this));
   SetUpList();
+  FieldEdge::Watch(this);
   setMaxVisibleItems(EntriesOnShow);
   setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   setMinimumContentsLength(UsualWidth);
@@ -159,6 +164,24 @@ bool CodeComboBox::IsNone() const {
   return !shown_.isEmpty() && shown_.compare(none_, Qt::CaseInsensitive) == 0;
 }
 
+bool CodeComboBox::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QComboBox::event(event);
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  const QRect room = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+  FieldTip::Show(*static_cast<QHelpEvent*>(event), *this, FieldTip::Of(*this, Text(), room.width(), {}));
+  return true;
+}
+
+// The toolkit takes Ctrl+Tab and its like for a text to look for; they are the window's.
+void CodeComboBox::keyPressEvent(QKeyEvent* event) {
+  const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+  if (modifiers.testFlag(Qt::ControlModifier) && !modifiers.testFlag(Qt::AltModifier)) return event->ignore();
+  const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+  if (opensByArrows_ && isArrow && modifiers == Qt::NoModifier) return showPopup();
+  QComboBox::keyPressEvent(event);
+}
+
 void CodeComboBox::focusInEvent(QFocusEvent* event) {
   QComboBox::focusInEvent(event);
   if (event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason &&
@@ -184,6 +207,7 @@ void CodeComboBox::SetUpList() {
   view()->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   for (QWidget* arrow : view()->parentWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
     if (arrow != view()) arrow->setFixedHeight(0);
+  new ChoiceFilter(this);
 }
 
 void CodeComboBox::initStyleOption(QStyleOptionComboBox* option) const {
@@ -207,6 +231,12 @@ void CodeComboBox::showPopup() {
   view()->setMinimumWidth(std::min(std::max(widest + around, width()), screen()->availableGeometry().width() * 4 / 5));
   const QScopedValueRollback opening(opening_, true);
   QComboBox::showPopup();
+}
+
+QSize CodeComboBox::minimumSizeHint() const {
+  const QSize usual = QComboBox::minimumSizeHint();
+  const int letters = fontMetrics().horizontalAdvance(u'X') * (minimumContentsLength() - NarrowestWidth);
+  return {minimumContentsLength() > NarrowestWidth ? usual.width() - letters : usual.width(), usual.height()};
 }
 
 void CodeComboBox::wheelEvent(QWheelEvent* event) {

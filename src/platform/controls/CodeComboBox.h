@@ -48,7 +48,12 @@ class CodeComboBox : public QComboBox {
   bool IsNone() const;
   bool IsEmptyOrNone() const { return Text().trimmed().isEmpty() || IsNone(); }
 
+  // Up and Down open the list instead of choosing the next entry: for lists whose choice changes the page.
+  void OpenByArrows() { opensByArrows_ = true; }
+
   void showPopup() override;
+  // Half as wide as it wants to be, where there is no room.
+  QSize minimumSizeHint() const override;
 
   // What assistive technology says of the field besides its name and its entry.
   void SetHint(const QString& hint);
@@ -59,7 +64,9 @@ class CodeComboBox : public QComboBox {
   void GotFocus();
 
  protected:
+  bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void initStyleOption(QStyleOptionComboBox* option) const override;
   void paintEvent(QPaintEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;  // scrolls the page, never the choice, unless focused
@@ -71,6 +78,7 @@ class CodeComboBox : public QComboBox {
 
   std::vector<QString> codes_;
   bool opening_ = false;
+  bool opensByArrows_ = false;
   int noneIndex_ = -1;
   QString none_ = QStringLiteral("(none)");
   QString hint_;

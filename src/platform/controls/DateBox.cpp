@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <QWheelEvent>
 
+#include "platform/controls/FieldEdge.h"
 #include "platform/controls/LeaveGuard.h"
 
 namespace {
@@ -61,6 +62,7 @@ QString DisplayFormat(const QString& format) {
 DateBox::DateBox(QWidget* parent, const QString& name)
     : QWidget(parent), check_(new Guarded<QCheckBox>(this, leave_)), edit_(new Guarded<QDateEdit>(this, leave_)) {
   setObjectName(name);
+  FieldEdge::Watch(this);
   check_->setObjectName(QStringLiteral("qt_datebox_check"));
   edit_->setObjectName(QStringLiteral("qt_datebox_date"));
   edit_->setCalendarPopup(true);

@@ -12,6 +12,7 @@
 #include <QStyleOptionFrame>
 
 #include "platform/controls/CodeComboBox.h"
+#include "platform/controls/FieldEdge.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/LeaveGuard.h"
 #include "platform/controls/MemoBox.h"
@@ -59,6 +60,14 @@ class FieldLabel : public QLabel {
     }
     return first;
   }
+};
+
+// As wide as the usual ones, and never narrower than its own words.
+class CommandButton : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+  QSize sizeHint() const override { return QPushButton::sizeHint().expandedTo({NarrowestButton, 0}); }
+  QSize minimumSizeHint() const override { return QPushButton::minimumSizeHint().expandedTo({NarrowestButton, 0}); }
 };
 
 void LendName(QWidget* field, const QString& caption) {
@@ -119,10 +128,9 @@ QLabel* Label(QWidget* parent, const QString& name, const QString& caption) {
 }
 
 QPushButton* Button(QWidget* parent, const QString& name, const QString& caption, const QString& toolTip) {
-  auto* button = new QPushButton(caption, parent);
+  auto* button = new CommandButton(caption, parent);
   button->setObjectName(name);
   button->setAutoDefault(false);
-  button->setMinimumWidth(NarrowestButton);
   if (!toolTip.isEmpty()) button->setToolTip(toolTip);
   return button;
 }
@@ -130,6 +138,7 @@ QPushButton* Button(QWidget* parent, const QString& name, const QString& caption
 QCheckBox* Check(QWidget* parent, const QString& name, const QString& caption) {
   auto* check = new QCheckBox(caption, parent);
   check->setObjectName(name);
+  FieldEdge::Watch(check);
   return check;
 }
 
@@ -257,6 +266,49 @@ QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> buttons) {
       row->addStretch();
   }
   return row;
+}
+
+void Unfold(QGridLayout* rows) {
+  struct Part {
+    QLayoutItem* item;
+    int row, column, columns;
+  };
+  std::vector<Part> parts;
+  bool beside = false;
+  while (rows->count() > 0) {
+    Part part{};
+    int height = 0;
+    rows->getItemPosition(0, &part.row, &part.column, &height, &part.columns);
+    part.item = rows->takeAt(0);
+    beside = beside || part.column == SecondLabel;
+    parts.push_back(part);
+  }
+  std::vector<int> stretches;
+  for (int row = 0; row < rows->rowCount(); ++row) stretches.push_back(rows->rowStretch(row));
+  for (std::size_t row = 0; row < stretches.size(); ++row) {
+    rows->setRowStretch(static_cast<int>(2 * row), stretches[row]);
+    rows->setRowStretch(static_cast<int>(2 * row) + 1, 0);
+  }
+  for (const Part& part : parts) {
+    const bool second = beside && part.column >= SecondLabel;
+    const int column = second ? part.column - SecondLabel : part.column;
+    const int end = second || part.column + part.columns == Columns ? Columns : part.column + part.columns;
+    const int columns = column == LabelColumn && part.columns == 1 ? 1 : end - column;
+    rows->addItem(part.item, 2 * part.row + (second ? 1 : 0), column, 1, columns, part.item->alignment());
+  }
+  rows->setColumnMinimumWidth(Gap, 0);
+}
+
+bool HasPairs(const QGridLayout* rows) {
+  for (int row = 0; row < rows->rowCount(); ++row)
+    if (rows->columnCount() == Columns && rows->itemAtPosition(row, SecondLabel) != nullptr &&
+        rows->itemAtPosition(row, SecondLabel) != rows->itemAtPosition(row, FieldColumn))
+      return true;
+  return false;
+}
+
+void KeepInSight(QWidget* part) {
+  part->setProperty(KeptInSight, true);
 }
 
 QWidget* Together(QWidget* parent, const QString& name, std::initializer_list<QWidget*> controls) {

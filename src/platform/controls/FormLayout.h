@@ -53,6 +53,12 @@ class Rows {
 
 // Buttons in one row, at the right end; nullptr is a gap that takes the room.
 QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> buttons);
+// Whether a form made by Rows has two fields in one row, and one field a row of it, where there is no room for two.
+bool HasPairs(const QGridLayout* rows);
+void Unfold(QGridLayout* rows);
+// A part at the top of a form that stays in sight where the rest has to scroll.
+inline constexpr auto KeptInSight = "keptInSight";
+void KeepInSight(QWidget* part);
 // Controls side by side that are one field of a form.
 QWidget* Together(QWidget* parent, const QString& name, std::initializer_list<QWidget*> controls);
 // Widgets stacked with the window's margins.

@@ -1,6 +1,8 @@
 #include "platform/controls/Grid.h"
 
 #include <QHeaderView>
+#include <QLocale>
+#include <QMenu>
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTimer>
@@ -38,12 +40,15 @@ Grid::Grid(QWidget* parent, const QString& name, int columns)
   setTabKeyNavigation(false);
   setWordWrap(false);
   setShowGrid(false);
-  setAlternatingRowColors(true);
   SetUpHeaders();
   SetUpShortcuts();
   connect(model_, &GridModel::Edited, this, [this](int row, int col, const QString& old) {
     edit_ = Edit{row, col, old};
   });
+  for (const auto signal : {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved})
+    connect(model_, signal, this, &Grid::CountChanged);
+  connect(model_, &QAbstractItemModel::modelReset, this, &Grid::CountChanged);
+  connect(model_, &QAbstractItemModel::dataChanged, this, &Grid::CountChanged);
   SetCols(columns);
   setStyle(GridStyle::Instance());
   heading_->setStyle(GridStyle::Instance());
@@ -71,6 +76,13 @@ void Grid::SetUpHeaders() {
     ShareRoom();
   });
   connect(heading_, &GridHeading::Released, this, &Grid::RememberWidths);
+  heading_->setContextMenuPolicy(Qt::CustomContextMenu);
+  connect(heading_, &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    AddColumnChoices(*menu);
+    menu->popup(heading_->viewport()->mapToGlobal(at));
+  });
 }
 
 void Grid::SetHeights() {
@@ -226,8 +238,12 @@ int Grid::FindRow(const std::vector<std::pair<int, QString>>& cells, int from) c
   return 0;
 }
 
-void Grid::AlignRight(int col) {
-  model_->AlignRight(col);
+void Grid::AlignRight(int col, bool right) {
+  model_->AlignRight(col, right);
+}
+
+Qt::Alignment Grid::Alignment(int col) const {
+  return model_->IsAlignedRight(col) ? Qt::AlignRight : Qt::AlignLeft;
 }
 
 void Grid::SetEditable(int col, int maxLength, const QStringList& choices) {
@@ -281,6 +297,27 @@ int Grid::ShownRows() const {
   return model_->rowCount();
 }
 
+int Grid::LastFilledRow() const {
+  int row = Rows() - 1;
+  while (row > 0 && model_->IsBlank(row)) --row;
+  return row;
+}
+
+int Grid::Neighbour(int step) const {
+  int row = row_ == 0 && step < 0 ? Rows() : row_;
+  do row += step;
+  while (model_->Holds(row, 0) && (RowHidden(row) || model_->IsBlank(row)));
+  return model_->Holds(row, 0) ? row : 0;
+}
+
+QString Grid::CountText() const {
+  const int all = LastFilledRow();
+  const QLocale here;
+  const QString rows = all == 1 ? tr("%1 row") : tr("%1 rows");
+  return filter_.isEmpty() ? rows.arg(here.toString(all))
+                           : tr("%1 of %2").arg(here.toString(ShownRows()), rows.arg(here.toString(all)));
+}
+
 std::vector<int> Grid::VisibleCols() const {
   std::vector<int> columns;
   for (int col = 1; col < Cols(); ++col)
@@ -300,6 +337,16 @@ void Grid::CloseFinder() {
 void Grid::FindNext(int step) {
   if (finder_ == nullptr || !finder_->Seeks()) return OpenFinder(Seek::Find);
   finder_->Next(step);
+}
+
+QString Grid::Sought() const {
+  return finder_ == nullptr ? QString() : finder_->Sought();
+}
+
+void Grid::LookFor(const QString& text) {
+  if (text.isEmpty()) return CloseFinder();
+  if (finder_ == nullptr) finder_ = new GridFinder(this, heading_);
+  finder_->LookFor(text);
 }
 
 int Grid::FoundRow() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMetaMethod>
 #include <QTableView>
 #include <optional>
 #include <span>
@@ -8,6 +9,7 @@
 class GridFinder;
 class GridHeading;
 class GridModel;
+class QMenu;
 
 // A grid of strings in the vocabulary the screens speak. Row 0 is the heading, data rows count from 1; column 0 is the
 // narrow marker column. Row() is 0 when no row is current, whatever the view's own current index is. Rows stand in the
@@ -57,10 +59,12 @@ class Grid : public QTableView {
   // columns, those whose texts are cut get of it what they lack, and the last visible column takes what is left.
   void SetColWidth(int col, int twips);
   int ColWidth(int col) const;  // in twips, as it was set
+  // By the screen; a person may hide others from the menu of the headings, which is remembered.
   void HideCol(int col, bool hidden);
   bool ColHidden(int col) const;
-  // Numbers to the right instead of left.
-  void AlignRight(int col);
+  // Amounts and counts stand at the right, all else at the left.
+  void AlignRight(int col, bool right = true);
+  Qt::Alignment Alignment(int col) const;
 
   // Cells of this column can be edited in place; an empty list is a text editor of maxLength characters, otherwise a
   // drop-down of these entries.
@@ -76,12 +80,16 @@ class Grid : public QTableView {
   // click on a heading sorts upwards, then downwards, numeric where the column holds nothing but numbers.
   void Sort(int col, Qt::SortOrder order, bool numeric = false);
 
-  // Hides rows that do not hold the text in any visible cell (letter case ignored); an empty text shows all. Hidden
-  // rows keep their numbers and are found like all others.
+  // Hides rows that do not hold the text in any visible cell (letter case and accents ignored); an empty text shows
+  // all. Hidden rows keep their numbers and are found like all others.
   void SetFilter(const QString& text);
   const QString& Filter() const { return filter_; }
   bool RowHidden(int row) const;
   int ShownRows() const;  // those that the filter leaves
+  // The row on screen before (-1) or after (1) the current one; 0 when there is none. Blank ones are none.
+  int Neighbour(int step) const;
+  // How many rows there are, in words: "12 rows", "39 of 20,010 rows". Blank ones at the end do not count.
+  QString CountText() const;
   // Columns on screen, from the left, without the marker.
   std::vector<int> VisibleCols() const;
 
@@ -89,13 +97,27 @@ class Grid : public QTableView {
   enum class Seek { Find, Filter };
   void OpenFinder(Seek seek);
   void CloseFinder();
+  // The bar with this text, as if it were typed there; the focus stays where it is. An empty text closes it.
+  void LookFor(const QString& text);
+  QString Sought() const;  // empty while the bar is closed
   // The next or the previous row of the text in the bar becomes current, the first one after the last one.
   void FindNext(int step = 1);
   // The row that typing in the bar has found and that is not current yet; 0 when there is none.
   int FoundRow() const;
 
+  // The grid that a person means in a window: the one with the focus, else the one used last, else the first on screen;
+  // null when there is none.
+  static Grid* InUse(const QWidget& window);
+
+  // Somebody waits for RowEntered.
+  bool HasRowEntered() const { return isSignalConnected(QMetaMethod::fromSignal(&Grid::RowEntered)); }
+
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
+  // The marker and the first column stay in sight while the others scroll sideways, where that leaves them room.
+  QModelIndex indexAt(const QPoint& point) const override;
+  QRect visualRect(const QModelIndex& index) const override;
+  void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
 
  Q_SIGNALS:
   // Another row became current, by hand or by SetRow. Not emitted for row 0 on clearing a grid.
@@ -103,11 +125,15 @@ class Grid : public QTableView {
   // A click on a data cell, after SelChange where the row changed.
   void CellClick(int row, int col);
   void CellDoubleClick(int row, int col);
+  // Enter, or a double click on a cell that cannot be edited, or F2 in a grid without such cells: the row is meant.
+  void RowEntered(int row);
   void BeforeSort(int col);
   void AfterSort(int col);
   // A cell was edited by hand and got another text, the editor being closed; `old` is what stood there.
   void AfterEdit(int row, int col, const QString& old);
   void FilterChanged();
+  // CountText may say something else.
+  void CountChanged();
 
  protected:
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
@@ -125,6 +151,7 @@ class Grid : public QTableView {
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void scrollContentsBy(int dx, int dy) override;
 
  private:
   struct Column {
@@ -133,6 +160,8 @@ class Grid : public QTableView {
     int texts = 0;        // pixels of the widest of the texts that were looked at
     bool byHand = false;  // a person has drawn it since the last release of the mouse
     bool drawn = false;   // a person has drawn it, now or in an earlier window
+    bool hidden = false;  // by the screen
+    bool away = false;    // by a person
   };
   struct Edit {
     int row = 0, col = 0;
@@ -141,7 +170,6 @@ class Grid : public QTableView {
 
   void SetUpHeaders();
   void SetUpShortcuts();
-  Grid* GridInUse();
   void SetHeights();
   int HeightOf(int rows) const;
   void ResetColumns();
@@ -153,6 +181,8 @@ class Grid : public QTableView {
   void UserRow(int row);
   bool MoveByKey(int key);
   bool EditByKey();
+  bool EnterRow();
+  int LastFilledRow() const;
   void CopyRow() const;
   void HeadingClicked(int col);
   void ShowSorted();
@@ -162,8 +192,12 @@ class Grid : public QTableView {
   void KeepWidths();
   void ShareRoom();
   int Needs(int col) const;
-  QString WidthKey(int col) const;
-  void RecallWidth(int col);
+  QString SettingsKey(const char* group, int col) const;
+  void RecallColumn(int col);
+  void PutColumn(int col);
+  void AddColumnChoices(QMenu& menu);
+  void TakeAway(int col, bool away);
+  void PaintFrozen();
   void RememberWidths();
   int FirstVisibleCol() const;
   int NextEditable(int col, int step) const;

@@ -83,7 +83,9 @@ bool Grid::MoveByKey(int key) {
       target = 0;
       break;
     case Qt::Key_End:
+      // Rows that wait for something to be entered are no end to go to.
       target = rows - 1;
+      while (target > 0 && model_->IsBlank(model_->RowOf(model_->index(target, 0)))) --target;
       break;
     default:
       return false;
@@ -98,11 +100,18 @@ int Grid::NextEditable(int col, int step) const {
   return 0;
 }
 
+bool Grid::EnterRow() {
+  // Where nobody waits for it the key is the window's.
+  if (row_ == 0 || !HasRowEntered()) return false;
+  Q_EMIT RowEntered(row_);
+  return true;
+}
+
 bool Grid::EditByKey() {
   if (row_ == 0) return false;
   const int current = currentIndex().column();
   const int col = current > 0 && model_->IsEditable(current) ? current : NextEditable(1, 1);
-  if (col == 0) return false;
+  if (col == 0) return EnterRow();
   EditCell(row_, col);
   return true;
 }
@@ -148,7 +157,11 @@ void Grid::keyPressEvent(QKeyEvent* event) {
   const bool toEnds = event->key() == Qt::Key_Home || event->key() == Qt::Key_End;
   if ((modifiers == Qt::NoModifier || (toEnds && modifiers == Qt::ControlModifier)) && MoveByKey(event->key())) return;
   if (event->key() == Qt::Key_F2 && modifiers == Qt::NoModifier && EditByKey()) return;
+  const QPointer<Grid> self = this;
   ByHand([&] { QTableView::keyPressEvent(event); });
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  const bool enters = isEnter && modifiers == Qt::NoModifier && !self.isNull() && state() != EditingState;
+  if (enters && EnterRow()) event->accept();
 }
 
 void Grid::mousePressEvent(QMouseEvent* event) {
@@ -178,7 +191,9 @@ void Grid::mouseDoubleClickEvent(QMouseEvent* event) {
   const int row = model_->RowOf(index), col = index.column();
   const QPointer<Grid> self = this;
   ByHand([&] { QTableView::mouseDoubleClickEvent(event); });
-  if (row != 0 && event->button() == Qt::LeftButton && !self.isNull()) Q_EMIT CellDoubleClick(row, col);
+  if (row == 0 || event->button() != Qt::LeftButton || self.isNull()) return;
+  Q_EMIT CellDoubleClick(row, col);
+  if (!self.isNull() && row_ == row && !model_->IsEditable(col)) EnterRow();
 }
 
 void Grid::HeadingClicked(int col) {
@@ -201,6 +216,7 @@ void Grid::contextMenuEvent(QContextMenuEvent* event) {
     sort->addAction(caption.replace(u'&', QLatin1String("&&")), this, [this, col] { HeadingClicked(col); });
   }
   sort->setEnabled(!sort->isEmpty());
+  AddColumnChoices(*menu->addMenu(tr("C&olumns")));
   menu->addSeparator();
   // The keys are only shown: those that act belong to the window.
   const auto shown = [](const QString& caption, const QKeySequence& key) {
@@ -226,12 +242,14 @@ QPointer<Grid>& LastUsed() {
 }
 }  // namespace
 
-// The grid with the focus, else the one used last, else this one; of those on screen in this window.
-Grid* Grid::GridInUse() {
+Grid* Grid::InUse(const QWidget& window) {
   for (QWidget* at = QApplication::focusWidget(); at != nullptr; at = at->parentWidget())
-    if (auto* const grid = qobject_cast<Grid*>(at)) return grid;
+    if (auto* const grid = qobject_cast<Grid*>(at); grid != nullptr && grid->window() == &window) return grid;
   const QPointer<Grid>& last = LastUsed();
-  return !last.isNull() && last->isVisible() && last->window() == window() ? last.data() : this;
+  if (!last.isNull() && last->isVisible() && last->window() == &window) return last.data();
+  for (Grid* grid : window.findChildren<Grid*>())
+    if (grid->isVisible() && grid->window() == &window) return grid;
+  return nullptr;
 }
 
 void Grid::SetUpShortcuts() {
@@ -239,7 +257,7 @@ void Grid::SetUpShortcuts() {
     auto* const shortcut = new QShortcut(keys, this);
     // Where several grids are on screen each of them has the key; any of them finds the one that is meant.
     for (const auto signal : {&QShortcut::activated, &QShortcut::activatedAmbiguously})
-      connect(shortcut, signal, this, [this, act] { act(*GridInUse()); });
+      connect(shortcut, signal, this, [this, act] { act(*InUse(*window())); });
   };
   key(QKeySequence::Find, [](Grid& grid) { grid.OpenFinder(Seek::Find); });
   key(FilterKey, [](Grid& grid) { grid.OpenFinder(Seek::Filter); });
@@ -250,6 +268,7 @@ void Grid::SetUpShortcuts() {
 // The frame says where the focus is, since no single cell does.
 void Grid::paintEvent(QPaintEvent* event) {
   QTableView::paintEvent(event);
+  PaintFrozen();
   if (!hasFocus()) return;
   QPainter painter(viewport());
   painter.setPen(palette().color(QPalette::Highlight));

@@ -28,6 +28,9 @@ void GridDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelInd
   option->text = OneLineOnShow(option->text);
   // The whole row is the current thing; a frame around one of its cells would say otherwise.
   option->state &= ~QStyle::State_HasFocus;
+  // Rows that wait for something to be entered look like the empty room below the others.
+  if (index.row() % 2 == 1 && !model_->IsBlank(model_->RowOf(index)))
+    option->backgroundBrush = option->palette.alternateBase();
   // What typing has found and Enter will make current.
   if (grid_->FoundRow() != 0 && model_->RowOf(index) == grid_->FoundRow()) {
     option->font.setBold(true);

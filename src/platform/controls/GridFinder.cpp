@@ -88,25 +88,34 @@ void GridFinder::Open(bool onlyMatches) {
   text_->SelectAllAndFocus();
 }
 
+void GridFinder::LookFor(const QString& text) {
+  heading_->SetBar(this);
+  text_->SetText(text);
+  Count();
+}
+
 void GridFinder::Close() {
   if (isHidden()) return;
   const bool hadFocus = isAncestorOf(QApplication::focusWidget());
   onlyMatches_->setChecked(false);
   Mark(0);
+  heading_->SetBar(nullptr);
   grid_->SetFilter({});
   if (hadFocus) grid_->setFocus();
-  heading_->SetBar(nullptr);
+}
+
+QString GridFinder::Sought() const {
+  return isHidden() ? QString() : text_->Text();
 }
 
 bool GridFinder::Seeks() const {
-  return !text_->Text().isEmpty();
+  return !sought_.IsEmpty();
 }
 
 bool GridFinder::Matches(int row) const {
   if (grid_->RowHidden(row)) return false;
   const std::vector<int> columns = grid_->VisibleCols();
-  return std::any_of(columns.begin(), columns.end(),
-                     [&](int col) { return grid_->View(row, col).contains(text_->Text(), Qt::CaseInsensitive); });
+  return std::any_of(columns.begin(), columns.end(), [&](int col) { return sought_.IsIn(grid_->View(row, col)); });
 }
 
 int GridFinder::Match(int row, int step) const {
@@ -120,6 +129,7 @@ int GridFinder::Match(int row, int step) const {
 }
 
 void GridFinder::TextChanged() {
+  sought_ = TextFolding::Sought(text_->Text());
   if (onlyMatches_->isChecked()) grid_->SetFilter(text_->Text());
   Mark(Match(std::max(grid_->Row(), 1), 1));
   Count();

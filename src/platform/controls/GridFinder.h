@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include "platform/controls/TextFolding.h"
+
 class Grid;
 class GridHeading;
 class QCheckBox;
@@ -10,9 +12,9 @@ class QToolButton;
 class TextBox;
 
 // The bar under a grid's headings. Typing marks the first row, from the current one on, that holds the text in a
-// visible cell (letter case ignored) and scrolls to it; the record in the fields stays until Enter or F3 makes the row
-// current. With "Matching rows only" the same text is the grid's filter. Escape closes the bar and shows all rows
-// again.
+// visible cell (letter case and accents ignored) and scrolls to it; the record in the fields stays until Enter or F3
+// makes the row current. With "Matching rows only" the same text is the grid's filter. Escape closes the bar and shows
+// all rows again.
 class GridFinder : public QWidget {
   Q_OBJECT
 
@@ -20,7 +22,10 @@ class GridFinder : public QWidget {
   GridFinder(Grid* grid, GridHeading* heading);
 
   void Open(bool onlyMatches);
+  // Shows the bar with the text as if it were typed, without taking the focus.
+  void LookFor(const QString& text);
   void Close();
+  QString Sought() const;
   // There is a text to look for.
   bool Seeks() const;
   void Next(int step);
@@ -51,5 +56,6 @@ class GridFinder : public QWidget {
   QCheckBox* onlyMatches_;
   QLabel* count_;
   QToolButton* close_;
+  TextFolding::Sought sought_;
   int found_ = 0;
 };

@@ -72,7 +72,7 @@ void GridModel::Append(std::span<const QStringView> cellsFromColumn1) {
 
 void GridModel::Announce() {
   if (announced_ == Rows()) return;
-  if (filter_.isEmpty()) {
+  if (filter_.IsEmpty()) {
     beginInsertRows({}, announced_, Rows() - 1);
     announced_ = Rows();
     endInsertRows();
@@ -92,7 +92,7 @@ void GridModel::Insert(int row, std::span<const QStringView> cellsFromColumn1) {
   Announce();
   const int position = row - 1;
   PackedRow packed = Pack(cellsFromColumn1);
-  if (filter_.isEmpty()) {
+  if (filter_.IsEmpty()) {
     beginInsertRows({}, position, position);
     rows_.insert(rows_.begin() + position, std::move(packed));
     ++announced_;
@@ -116,7 +116,7 @@ void GridModel::Remove(int row) {
   if (seen.isValid()) beginRemoveRows({}, seen.row(), seen.row());
   rows_.erase(rows_.begin() + (row - 1));
   --announced_;
-  if (!filter_.isEmpty()) {
+  if (!filter_.IsEmpty()) {
     if (seen.isValid()) shown_.erase(shown_.begin() + seen.row());
     const auto behind = std::upper_bound(shown_.begin(), shown_.end(), row - 1);
     std::for_each(behind, shown_.end(), [](int& shown) { --shown; });
@@ -169,20 +169,23 @@ bool GridModel::IsNumeric(int col) const {
   return any;
 }
 
+bool GridModel::IsBlank(int row) const {
+  return !Holds(row, 0) || rows_[At(row - 1)].Length() == 0;
+}
+
 bool GridModel::Passes(int position) const {
   const PackedRow& packed = rows_[At(position)];
-  return std::any_of(filterColumns_.begin(), filterColumns_.end(), [&](int col) {
-    return col < packed.Cells() && packed.Cell(col).contains(filter_, Qt::CaseInsensitive);
-  });
+  return std::any_of(filterColumns_.begin(), filterColumns_.end(),
+                     [&](int col) { return col < packed.Cells() && filter_.IsIn(packed.Cell(col)); });
 }
 
 void GridModel::SetFilter(const QString& text, std::vector<int> columns) {
   Announce();
   beginResetModel();
-  filter_ = text;
+  filter_ = TextFolding::Sought(text);
   filterColumns_ = std::move(columns);
   shown_.clear();
-  if (!filter_.isEmpty()) {
+  if (!filter_.IsEmpty()) {
     for (int position = 0; position < Rows(); ++position)
       if (Passes(position)) shown_.push_back(position);
   }
@@ -192,7 +195,7 @@ void GridModel::SetFilter(const QString& text, std::vector<int> columns) {
 QModelIndex GridModel::IndexOf(int row, int col) const {
   const int position = row - 1;
   if (!Holds(row, col) || position >= announced_) return {};
-  if (filter_.isEmpty()) return index(position, col);
+  if (filter_.IsEmpty()) return index(position, col);
   const auto place = std::lower_bound(shown_.begin(), shown_.end(), position);
   if (place == shown_.end() || *place != position) return {};
   return index(static_cast<int>(place - shown_.begin()), col);
@@ -200,11 +203,11 @@ QModelIndex GridModel::IndexOf(int row, int col) const {
 
 int GridModel::RowOf(const QModelIndex& index) const {
   if (!index.isValid()) return 0;
-  return (filter_.isEmpty() ? index.row() : shown_[At(index.row())]) + 1;
+  return (filter_.IsEmpty() ? index.row() : shown_[At(index.row())]) + 1;
 }
 
-void GridModel::AlignRight(int col) {
-  if (col >= 0 && col < Columns()) columns_[At(col)].alignRight = true;
+void GridModel::AlignRight(int col, bool right) {
+  if (col >= 0 && col < Columns()) columns_[At(col)].alignRight = right;
 }
 
 void GridModel::SetEditable(int col, int maxLength, const QStringList& choices) {
@@ -217,7 +220,7 @@ void GridModel::SetEditable(int col, int maxLength, const QStringList& choices) 
 
 int GridModel::rowCount(const QModelIndex& parent) const {
   if (parent.isValid()) return 0;
-  return filter_.isEmpty() ? announced_ : static_cast<int>(shown_.size());
+  return filter_.IsEmpty() ? announced_ : static_cast<int>(shown_.size());
 }
 
 int GridModel::columnCount(const QModelIndex& parent) const {

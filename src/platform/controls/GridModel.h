@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/controls/PackedRow.h"
+#include "platform/controls/TextFolding.h"
 
 // The rows behind a Grid, as packed strings. Rows are numbered from 1 as the screens number them; the view sees only
 // the rows that were announced and that pass the filter, so its own row numbers are an affair between view and model.
@@ -38,6 +39,8 @@ class GridModel : public QAbstractTableModel {
   int Sort(int col, Qt::SortOrder order, bool numeric, int row);
   // True when the column has numbers and nothing else but empty cells.
   bool IsNumeric(int col) const;
+  // Nothing stands in any of its cells.
+  bool IsBlank(int row) const;
   // Only rows that hold the text in one of the columns are seen; an empty text shows all.
   void SetFilter(const QString& text, std::vector<int> columns);
 
@@ -45,7 +48,8 @@ class GridModel : public QAbstractTableModel {
   QModelIndex IndexOf(int row, int col) const;
   int RowOf(const QModelIndex& index) const;  // 0 for an invalid index
 
-  void AlignRight(int col);
+  void AlignRight(int col, bool right);
+  bool IsAlignedRight(int col) const { return columns_.at(static_cast<std::size_t>(col)).alignRight; }
   void SetEditable(int col, int maxLength, const QStringList& choices);
   bool IsEditable(int col) const { return columns_.at(static_cast<std::size_t>(col)).editable; }
   int MaxLength(int col) const { return columns_.at(static_cast<std::size_t>(col)).maxLength; }
@@ -80,7 +84,7 @@ class GridModel : public QAbstractTableModel {
   std::vector<Column> columns_;
   std::vector<QStringView> scratch_;  // cells of the row that is being packed
   int announced_ = 0;
-  QString filter_;
+  TextFolding::Sought filter_;
   std::vector<int> filterColumns_;
   std::vector<int> shown_;  // positions that pass the filter, ascending; unused without a filter
 };

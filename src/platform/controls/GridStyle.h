@@ -14,5 +14,10 @@ class GridStyle : public QProxyStyle {
   int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
   QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                          const QWidget* widget) const override;
-  QRect subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+
+ private:
+  // What a heading lacks at each end to begin where its cells begin; pixels.
+  int HeadingLacks(const QWidget* widget) const;
 };

@@ -1,16 +1,15 @@
 // How wide the columns of a Grid are: as the screen says, never narrower than the heading, unless a person drew them
-// otherwise. What a person drew is kept in the user's settings by form, grid and heading.
+// otherwise.
 #include <QHeaderView>
 #include <QScopedValueRollback>
-#include <QSettings>
-#include <QUrl>
+#include <QtMath>
 
 #include "platform/controls/Grid.h"
 #include "platform/controls/GridModel.h"
 
 namespace {
 constexpr int TwipsAnInch = 1440;
-constexpr int NarrowestByHand = 16, WidestByHand = 4000, WidestByItself = 480;  // pixels
+constexpr int WidestByItself = 480, WidestOfAll = 4000;  // pixels
 constexpr int RowsLookedAt = 100, LettersLookedAt = 120;
 
 std::size_t At(int index) {
@@ -36,7 +35,7 @@ void Grid::FitHeading(int col) {
   Column& column = columns_[At(col)];
   if (!model_->Heading(col).isEmpty())
     column.pixels = std::max(column.pixels, horizontalHeader()->sectionSizeHint(col));
-  RecallWidth(col);
+  RecallColumn(col);
   ShareRoom();
 }
 
@@ -44,33 +43,21 @@ void Grid::FitAllHeadings() {
   for (int col = 0; col < Cols(); ++col) FitHeading(col);
 }
 
-void Grid::HideCol(int col, bool hidden) {
-  if (col < 0 || col >= Cols()) return;
-  {
-    // What a column shrinks to and comes back from is no width that somebody gave it.
-    const QScopedValueRollback stretching(stretching_, true);
-    setColumnHidden(col, hidden);
-  }
-  if (!filter_.isEmpty()) SetFilter(filter_);
-  ShareRoom();
-}
-
-bool Grid::ColHidden(int col) const {
-  return isColumnHidden(col);
-}
-
 // Of the first rows only: enough to know what a column holds, at no cost that could be felt.
 void Grid::MeasureTexts(int first, int last) {
   if (loading_ || first > RowsLookedAt) return;
-  const QFontMetrics metrics = fontMetrics();
-  const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+  // The row that a search has found stands in bold letters. Whole numbers of pixels cut a text by a third of one.
+  QFont bold = font();
+  bold.setBold(true);
+  const QFontMetricsF metrics(bold, this);
+  const int margins = 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + 1;
   bool wider = false;
   for (int col = 1; col < Cols(); ++col) {
     int& widest = columns_[At(col)].texts;
     const int before = widest;
     for (int row = first; row <= std::min(last, RowsLookedAt); ++row) {
       const QString text = View(row, col).left(LettersLookedAt).toString();
-      if (!text.isEmpty()) widest = std::max(widest, metrics.horizontalAdvance(text) + margins);
+      if (!text.isEmpty()) widest = std::max(widest, qCeil(metrics.horizontalAdvance(text)) + margins);
     }
     wider = wider || widest != before;
   }
@@ -84,65 +71,49 @@ void Grid::KeepWidths() {
     if (col != visible.back()) columns_[At(col)].pixels = columnWidth(col);
 }
 
+// What a column fills of its width, so that it can spare the rest.
 int Grid::Needs(int col) const {
   const Column& column = columns_[At(col)];
   if (column.drawn) return column.pixels;
   return std::min(column.pixels, std::max(column.texts, horizontalHeader()->sectionSizeHint(col)));
 }
 
+// Columns whose texts are cut get of the room beside all columns what they lack: first up to a width that serves most
+// texts, then whoever still lacks. The last one takes what is left, and gives of its own what it does not fill.
 void Grid::ShareRoom() {
   if (stretching_ || columns_.empty()) return;
   const QScopedValueRollback stretching(stretching_, true);
   const std::vector<int> visible = VisibleCols();
   const int last = visible.empty() ? 0 : visible.back();
-  int rest = viewport()->width();
-  for (int col = 0; col < Cols(); ++col)
-    if (!isColumnHidden(col) && col != last) rest -= columns_[At(col)].pixels;
-  // The last column can spare what it does not fill.
-  int room = rest - Needs(last);
-  bool shared = false;
+  std::vector<int> widths(columns_.size());
+  int room = viewport()->width();
   for (int col = 0; col < Cols(); ++col) {
-    if (isColumnHidden(col) || col == last) continue;
-    const Column& column = columns_[At(col)];
-    const int lacks = col == 0 || column.drawn ? 0 : std::min(column.texts, WidestByItself) - column.pixels;
-    const int share = std::clamp(lacks, 0, std::max(0, room));
-    shared = shared || share > 0;
-    room -= share;
-    rest -= share;
-    setColumnWidth(col, column.pixels + share);
+    if (isColumnHidden(col)) continue;
+    widths[At(col)] = col == last ? Needs(col) : columns_[At(col)].pixels;
+    room -= widths[At(col)];
   }
-  const int own = shared ? Needs(last) : columns_[At(last)].pixels;
-  if (!isColumnHidden(last)) setColumnWidth(last, std::max(own, rest));
-}
-
-// Empty where nothing can be kept: the marker, a column without a heading, a grid that stands in no window yet.
-QString Grid::WidthKey(int col) const {
-  const QString form = window()->objectName(), heading = model_->Heading(col);
-  if (col == 0 || form.isEmpty() || heading.isEmpty() || window() == this) return {};
-  // A heading may hold the mark that divides the parts of a key.
-  return QStringLiteral("Columns/%1/%2/").arg(form, objectName()) +
-         QString::fromLatin1(QUrl::toPercentEncoding(heading));
-}
-
-void Grid::RecallWidth(int col) {
-  const QString key = WidthKey(col);
-  if (key.isEmpty()) return;
-  const int width = QSettings().value(key).toInt();
-  if (width <= 0) return;
-  columns_[At(col)].pixels = std::clamp(width, NarrowestByHand, WidestByHand);
-  columns_[At(col)].drawn = true;
-}
-
-void Grid::RememberWidths() {
-  for (int col = 1; col < Cols(); ++col) {
-    if (!std::exchange(columns_[At(col)].byHand, false)) continue;
-    if (const QString key = WidthKey(col); !key.isEmpty()) QSettings().setValue(key, columns_[At(col)].pixels);
+  bool shared = false;
+  for (const int enough : {WidestByItself, WidestOfAll})
+    for (const int col : visible) {
+      const Column& column = columns_[At(col)];
+      const int lacks = column.drawn ? 0 : std::min(column.texts, enough) - widths[At(col)];
+      const int share = std::clamp(lacks, 0, std::max(0, room));
+      widths[At(col)] += share;
+      room -= share;
+      shared = shared || (share > 0 && col != last);
+    }
+  if (!shared) {
+    room -= std::max(0, columns_[At(last)].pixels - widths[At(last)]);
+    widths[At(last)] = std::max(widths[At(last)], columns_[At(last)].pixels);
   }
+  widths[At(last)] += std::max(0, room);
+  for (int col = 0; col < Cols(); ++col)
+    if (!isColumnHidden(col)) setColumnWidth(col, widths[At(col)]);
 }
 
 // Only now the grid is sure to stand in its window.
 void Grid::showEvent(QShowEvent* event) {
   QTableView::showEvent(event);
-  for (int col = 1; col < Cols(); ++col) RecallWidth(col);
+  for (int col = 1; col < Cols(); ++col) RecallColumn(col);
   ShareRoom();
 }

@@ -8,6 +8,7 @@
 #include <QTextDocument>
 #include <limits>
 
+#include "platform/controls/FieldEdge.h"
 #include "platform/controls/TextInput.h"
 
 namespace {
@@ -23,6 +24,7 @@ QString WithLineEnds(QString raw) {
 MemoBox::MemoBox(QWidget* parent, const QString& name, int maxLength)
     : QPlainTextEdit(parent), maxLength_(maxLength > 0 ? maxLength : 0) {
   setObjectName(name);
+  FieldEdge::Watch(this);
   setTabChangesFocus(true);
   connect(this, &QPlainTextEdit::textChanged, this, [this] {
     Q_EMIT Change();

@@ -5,6 +5,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include "platform/controls/FieldEdge.h"
+
 namespace {
 constexpr int Apart = 16, BesideMark = 4;  // pixels
 }
@@ -69,6 +71,7 @@ void OptionGroup::SetVisible(bool visible) {
 
 QHBoxLayout* OptionGroup::MakeRow() {
   row_ = new QWidget(static_cast<QWidget*>(parent()));
+  FieldEdge::Watch(row_);
   auto* const layout = new QHBoxLayout(row_);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(Apart);

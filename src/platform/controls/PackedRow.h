@@ -13,6 +13,8 @@ class PackedRow {
 
   int Cells() const { return static_cast<int>(*Count()); }
   QStringView Cell(int cell) const;
+  // UTF-16 units of all cells together.
+  qsizetype Length() const { return Cells() == 0 ? 0 : Ends()[Cells() - 1]; }
   qint64 Data() const { return *Number(); }
   void SetData(qint64 data) { *Number() = data; }
   // Packs the row again with another text in one cell.

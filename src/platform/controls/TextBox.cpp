@@ -10,6 +10,8 @@
 #include <QStyleOptionFrame>
 #include <limits>
 
+#include "platform/controls/FieldEdge.h"
+#include "platform/controls/FieldTip.h"
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/LeaveGuard.h"
 #include "platform/controls/TextInput.h"
@@ -18,6 +20,7 @@ namespace {
 constexpr char16_t Backspace = 8, Enter = 13;
 constexpr int Unlimited = std::numeric_limits<int>::max();
 constexpr int WidestField = 60, UnlimitedField = 40, NarrowestField = 3;  // characters
+constexpr int Around = 5;                                                 // pixels: frame and margin
 
 bool IsEnter(const QKeyEvent& event) {
   const Qt::KeyboardModifiers modifiers = event.modifiers() & ~Qt::KeypadModifier;
@@ -27,6 +30,7 @@ bool IsEnter(const QKeyEvent& event) {
 
 TextBox::TextBox(QWidget* parent, const QString& name, int maxLength) : QLineEdit(parent) {
   setObjectName(name);
+  FieldEdge::Watch(this);
   SetMaxLength(maxLength);
   setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   connect(this, &QLineEdit::textChanged, this, &TextBox::Change);
@@ -44,11 +48,12 @@ int TextBox::MaxLength() const {
 
 void TextBox::SetText(const QString& text) {
   setText(TextInput::Fitting(text, maxLength()));
+  ShowBeginning();
 }
 
 QString TextBox::TrimInPlace() {
   const QString trimmed = text().trimmed();
-  if (trimmed != text()) setText(trimmed);
+  if (trimmed != text()) SetText(trimmed);
   return trimmed;
 }
 
@@ -56,6 +61,27 @@ QString TextBox::TrimUpperInPlace() {
   const QString upper = TextInput::Upper(text().trimmed());
   if (upper != text()) SetText(upper);
   return text();
+}
+
+void TextBox::ShowBeginning() {
+  if (!hasFocus()) home(false);
+}
+
+QString TextBox::Rule() const {
+  if (isReadOnly() || !rule_.isEmpty()) return isReadOnly() ? QString() : rule_;
+  const QString limit = MaxLength() == 0   ? QString()
+                        : MaxLength() == 1 ? tr("1 character")
+                                           : tr("up to %1 characters").arg(MaxLength());
+  if (!upperCase_) return limit;
+  return limit.isEmpty() ? tr("capitals") : limit + QStringLiteral(", ") + tr("capitals");
+}
+
+bool TextBox::event(QEvent* event) {
+  if (event->type() != QEvent::ToolTip) return QLineEdit::event(event);
+  // The frame and the margins of a line edit take some pixels at each end.
+  const QString shown = echoMode() == Normal ? text() : QString();
+  FieldTip::Show(*static_cast<QHelpEvent*>(event), *this, FieldTip::Of(*this, shown, width() - 2 * Around, Rule()));
+  return true;
 }
 
 void TextBox::SelectAllAndFocus() {
@@ -142,7 +168,10 @@ void TextBox::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Backspace && filter_ && !isReadOnly() && filter_(Backspace) == 0) return event->accept();
   if (isReadOnly() || !TextInput::IsTyped(*event)) return QLineEdit::keyPressEvent(event);
   const QString entered = TextInput::Fitting(Filtered(event->text()), Room());
-  if (entered.isEmpty()) return event->accept();
+  if (entered.isEmpty()) {
+    FieldEdge::SayRefused(this, Rule());
+    return event->accept();
+  }
   QKeyEvent typed(event->type(), event->key(), event->modifiers(), entered, event->isAutoRepeat());
   QLineEdit::keyPressEvent(&typed);
   event->setAccepted(typed.isAccepted());
@@ -229,5 +258,8 @@ void TextBox::focusInEvent(QFocusEvent* event) {
 
 void TextBox::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
+  const bool stays = event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason ||
+                     event->reason() == Qt::MenuBarFocusReason;
+  if (!stays) ShowBeginning();
   if (leave_ != nullptr) leave_->Left(*event);
 }

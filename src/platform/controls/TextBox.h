@@ -17,8 +17,8 @@ class TextBox : public QLineEdit {
   TextBox(QWidget* parent, const QString& name, int maxLength = 0);
 
   QString Text() const { return text(); }
-  // Filling by code: emits Change, not Edited.
-  // What is longer than the limit is cut, never in the middle of a surrogate pair.
+  // Filling by code: emits Change, not Edited. What is longer than the limit is cut, never in the middle of a surrogate
+  // pair. A box without the focus shows the beginning of its text.
   void SetText(const QString& text);
   QString Trimmed() const { return text().trimmed(); }
   // Writes the trimmed text back and returns it.
@@ -35,6 +35,11 @@ class TextBox : public QLineEdit {
   // Runs when the focus really goes to another control of the same window, once; False keeps the focus here, and the
   // press that caused the leaving does not also click.
   void SetLeaveCheck(std::function<bool()> check);
+
+  // What may stand here, in a few words ("0.00 to 99.99"): told by the tip, and when a key is refused. Unless set it
+  // tells the limit.
+  void SetRule(const QString& rule) { rule_ = rule; }
+  QString Rule() const;
 
   // Enter in the box runs the action and goes no further.
   void SetEnterAction(std::function<void()> action);
@@ -56,6 +61,7 @@ class TextBox : public QLineEdit {
   void GotFocus();
 
  protected:
+  bool event(QEvent* event) override;
   void initStyleOption(QStyleOptionFrame* option) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -69,6 +75,7 @@ class TextBox : public QLineEdit {
  private:
   void EnterKey(QKeyEvent* event);
   QString Filtered(const QString& typed);
+  void ShowBeginning();
   QString Cased(QString text) const;
   qsizetype Room() const;
   void PasteText(const QString& foreign);
@@ -79,6 +86,7 @@ class TextBox : public QLineEdit {
   bool upperCase_ = false;
   LeaveGuard* leave_ = nullptr;
   std::function<void()> enterAction_;
+  QString rule_;
   bool selectOnFocus_ = false;
   bool selectAfterPress_ = false;
 };
