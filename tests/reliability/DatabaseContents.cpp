@@ -5,22 +5,41 @@
 
 namespace {
 
-QByteArray KeyOf(const RowCells& row) {
-  QByteArray key;
-  for (auto cell = row.begin(); cell != row.end(); ++cell)
-    key += cell.key().toUtf8() + '=' +
-           QByteArray(reinterpret_cast<const char*>(cell.value().utf16()), cell.value().size() * 2) + '\x1e';
+RowCells CellsOf(const QStringList& columns, const QStringList& values) {
+  RowCells cells;
+  for (qsizetype column = 0; column < columns.size(); ++column) cells.insert(columns[column], values[column]);
+  return cells;
+}
+
+// One text that tells NULL from ''.
+QString KeyOf(const QStringList& values) {
+  QString key;
+  for (const QString& value : values) key += (value.isNull() ? u'\x1f' : u'\x1e') + value;
   return key;
+}
+
+QStringList KeysOf(const QList<QStringList>& rows) {
+  QStringList keys;
+  for (const QStringList& row : rows) keys += KeyOf(row);
+  return keys;
 }
 
 }  // namespace
 
+QList<RowCells> TableContents::Rows() const {
+  QList<RowCells> all;
+  for (const QStringList& row : rows) all.append(CellsOf(columns, row));
+  return all;
+}
+
 QList<RowCells> TableContents::Without(const TableContents& other) const {
-  QHash<QByteArray, int> there;
-  for (const RowCells& row : other.rows) ++there[KeyOf(row)];
+  const QStringList keys = KeysOf(rows), others = KeysOf(other.rows);
+  if (keys == others) return {};
+  QHash<QString, int> there;
+  for (const QString& key : others) ++there[key];
   QList<RowCells> missing;
-  for (const RowCells& row : rows)
-    if (there[KeyOf(row)]-- <= 0) missing.append(row);
+  for (qsizetype row = 0; row < rows.size(); ++row)
+    if (there[keys[row]]-- <= 0) missing.append(CellsOf(columns, rows[row]));
   return missing;
 }
 
@@ -28,11 +47,11 @@ TableContents ContentsOf(Connection& connection, const QString& table) {
   TableContents contents;
   Recordset rows;
   rows.Open(connection, "SELECT * FROM " + table);
+  for (int column = 0; column < rows.FieldCount(); ++column) contents.columns += rows.Fields(column).Name();
   for (; !rows.EOF_(); rows.MoveNext()) {
-    RowCells cells;
-    for (int column = 0; column < rows.FieldCount(); ++column)
-      cells.insert(rows.Fields(column).Name(), rows.Fields(column).Value());
-    contents.rows.append(cells);
+    QStringList values;
+    for (int column = 0; column < rows.FieldCount(); ++column) values += rows.Fields(column).Value();
+    contents.rows.append(values);
   }
   return contents;
 }

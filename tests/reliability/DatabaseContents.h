@@ -5,11 +5,13 @@
 
 #include "platform/ado/Connection.h"
 
-// Rows of tables as one text each, cells by column name, so that two states of a database can be compared.
-using RowCells = QMap<QString, QString>;  // column to value; NULL and '' are both empty
+// Rows of tables, so that two states of a database can be compared.
+using RowCells = QMap<QString, QString>;  // column to value; NULL is null, '' is not
 
 struct TableContents {
-  QList<RowCells> rows;
+  QStringList columns;
+  QList<QStringList> rows;  // values in the order of the columns; NULL is null, '' is not
+  QList<RowCells> Rows() const;
   // The rows of this state that the other one lacks. Rows that stand several times count as often.
   QList<RowCells> Without(const TableContents& other) const;
   bool operator==(const TableContents& other) const {

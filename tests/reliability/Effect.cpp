@@ -4,7 +4,7 @@ namespace {
 
 QStringList Values(const QList<RowCells>& rows, const QString& column) {
   QStringList values;
-  for (const RowCells& row : rows) values += row[column];
+  for (const RowCells& row : rows) values += row[column].isNull() ? QString("\x1f") : row[column];
   values.sort();
   return values;
 }

@@ -156,7 +156,8 @@ class HostileTextTest : public ReliabilityDesk, public testing::WithParamInterfa
   }
 
   bool IsStored(const TableContents& contents, const std::vector<Sent>& texts) const {
-    return std::any_of(contents.rows.begin(), contents.rows.end(), [&](const RowCells& row) {
+    const QList<RowCells> rows = contents.Rows();
+    return std::any_of(rows.begin(), rows.end(), [&](const RowCells& row) {
       return std::all_of(texts.begin(), texts.end(),
                          [&](const Sent& text) { return Holds(row, text.field->column, text); });
     });

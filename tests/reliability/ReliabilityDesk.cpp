@@ -24,6 +24,11 @@ void ReliabilityDesk::TearDown() {
   answers_.reset();
 }
 
+void ReliabilityDesk::LogOn() {
+  if (!loggedOn_) Logon();
+  loggedOn_ = true;
+}
+
 void ReliabilityDesk::EnterTab(int tab) {
   if (!started_) Start();
   started_ = loggedOn_ = true;
@@ -31,15 +36,13 @@ void ReliabilityDesk::EnterTab(int tab) {
 }
 
 void ReliabilityDesk::OpenDialog(const QString& formName) {
-  if (!loggedOn_) Logon();
-  loggedOn_ = true;
+  LogOn();
   const QWidget* const front = Window();
   if (!front || front->objectName() != formName || !front->isVisible()) Open(formName);
 }
 
 void ReliabilityDesk::OpenLibraryScreen(const QString& formName, qint32 library) {
-  if (!loggedOn_) Logon();
-  loggedOn_ = true;
+  LogOn();
   gclsOF->SetLibraryId(library);
   gclsOF->SetCallingFunction("Library Registration");
   OpenDialog(formName);

@@ -24,7 +24,6 @@ class ReliabilityDesk : public SampleDesk {
   using Desk::Find;
   using Desk::Folder;
   using Desk::LogLines;
-  using Desk::Logon;
   using Desk::Open;
   using Desk::Paste;
   using Desk::ProcessEnded;
@@ -43,6 +42,8 @@ class ReliabilityDesk : public SampleDesk {
   using Desk::Window;
 
   Answers& Said() { return *answers_; }
+  // Settings and login, once.
+  void LogOn();
   // The main screen with one of its tabs; started once a case.
   void EnterTab(int tab);
   // A dialog, logged on before; an open one stays as it is.

@@ -217,11 +217,12 @@ std::vector<WritingScreen> FiveScreens() {
                                               {"txtAltEmail", "CONTACT_EMAIL2"},
                                               {"txtNote", "NOTE"},
                                               {"txtNotice", "NOTICE"}}});
-  contact.change = [open = contact.open](ReliabilityDesk& desk, int round) {
-    desk.LeaveUnsaved();  // with the ids that a failed update has left in the list
+  contact.open = [open = contact.open](ReliabilityDesk& desk) {
+    // Anew, without the ids that a failed update has left in the list.
+    if (desk.Window() && desk.Window()->objectName() == "frmLibraryContactInfo") desk.LeaveUnsaved();
     open(desk);
-    AddAgencyId(desk, round);
   };
+  contact.change = AddAgencyId;
   contact.severalUnits = true;
 
   // Without its symbol an outside system has nothing else either.

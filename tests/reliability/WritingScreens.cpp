@@ -34,8 +34,12 @@ std::vector<std::pair<int, QString>> Shown(const ReliabilityDesk& desk, const st
 
 }  // namespace
 
+void WritingScreen::EnterChange(ReliabilityDesk& desk, int round) const {
+  if (change) change(desk, round);
+  for (const WritingField& field : fields) TypeField(desk, field, Steps::Mark(round));
+}
+
 void WritingScreen::EnterNew(ReliabilityDesk& desk, int round) const {
-  open(desk);
   if (empty) empty(desk);
   for (const WritingField& key : keys) TypeField(desk, key, Steps::FreeCode(desk, key.box, table, key.column));
   for (const WritingField& field : fields) TypeField(desk, field, Steps::Mark(round));
@@ -48,18 +52,22 @@ std::vector<WritingAction> WritingScreen::Actions() const {
     actions.push_back({"Update",
                        [screen = *this](ReliabilityDesk& desk, int round) {
                          screen.open(desk);
-                         if (screen.change) screen.change(desk, round);
-                         for (const WritingField& field : screen.fields) TypeField(desk, field, Steps::Mark(round));
+                         screen.EnterChange(desk, round);
                        },
                        write});
   }
   if (add) {
-    actions.push_back(
-        {"Add", [screen = *this](ReliabilityDesk& desk, int round) { screen.EnterNew(desk, round); }, add});
+    actions.push_back({"Add",
+                       [screen = *this](ReliabilityDesk& desk, int round) {
+                         screen.open(desk);
+                         screen.EnterNew(desk, round);
+                       },
+                       add});
   }
   if (remove) {
     actions.push_back({"Delete",
                        [screen = *this](ReliabilityDesk& desk, int round) {
+                         screen.open(desk);
                          screen.EnterNew(desk, round);
                          const auto marks = Shown(desk, screen.marks);
                          screen.add(desk);

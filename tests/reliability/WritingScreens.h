@@ -60,7 +60,9 @@ struct WritingScreen {
   std::vector<WritingAction> moreActions = {};
 
   std::vector<WritingAction> Actions() const;
-  // Opens the screen, makes a record that is not there yet and enters it.
+  // Changes the record on show: the fields and what a change consists of besides.
+  void EnterChange(ReliabilityDesk& desk, int round) const;
+  // Makes a record that is not there yet and enters it on the open screen.
   void EnterNew(ReliabilityDesk& desk, int round) const;
 };
 

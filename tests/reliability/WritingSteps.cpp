@@ -122,7 +122,7 @@ Preparation Another(const char* combo) {
     ASSERT_GT(list->Count(), 1) << combo;
     int index = list->Index() + 1;
     if (index >= list->Count()) index = 0;
-    while (list->CodeAt(index).isEmpty()) ++index;
+    while (index < list->Count() && list->CodeAt(index).isEmpty()) ++index;
     ASSERT_LT(index, list->Count()) << combo;
     desk.ChooseAt(combo, index);
   };

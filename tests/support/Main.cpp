@@ -16,7 +16,8 @@ namespace {
 
 // The offscreen platform says this of every window.
 void WithoutSizeHints(QtMsgType, const QMessageLogContext&, const QString& text) {
-  if (!text.contains("propagateSizeHints")) std::fprintf(stderr, "%s\n", qPrintable(text));
+  if (!text.contains("propagateSizeHints") && !text.contains("does not support raise"))
+    std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
 // The offscreen platform's own screen is smaller than the smallest one that the program is made for: 1280 x 800 below a

@@ -4,6 +4,7 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
+#include <map>
 
 #include "platform/ado/DeclaredType.h"
 #include "platform/ado/MariaDbDialect.h"
@@ -83,7 +84,21 @@ QStringList Dialect::ReadTables(QSqlDatabase& database) const {
   return tables;
 }
 
+namespace {
+
+std::map<Engine, const Dialect*>& Replaced() {
+  static std::map<Engine, const Dialect*> replaced;
+  return replaced;
+}
+
+}  // namespace
+
+void Dialect::Replace(Engine engine, const Dialect* dialect) {
+  Replaced()[engine] = dialect;
+}
+
 const Dialect& Dialect::For(Engine engine) {
+  if (const auto other = Replaced().find(engine); other != Replaced().end() && other->second) return *other->second;
   static const SqliteDialect sqlite;
   static const PostgreSqlDialect postgreSql;
   static const MariaDbDialect mariaDb;

@@ -79,6 +79,9 @@ class Dialect {
   QStringList ReadTables(QSqlDatabase& database) const;
 
   static const Dialect& For(Engine engine);
+  // Puts another in the place of its engine's own, for connections that are made from here on; the own one comes back
+  // with null.
+  static void Replace(Engine engine, const Dialect* dialect);
 
  protected:
   enum class Failure { Duplicate, Reference, Constraint, Refused, Busy, Lost, Other };
