@@ -8,7 +8,7 @@
 
 #include "Screens.h"
 #include "core/CommandLine.h"
-#include "core/Logon.h"
+#include "core/ModuleState.h"
 #include "platform/controls/OwnStyle.h"
 #include "platform/desktop/TerminalPrompts.h"
 #include "shell/WaitingWindow.h"

@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
-#include <algorithm>
 #include <QRegularExpression>
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <optional>

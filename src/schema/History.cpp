@@ -1,5 +1,7 @@
 #include "schema/History.h"
 
+#include "schema/SecretColumns.h"
+
 #include <algorithm>
 
 #include "platform/ado/Dialect.h"
@@ -26,7 +28,7 @@ RecordedTable Described(Connection& connection, const SchemaTable& table) {
   RecordedTable described;
   described.name = table.name;
   const std::vector<SchemaColumn> columns = ColumnsThere(connection, table);
-  for (const SchemaColumn& column : columns) described.columns.push_back({column.name, Content::IsSecret(column)});
+  for (const SchemaColumn& column : columns) described.columns.push_back({column.name, NamesSecretColumn(column.name)});
   described.key = History::KeyColumns(table, columns);
   if (!table.primaryKey.isEmpty()) described.uniques.push_back(table.primaryKey);
   described.uniques.insert(described.uniques.end(), table.uniqueKeys.begin(), table.uniqueKeys.end());

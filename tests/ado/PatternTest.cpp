@@ -1,6 +1,6 @@
 #include <map>
 
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 #include "platform/ado/SqliteLetters.h"
 
 namespace {

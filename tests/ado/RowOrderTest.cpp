@@ -1,4 +1,4 @@
-#include "ado/TestDatabase.h"
+#include "ado/AdoTest.h"
 
 namespace {
 

@@ -172,7 +172,7 @@ class Site : public Walk {
     Type(box, words);
     Click("cmdSearch");
     Take(form + " for " + words, answers, *Window());
-    gbRecordModified = false;
+    if (gbRecordModified) Shell().LivePage()->CurrentRecord().Settled();
   }
 
   SiteRows rows_;

@@ -116,8 +116,7 @@ void Session::RefuseSetUp(QSqlQuery& query) {
   const quint32 number = dialect_.Translate(error, OpenSource).Number();
   const QString advice = dialect_.OpenAdvice(error, settings_);
   query = QSqlQuery();
-  GiveUp(advice + u'
-' + dialect_.EngineText(error), number);
+  GiveUp(advice + u'\n' + dialect_.EngineText(error), number);
 }
 
 void Session::Tell(const QString& user, const QString& program) {

@@ -86,13 +86,20 @@ QByteArray Csv(const Grid& grid) {
 
 void AskAndSaveCsv(const Grid& grid) {
   const std::optional<QString> path = AskForFile(grid, Grid::tr("Export to CSV"), QStringLiteral("csv"));
-  if (!path.has_value()) return;
+  if (path.has_value()) SaveAs(grid, *path, Csv(grid));
 }
 
 void AskAndSavePdf(const Grid& grid) {
   const std::optional<QString> path = AskForFile(grid, Grid::tr("Save as PDF"), QStringLiteral("pdf"));
   if (!path.has_value()) return;
-  SaveAs(grid, *path, Csv(grid));
+  QBuffer pdf;
+  pdf.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&pdf);
+  writer.setTitle(TitleOf(grid));
+  writer.setPageSize(QPageSize(PaperOfThisCountry()));
+  if (!GridPaper::Print(grid, TitleOf(grid), writer))
+    return Tell(grid, Grid::tr("The file %1 could not be written.").arg(*path));
+  SaveAs(grid, *path, pdf.data());
 }
 
 void AskAndPrint(const Grid& grid) {
