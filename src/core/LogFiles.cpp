@@ -30,18 +30,12 @@ QString Moment() {
   return QLocale::c().toString(Clock::Now(), "yyyy-MM-dd hh:mm:ss AP");
 }
 
-// A line end inside of a text, such as a trigger's, begins no entry of its own.
-QString Indented(QString text) {
-  text.replace("\r\n", "\n").replace('\r', '\n');
-  return text.replace('\n', '\n' + QString(ContinuationIndent + 2, ' '));
-}
-
 QString EntryLine(const QString& text) {
-  return Moment() + "  * " + Indented(text);
+  return Moment() + "  * " + text;
 }
 
 QString ContinuationLine(const QString& text) {
-  return QString(ContinuationIndent, ' ') + "* " + Indented(text);
+  return QString(ContinuationIndent, ' ') + "* " + text;
 }
 
 QString VersionLine() {

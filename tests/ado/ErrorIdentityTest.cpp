@@ -157,4 +157,11 @@ TEST_F(EngineErrors, AnErrorIsNotRememberedByTheNextStatement) {
   EXPECT_EQ(Run("UPDATE ID_PARENT SET NAME = 'Two'"), 1);
 }
 
+// A trigger's text could pass for an entry of the log otherwise.
+TEST(ErrorIdentity, AnEnginesTextIsOneLine) {
+  const QSqlError error("", "no\n2026-01-01 00:00:00 AM  * forged\r\nend", QSqlError::StatementError, "1");
+  const QString text = Dialect::For(Engine::Sqlite).Translate(error, "test").Description();
+  EXPECT_EQ(text, QString::fromUtf8("no␊2026-01-01 00:00:00 AM  * forged␍␊end"));
+}
+
 }  // namespace

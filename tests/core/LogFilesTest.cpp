@@ -170,15 +170,6 @@ TEST_F(LogFilesTest, LogThatCannotBeWrittenIsNoFailure) {
   EXPECT_TRUE(QFileInfo(Path("Logs/Tabulon.log")).isDir());
 }
 
-TEST_F(LogFilesTest, ALineEndInsideOfATextBeginsNoEntry) {
-  WriteLogLines("Tabulon", "", "first\n2026-01-01 00:00:00 AM  * forged", "a\r\nb\rc", "L");
-  const QStringList lines = WideTextFile::ReadLines(LogFilePath("Tabulon", "", ".log"));
-  ASSERT_EQ(lines.size(), 5);
-  EXPECT_EQ(lines[1], QString(26, ' ') + "2026-01-01 00:00:00 AM  * forged");
-  EXPECT_EQ(lines[2], QString(24, ' ') + "* a");
-  EXPECT_EQ(lines[3], QString(26, ' ') + 'b');
-}
-
 #ifndef Q_OS_WIN
 TEST_F(LogFilesTest, OnlyOwnerAndGroupReadALog) {
   const mode_t before = ::umask(0);

@@ -8,6 +8,7 @@
 
 #include "platform/ado/DeclaredType.h"
 #include "platform/ado/MariaDbDialect.h"
+#include "platform/ado/OneLine.h"
 #include "platform/ado/PostgreSqlDialect.h"
 #include "platform/ado/SqlServerDialect.h"
 #include "platform/ado/SqliteDialect.h"
@@ -39,7 +40,7 @@ bool Dialect::IsConnectionLost(const QSqlError& error) const {
 }
 
 AdoError Dialect::Translate(const QSqlError& error, const QString& source) const {
-  const QString text = EngineText(error);
+  const QString text = OneLine(EngineText(error));
   switch (Classify(error)) {
     case Failure::Duplicate:
       return {AdoNumber::ConstraintBroken, QStringLiteral("Cannot store a duplicate key. ") + text, source};

@@ -5,6 +5,7 @@
 #include <atomic>
 
 #include "platform/ado/DriverLink.h"
+#include "platform/ado/OneLine.h"
 #include "platform/ado/Recording.h"
 
 namespace {
@@ -42,7 +43,8 @@ void Session::Open() {
   if (!database_.open()) {
     const QSqlError error = database_.lastError();
     const QString advice = dialect_.OpenAdvice(error, settings_);
-    throw AdoError(AdoNumber::Unspecified, WithoutPassword(advice + u'\n' + dialect_.EngineText(error)), OpenSource);
+    throw AdoError(AdoNumber::Unspecified, WithoutPassword(advice + u'\n' + OneLine(dialect_.EngineText(error))),
+                   OpenSource);
   }
   if (const QString unusable = dialect_.Opened(database_); !unusable.isEmpty()) {
     Close();
@@ -116,7 +118,7 @@ void Session::RefuseSetUp(QSqlQuery& query) {
   const quint32 number = dialect_.Translate(error, OpenSource).Number();
   const QString advice = dialect_.OpenAdvice(error, settings_);
   query = QSqlQuery();
-  GiveUp(advice + u'\n' + dialect_.EngineText(error), number);
+  GiveUp(advice + u'\n' + OneLine(dialect_.EngineText(error)), number);
 }
 
 void Session::Tell(const QString& user, const QString& program) {
@@ -231,7 +233,8 @@ AdoError Session::Failed(const QSqlError& error, const QString& source) {
   // PostgreSQL's driver sometimes tells a loss only by being closed.
   const bool lost = translated.ConnectionLost() || !database_.isOpen();
   if (!lost && stopped_ == statement_)
-    return {AdoNumber::Unspecified, QStringLiteral("The statement was stopped. ") + dialect_.EngineText(error), source};
+    return {AdoNumber::Unspecified, QStringLiteral("The statement was stopped. ") + OneLine(dialect_.EngineText(error)),
+            source};
   if (!lost) return translated;
   Close();
   if (translated.ConnectionLost()) return translated;
