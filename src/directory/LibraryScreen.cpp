@@ -135,6 +135,8 @@ LibraryScreen::ReadResult LibraryScreen::Read(qint32 libraryId) {
     reading.Replaces();
     TakeInHand({libraryId, Value(rows, "LIBRARY_SYMBOL"), Value(rows, "LIBRARY_ACTIVE")});
     FillBanner(rows);
+    for (const auto& [box, column] : shownBoxes_) box->SetText(Value(rows, column));
+    for (const auto& [list, column] : shownLists_) ShowCode(list, Value(rows, column));
     ShowRecord(rows);
     reading.Ended();
     result = ReadResult::Found;
@@ -147,6 +149,16 @@ void LibraryScreen::TakeInHand(const LibraryInHand& library) {
   gclsOF->SetLibraryId(library.id);
   ShowActiveLetter(library.activeLetter);
   SetDisplayed(true);
+}
+
+void LibraryScreen::Shows(std::initializer_list<std::pair<TextBox*, const char*>> boxes) {
+  for (const auto& [box, column] : boxes) Watch({box});
+  shownBoxes_.insert(shownBoxes_.end(), boxes);
+}
+
+void LibraryScreen::Shows(std::initializer_list<std::pair<CodeComboBox*, const char*>> lists) {
+  for (const auto& [list, column] : lists) Watch({list});
+  shownLists_.insert(shownLists_.end(), lists);
 }
 
 void LibraryScreen::LetGo() {
@@ -188,6 +200,7 @@ void LibraryScreen::ClearScreen() {
   {
     const Record::Filling filling(record_);
     for (TextBox* box : {txtLibrarySymbol, txtInstitution, txtLibraryName, txtContact}) box->clear();
+    for (const auto& [box, column] : shownBoxes_) box->clear();
     ClearFields();
     cmbLibrarySymbol->Clear();
     cmbLibrarySymbol->lineEdit()->clear();
@@ -230,6 +243,15 @@ void LibraryScreen::ShowCode(CodeComboBox* box, const QString& code) {
 }
 
 // --- Changed fields ---
+
+void LibraryScreen::Trim(std::initializer_list<TextBox*> boxes) {
+  const Record::Filling filling(record_);
+  for (TextBox* box : boxes) box->TrimInPlace();
+}
+
+void LibraryScreen::TrimShown() {
+  for (const auto& [box, column] : shownBoxes_) Trim({box});
+}
 
 bool LibraryScreen::GuardPassed(const QString& firstLine) {
   if (firstLine.isEmpty() || !rights_.update || !HasRecord() || !record_.Modified()) return true;

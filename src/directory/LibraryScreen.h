@@ -45,9 +45,9 @@ class LibraryScreen : public Screen {
   virtual QString Columns() const = 0;
   // Reads what belongs to the record besides its row, before anything on the screen is replaced.
   virtual void ReadFurther(const Recordset&, qint32 /*libraryId*/) {}
-  // Fills the fields of the screen from the row and from what was read further.
+  // Fills what Shows did not tell, from the row and from what was read further.
   virtual void ShowRecord(const Recordset& rows) = 0;
-  // Empties the fields of the screen, lists and defaults included; symbol, banner and state are done already.
+  // Empties the same, puts lists back to their defaults; symbol, banner and state are done already.
   virtual void ClearFields() = 0;
   virtual void cmdUpdate_Click() = 0;
   // Its lists of codes, in the order in which they are read, and what they start on.
@@ -83,6 +83,9 @@ class LibraryScreen : public Screen {
   // The banner's boxes are for reading unless a screen makes them its own.
   static void MakeReadOnly(TextBox* box);
   static void MakeEditable(TextBox* box);
+  // Fields that show a column as it stands, told once: filled, watched and, boxes, emptied.
+  void Shows(std::initializer_list<std::pair<TextBox*, const char*>> boxes);
+  void Shows(std::initializer_list<std::pair<CodeComboBox*, const char*>> lists);
   // Any change of these counts as a change of the record, unless code is filling the screen.
   void Watch(std::initializer_list<TextBox*> boxes);
   void Watch(std::initializer_list<CodeComboBox*> boxes);
@@ -104,6 +107,9 @@ class LibraryScreen : public Screen {
   bool HasRecordToUpdate(const QString& unchanged = "Nothing has been changed.");
   // "Library Symbol is a required field." and "Please enter a value." on a line of its own.
   bool SymbolIsGiven();
+  // Trimmed in place, which is no change of the record.
+  void Trim(std::initializer_list<TextBox*> boxes);
+  void TrimShown();
   // LAST_MODIFIED and DATE_ENTERED of a statement written now.
   static QString PresentDate();
   // "UPDATE ID_LIBRARY SET ..." of the library in hand.
@@ -208,6 +214,8 @@ class LibraryScreen : public Screen {
   QHash<LibrarySibling, QPushButton*> siblings_;
   QHash<QPushButton*, QAction*> entries_;
   QSet<const CodeComboBox*> unreadLists_;
+  std::vector<std::pair<TextBox*, const char*>> shownBoxes_;
+  std::vector<std::pair<CodeComboBox*, const char*>> shownLists_;
   FunctionRights rights_;  // that the screen was opened under
   Record record_;
   LibraryInHand library_;

@@ -36,6 +36,10 @@ QString TemplateTarget::PatronId() const {
   return systemDefault_ ? QString() : gclsOF->PatronId();
 }
 
+QString TemplateTarget::PatronIs(const QString& column, const QString& none) const {
+  return column + (PatronId().isEmpty() ? none : " = " + Sql::National(PatronId()));
+}
+
 QString TemplateTarget::Institution() const {
   if (systemDefault_) return "System Default";
   return FirstValue("SELECT   INSTITUTION_NAME FROM " + Sql::Table("ID_LIBRARY") +

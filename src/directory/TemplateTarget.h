@@ -23,6 +23,8 @@ class TemplateTarget {
 
   qint32 LibraryId() const;  // 0 for the default
   QString PatronId() const;  // empty where the row has none
+  // The patron's part of a WHERE: the column as the statement leads up to it, and its test for no patron.
+  QString PatronIs(const QString& column, const QString& none) const;
   // Institution of the library, or "System Default".
   QString Institution() const;
   // Name and surname of the patron; empty without one.

@@ -63,9 +63,7 @@ void frmDeliveryEmailTemplate::ClearBoxes() {
 
 // The row of library and patron, in the letters of the two SELECTs; UPDATE and DELETE have their own.
 QString frmDeliveryEmailTemplate::OfTarget() const {
-  const QString patron = target_.PatronId();
-  return " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
-         (patron.isEmpty() ? QString(" AND PATRON_ID IS Null") : " AND PATRON_ID = " + Sql::National(patron));
+  return " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) + target_.PatronIs(" AND PATRON_ID", " IS Null");
 }
 
 // The family on show is not read again: what was typed stays.
@@ -113,14 +111,13 @@ bool frmDeliveryEmailTemplate::RowExists() const {
 }
 
 QString frmDeliveryEmailTemplate::UpdateStatement() const {
-  const QString patron = target_.PatronId();
   return "UPDATE " + Sql::Table("ID_EMAIL_MESSAGE") + " SET " + Family() +
          "SKIP_HEADER_FOOTER = " + (rdSkipHeaderAndFooter->IsSet(1) ? "N'N'" : "N'Y'") + ", " + Family() +
          "MESSAGE_SUBJECT = " + Sql::NationalOr(txtSubject->Text(), "Null") + ", " + Family() +
          "MESSAGE_REQUEST = " + Sql::NationalOr(txtRequestInfo->Text(), "Null") + ", " + Family() +
          "MESSAGE_BODY = " + Sql::NationalOr(txtBody->Text(), "Null") +
-         " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) + " " +
-         (patron.isEmpty() ? QString("AND      PATRON_ID IS NULL") : "AND      PATRON_ID = " + Sql::National(patron));
+         " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
+         target_.PatronIs(" AND      PATRON_ID", " IS NULL");
 }
 
 QString frmDeliveryEmailTemplate::InsertStatement() const {
@@ -169,11 +166,10 @@ void frmDeliveryEmailTemplate::cmdOK_Click() {
 void frmDeliveryEmailTemplate::cmdDelete_Click() {
   Procedure("frmDeliveryEmailTemplate.cmdDelete_Click", this).OnFailure(Texts::NotifySupport).Answers([this] {
     if (!Confirm(this, "Are you sure you wish to delete this record ?")) return false;
-    const QString patron = target_.PatronId();
-    const qint64 deleted = ExecuteInTransaction(
-        "DELETE FROM " + Sql::Table("ID_EMAIL_MESSAGE") + " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
-            (patron.isEmpty() ? QString(" AND PATRON_ID IS NULL ") : " AND PATRON_ID = " + Sql::National(patron)),
-        "***** SQL error on ID_EMAIL_MESSAGE (Delete) *****");
+    const qint64 deleted = ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_EMAIL_MESSAGE") +
+                                                    " WHERE    LIBRARY_ID = " + Sql::Number(target_.LibraryId()) +
+                                                    target_.PatronIs(" AND PATRON_ID", " IS NULL "),
+                                                "***** SQL error on ID_EMAIL_MESSAGE (Delete) *****");
     mbRowRead = false;
     if (deleted == 0) return Refuse(this, NothingDeleted, MessageStyle::Warning, nullptr);
     Tell(this, "Record deleted.", MessageStyle::Information);

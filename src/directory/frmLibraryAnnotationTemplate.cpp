@@ -60,14 +60,14 @@ void frmLibraryAnnotationTemplate::ShowDefaults() {
   cmbTextOrientation->SetText(DefaultOrientation);
 }
 
-QString frmLibraryAnnotationTemplate::PatronClause() const {
-  const QString patron = target_.PatronId();
-  return patron.isEmpty() ? QString("AND PATRON_ID IS NULL") : "AND PATRON_ID = " + Sql::National(patron);
+// The same in all statements.
+QString frmLibraryAnnotationTemplate::OfTarget() const {
+  return " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) +
+         target_.PatronIs(" AND PATRON_ID", " IS NULL");
 }
 
 QString frmLibraryAnnotationTemplate::SelectStatement() const {
-  return "SELECT   * FROM " + Sql::Table("ID_ANNOTATION") +
-         " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause();
+  return "SELECT   * FROM " + Sql::Table("ID_ANNOTATION") + OfTarget();
 }
 
 bool frmLibraryAnnotationTemplate::LoadTemplate() {
@@ -113,8 +113,7 @@ QString frmLibraryAnnotationTemplate::UpdateStatement() const {
          (optUseAnnotation->IsSet(0) ? ",USE_ANNOTATION = N'Y' " : ",USE_ANNOTATION = N'N' ") +
          (text.isEmpty() ? QString(", ANNOTATION = NULL ") : ", ANNOTATION = " + Sql::National(text) + " ") +
          ", TEXT_FONT_SIZE = " + cmbTextFontSize->Text() +
-         ", TEXT_ORIENTATION = " + Sql::National(cmbTextOrientation->Text()) +
-         " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) + " " + PatronClause();
+         ", TEXT_ORIENTATION = " + Sql::National(cmbTextOrientation->Text()) + OfTarget();
 }
 
 QString frmLibraryAnnotationTemplate::InsertStatement() const {
@@ -166,9 +165,7 @@ void frmLibraryAnnotationTemplate::cmdOK_Click() {
 void frmLibraryAnnotationTemplate::cmdDelete_Click() {
   Procedure("frmLibraryAnnotationTemplate.cmdDelete_Click", this).OnFailure(SeriousFailure).Answers([this] {
     if (!Confirm(this, "Are you sure you wish to delete this record ?")) return false;
-    const qint64 deleted = ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_ANNOTATION") +
-                                                    " WHERE        LIBRARY_ID  = " + Sql::Number(target_.LibraryId()) +
-                                                    " " + PatronClause(),
+    const qint64 deleted = ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_ANNOTATION") + OfTarget(),
                                                 "***** SQL error on ID_ID_ANNOTATION (Delete) *****");
     mbRowRead = false;
     if (deleted == 0) return Refuse(this, NothingDeleted, MessageStyle::Warning, nullptr);

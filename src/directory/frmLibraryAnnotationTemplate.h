@@ -30,8 +30,8 @@ class frmLibraryAnnotationTemplate : public Screen {
   void cmdOK_Click();
   void cmdDelete_Click();
   QString SelectStatement() const;
-  // The patron's part of a WHERE.
-  QString PatronClause() const;
+  // The WHERE of library and patron.
+  QString OfTarget() const;
   QString UpdateStatement() const;
   QString InsertStatement() const;
   void LogFailure(const QString& opening, const QString& statement, const QString& error);

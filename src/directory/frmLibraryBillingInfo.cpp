@@ -70,19 +70,6 @@ void frmLibraryBillingInfo::ReadFurther(const Recordset&, qint32 libraryId) {
 }
 
 void frmLibraryBillingInfo::ShowRecord(const Recordset& rows) {
-  txtStreet1->SetText(Value(rows, "BILL_ADDRESS1"));
-  txtStreet2->SetText(Value(rows, "BILL_ADDRESS2"));
-  txtCity->SetText(Value(rows, "BILL_CITY"));
-  txtStateProvince->SetText(Value(rows, "BILL_PROV_STATE"));
-  txtCountry->SetText(Value(rows, "BILL_COUNTRY"));
-  txtZipPostalCode->SetText(Value(rows, "BILL_POST_ZIPCODE"));
-  txtBillingContact->SetText(Value(rows, "BILL_CONTACT"));
-  txtPhone->SetText(Value(rows, "BILL_PHONE"));
-  txtFax->SetText(Value(rows, "BILL_FAX"));
-  txtAccountNumber->SetText(Value(rows, "LIBRARY_ACCOUNT"));
-  ShowCode(cboBillingType, Value(rows, "BILLING_TYPE"));
-  ShowCode(cboBillingRate, Value(rows, "BILLING_RATE"));
-  ShowCode(cmbCurrency, Value(rows, "CURRENCY_CODE"));
   txtNumberProcessed->SetText(Shown(Value(rows, "REQUESTS_PROCESSED"), Processed));
   txtWeightingFactor->SetText(Shown(Value(rows, "WEIGHTING_FACTOR"), Weight));
   txtQTotal->SetText(Shown(Value(rows, "QUOTA_TOTAL"), Quota));
@@ -95,9 +82,8 @@ void frmLibraryBillingInfo::ShowRecord(const Recordset& rows) {
 }
 
 void frmLibraryBillingInfo::ClearFields() {
-  for (TextBox* box : {txtStreet1, txtStreet2, txtCity, txtStateProvince, txtCountry, txtZipPostalCode,
-                       txtBillingContact, txtPhone, txtFax, txtAccountNumber, txtNumberProcessed, txtWeightingFactor,
-                       txtCCName, txtCCNumber, txtCCExpirationDate, txtCCCode, txtQFilled})
+  for (TextBox* box :
+       {txtNumberProcessed, txtWeightingFactor, txtCCName, txtCCNumber, txtCCExpirationDate, txtCCCode, txtQFilled})
     box->clear();
   ChooseDefaults();
   txtQTotal->SetText(defaultQuotaTotal_);
@@ -110,12 +96,7 @@ void frmLibraryBillingInfo::ClearFields() {
 void frmLibraryBillingInfo::cmdUpdate_Click() {
   RunUpdate("cmdUpdate_Click", Texts::NotifySupport, [this] {
     if (!HasRecordToUpdate() || !SymbolIsGiven()) return;
-    {
-      const Record::Filling filling(record());
-      for (TextBox* box :
-           {txtLibrarySymbol, txtInstitution, txtBillingContact, txtNumberProcessed, txtWeightingFactor, txtQTotal})
-        box->TrimInPlace();
-    }
+    Trim({txtLibrarySymbol, txtInstitution, txtBillingContact, txtNumberProcessed, txtWeightingFactor, txtQTotal});
     if (!ResetDateIsValid()) return;
     if (RowWasFound(ExecuteInTransaction(UpdateStatement(), "***** SQL error on ID_library (Insert) *****")))
       TellUpdated();

@@ -59,10 +59,19 @@ frmLibraryBillingInfo::frmLibraryBillingInfo(QWidget* parent)
                                      "CREDIT_CARD", "***** SQL error on ID_CREDIT_CARD (Select) *****",
                                      "Warning: The Default Credit Card Type *", ""}) {
   BuildControls();
-  Watch({txtStreet1, txtStreet2, txtCity, txtStateProvince, txtCountry, txtZipPostalCode, txtBillingContact, txtPhone,
-         txtFax, txtAccountNumber, txtNumberProcessed, txtWeightingFactor, txtCCName, txtCCExpirationDate, txtCCCode,
-         txtQTotal});
-  Watch({cboBillingType, cboBillingRate, cmbCurrency, cboCCType});
+  Shows({{txtStreet1, "BILL_ADDRESS1"},
+         {txtStreet2, "BILL_ADDRESS2"},
+         {txtCity, "BILL_CITY"},
+         {txtStateProvince, "BILL_PROV_STATE"},
+         {txtCountry, "BILL_COUNTRY"},
+         {txtZipPostalCode, "BILL_POST_ZIPCODE"},
+         {txtBillingContact, "BILL_CONTACT"},
+         {txtPhone, "BILL_PHONE"},
+         {txtFax, "BILL_FAX"},
+         {txtAccountNumber, "LIBRARY_ACCOUNT"}});
+  Shows({{cboBillingType, "BILLING_TYPE"}, {cboBillingRate, "BILLING_RATE"}, {cmbCurrency, "CURRENCY_CODE"}});
+  Watch({txtNumberProcessed, txtWeightingFactor, txtCCName, txtCCExpirationDate, txtCCCode, txtQTotal});
+  Watch({cboCCType});
   Watch({txtQuotaResetDate});
 }
 

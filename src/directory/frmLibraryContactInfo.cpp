@@ -68,24 +68,11 @@ void frmLibraryContactInfo::ReadFurther(const Recordset& rows, qint32 libraryId)
 }
 
 void frmLibraryContactInfo::ShowRecord(const Recordset& rows) {
-  const auto show = [&](TextBox* box, const char* column) { box->SetText(Value(rows, column)); };
-  show(txtEmail, "CONTACT_EMAIL");
-  show(txtAltEmail, "CONTACT_EMAIL2");
-  show(txtPhone, "CONTACT_PHONE");
-  show(txtAltPhone, "CONTACT_PHONE2");
-  show(txtFax, "CONTACT_FAX");
-  show(txtAltFax, "CONTACT_FAX2");
-  show(txtNote, "NOTE");
-  show(txtNotice, "NOTICE");
   dtpNoticeStartDate->SetDate(DateOf(Value(rows, "NOTICE_SDATE")));
   dtpNoticeEndDate->SetDate(DateOf(Value(rows, "NOTICE_EDATE")));
-  show(txtReplyAddressSMTP, "REPLY_ADDRESS_ISO_SMTP");
-  show(txtReplyAddressTCP, "REPLY_ADDRESS_ISO_TCP");
-  show(txtReplyAddressGSM, "REPLY_ADDRESS_GSM");
   const QString supplier = Value(rows, "ADD_CURRENT_SUPPLIER");
   optSendCurrentSupplier->Select(supplier == "Y" ? SupplierYes : supplier == "N" ? SupplierNo : SupplierDefault);
   optUseThisProfile->Select(Value(rows, "NCIP_USE_SERVER_PROFILE") == "Y" ? ProfileYes : ProfileNo);
-  show(txtConnectionID, "ISO18626_CONNECTION_ID");
   glngFoundLibraryId = further_->serverLibrary;
   txtNCIPServerLibrary->SetText(further_->serverSymbol);
   // Anew for this record, also where the text is the one that stood here before.
@@ -95,10 +82,7 @@ void frmLibraryContactInfo::ShowRecord(const Recordset& rows) {
 }
 
 void frmLibraryContactInfo::ClearFields() {
-  for (TextBox* box :
-       {txtPhone, txtFax, txtEmail, txtAltPhone, txtAltFax, txtAltEmail, txtNote, txtNotice, txtReplyAddressSMTP,
-        txtReplyAddressTCP, txtReplyAddressGSM, txtNCIPServerLibrary, txtConnectionID})
-    box->clear();
+  txtNCIPServerLibrary->clear();
   dtpNoticeStartDate->SetNone();
   dtpNoticeEndDate->SetNone();
   optSendCurrentSupplier->Select(SupplierDefault);
@@ -195,7 +179,8 @@ void frmLibraryContactInfo::cmdUpdate_Click() {
   RunUpdate("cmdUpdate_Click", Texts::NotifySupport, [this] {
     // A line break closes the sentence here.
     if (!HasRecordToUpdate("Nothing has been changed.\n") || !SymbolIsGiven()) return;
-    TrimFields();
+    TrimShown();
+    Trim({txtLibrarySymbol, txtContact, txtNCIPServerLibrary});
     if (!ServerLibraryIsKnown() || !ReplyAddressesAreValid() || !ConnectionIsKnown()) return;
     // Three transactions, one after another: a failure in a later one leaves the earlier ones in force.
     if (!RowWasFound(ExecuteInTransaction(UpdateStatement(), "***** SQL error on ID_library (Update) *****"))) return;
@@ -203,14 +188,6 @@ void frmLibraryContactInfo::cmdUpdate_Click() {
     sendIds_->Write(library().id);
     TellUpdated();
   });
-}
-
-void frmLibraryContactInfo::TrimFields() {
-  const Record::Filling filling(record());
-  for (TextBox* box :
-       {txtLibrarySymbol, txtContact, txtPhone, txtFax, txtEmail, txtAltPhone, txtAltFax, txtAltEmail, txtNote,
-        txtNotice, txtReplyAddressSMTP, txtReplyAddressTCP, txtReplyAddressGSM, txtNCIPServerLibrary, txtConnectionID})
-    box->TrimInPlace();
 }
 
 bool frmLibraryContactInfo::ServerLibraryIsKnown() {

@@ -47,7 +47,6 @@ class frmLibraryContactInfo : public LibraryScreen {
   void cmdConfigISO18626Connection_Click();
 
   // --- Update ---
-  void TrimFields();
   bool ServerLibraryIsKnown();
   bool ReplyAddressesAreValid();
   bool ConnectionIsKnown();

@@ -138,8 +138,19 @@ QWidget* frmLibraryContactInfo::IsoPart() {
 }
 
 void frmLibraryContactInfo::ConnectControls() {
-  Watch({txtContact, txtPhone, txtFax, txtEmail, txtAltPhone, txtAltFax, txtAltEmail, txtNote, txtNotice,
-         txtReplyAddressSMTP, txtReplyAddressTCP, txtReplyAddressGSM, txtNCIPServerLibrary, txtConnectionID});
+  Shows({{txtEmail, "CONTACT_EMAIL"},
+         {txtAltEmail, "CONTACT_EMAIL2"},
+         {txtPhone, "CONTACT_PHONE"},
+         {txtAltPhone, "CONTACT_PHONE2"},
+         {txtFax, "CONTACT_FAX"},
+         {txtAltFax, "CONTACT_FAX2"},
+         {txtNote, "NOTE"},
+         {txtNotice, "NOTICE"},
+         {txtReplyAddressSMTP, "REPLY_ADDRESS_ISO_SMTP"},
+         {txtReplyAddressTCP, "REPLY_ADDRESS_ISO_TCP"},
+         {txtReplyAddressGSM, "REPLY_ADDRESS_GSM"},
+         {txtConnectionID, "ISO18626_CONNECTION_ID"}});
+  Watch({txtContact, txtNCIPServerLibrary});
   Watch({optSendCurrentSupplier, optUseThisProfile});
   Watch({dtpNoticeStartDate, dtpNoticeEndDate});
   connect(receiveIds_, &AgencyIdList::Changed, this, [this] { record().Touched(); });

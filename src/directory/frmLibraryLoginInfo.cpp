@@ -32,8 +32,9 @@ constexpr TextKey Keys[] = {
 
 frmLibraryLoginInfo::frmLibraryLoginInfo(QWidget* parent) : LibraryScreen(LibrarySibling::Login, parent) {
   BuildControls();
-  Watch({txtUserID, txtPassword, txtConfirmPassword});
-  Watch({cboLanguageCode});
+  // A record confirms its password itself.
+  Shows({{txtUserID, "USER_LOGIN"}, {txtPassword, "USER_PASSWORD"}, {txtConfirmPassword, "USER_PASSWORD"}});
+  Shows({{cboLanguageCode, "LANGUAGE_CODE"}});
   connect(optActive, &OptionGroup::Click, this, &frmLibraryLoginInfo::optActive_Click);
   connect(chkLibraryPending, &QCheckBox::clicked, this, &frmLibraryLoginInfo::chkLibraryPending_Click);
 }
@@ -67,12 +68,7 @@ std::vector<CodeList> frmLibraryLoginInfo::CodeLists() const {
 
 // --- The record ---
 
-void frmLibraryLoginInfo::ShowRecord(const Recordset& rows) {
-  txtUserID->SetText(Value(rows, "USER_LOGIN"));
-  const QString password = Value(rows, "USER_PASSWORD");
-  txtPassword->SetText(password);
-  txtConfirmPassword->SetText(password);
-  ShowCode(cboLanguageCode, Value(rows, "LANGUAGE_CODE"));
+void frmLibraryLoginInfo::ShowRecord(const Recordset&) {
   loginAsRead_ = LoginOnShow();
   const bool active = library().activeLetter != "N", pending = library().activeLetter == "P";
   SetActive(active, pending);
@@ -81,7 +77,6 @@ void frmLibraryLoginInfo::ShowRecord(const Recordset& rows) {
 }
 
 void frmLibraryLoginInfo::ClearFields() {
-  for (TextBox* box : {txtUserID, txtPassword, txtConfirmPassword}) box->clear();
   SetActive(true, false);
   cboLanguageCode->SetCode({});
   loginAsRead_ = LoginOnShow();
@@ -146,10 +141,7 @@ void frmLibraryLoginInfo::cmdUpdate_Click() {
     }
     // What follows does not bring the mark back: a refused update counts as seen.
     record().Settled();
-    {
-      const Record::Filling filling(record());
-      for (TextBox* box : {txtUserID, txtPassword, txtConfirmPassword}) box->TrimInPlace();
-    }
+    Trim({txtUserID, txtPassword, txtConfirmPassword});
     if (LoginOnShow() != loginAsRead_ && !LoginIsValid()) return;
 
     const QString letter = StateLetter();

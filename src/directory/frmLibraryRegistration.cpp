@@ -82,23 +82,10 @@ QString frmLibraryRegistration::Columns() const {
 
 void frmLibraryRegistration::ShowRecord(const Recordset& rows) {
   const auto orElse = [](const QString& code, const char* otherwise) { return code.isEmpty() ? otherwise : code; };
-  txtStreet1->SetText(Value(rows, "PRIME_ADDRESS1"));
-  txtStreet2->SetText(Value(rows, "PRIME_ADDRESS2"));
-  txtCity->SetText(Value(rows, "PRIME_CITY"));
-  txtStateProvince->SetText(Value(rows, "PRIME_PROV_STATE"));
-  txtCountry->SetText(Value(rows, "PRIME_COUNTRY"));
-  txtZipPostalCode->SetText(Value(rows, "PRIME_POST_ZIPCODE"));
   ShowCode(cboFileFormat, orElse(Value(rows, "FILE_FORMAT"), "P"));
   ShowCode(cmbEmailMsgFormat, orElse(Value(rows, "MSG_FORMAT"), "T"));
   deliveryFax_->Show(Value(rows, "DELIV_FAX"));
-  txtDeliveryEmail->SetText(Value(rows, "DELIV_EMAIL"));
   messagingFax_->Show(Value(rows, "MSG_FAX"));
-  txtMsgEmail->SetText(Value(rows, "MSG_EMAIL"));
-  txtAriel->SetText(Value(rows, "INTERNET_ARIEL"));
-  txtOdyssey->SetText(Value(rows, "ODYSSEY_ADDRESS"));
-  txtDeliveryService->SetText(Value(rows, "DELIVERY_SERVICE"));
-  txtDocview->SetText(Value(rows, "DOCVIEW_ADDRESS"));
-  ShowCode(cmbTimeZone, Value(rows, "TIMEZONE"));
   ShowMethod(cmbDeliveryMethodCopy, Value(rows, "DELIV_METHOD_COPY"), DeliveryDeactivated);
   ShowMethod(cmbDeliveryMethodLoan, Value(rows, "DELIV_METHOD_LOAN"), DeliveryDeactivated);
   ShowMethod(cboMsgMethod, Value(rows, "MSG_METHOD"), "The current Messaging Method has been deactivated.");
@@ -114,9 +101,8 @@ void frmLibraryRegistration::ShowMethod(CodeComboBox* box, const QString& stored
 }
 
 void frmLibraryRegistration::ClearFields() {
-  for (TextBox* box : {txtStreet1, txtStreet2, txtCity, txtStateProvince, txtCountry, txtZipPostalCode, txtDeliveryFax,
-                       txtDeliveryEmail, txtMsgFax, txtMsgEmail, txtAriel, txtOdyssey, txtDeliveryService, txtDocview})
-    box->clear();
+  txtDeliveryFax->clear();
+  txtMsgFax->clear();
   ChooseDefaults();
   deliveryFax_->Reset();
   messagingFax_->Reset();
@@ -126,11 +112,9 @@ void frmLibraryRegistration::ClearFields() {
 // --- Add ---
 
 bool frmLibraryRegistration::RequiredFieldsGiven(const QString& hint) {
-  const Record::Filling filling(record());
-  const QString symbol = txtLibrarySymbol->TrimInPlace();
-  const QString institution = txtInstitution->TrimInPlace();
-  if (symbol.isEmpty()) return Refuse("Library Symbol is a required field." + hint, txtLibrarySymbol);
-  if (institution.isEmpty()) return Refuse("Institution is a required field." + hint, txtInstitution);
+  Trim({txtLibrarySymbol, txtInstitution});
+  if (txtLibrarySymbol->Text().isEmpty()) return Refuse("Library Symbol is a required field." + hint, txtLibrarySymbol);
+  if (txtInstitution->Text().isEmpty()) return Refuse("Institution is a required field." + hint, txtInstitution);
   return true;
 }
 

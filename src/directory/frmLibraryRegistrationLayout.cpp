@@ -150,10 +150,22 @@ void frmLibraryRegistration::ConnectControls() {
     messagingFax_->TellUnfinished();
     return false;
   });
-  Watch({txtInstitution, txtLibraryName, txtContact, txtStreet1, txtStreet2, txtCity, txtStateProvince, txtCountry,
-         txtZipPostalCode, txtDeliveryFax, txtDeliveryEmail, txtMsgFax, txtMsgEmail, txtAriel, txtOdyssey,
-         txtDeliveryService, txtDocview});
-  Watch({cmbTimeZone, cmbDeliveryMethodCopy, cmbDeliveryMethodLoan, cboFileFormat, cmbEmailMsgFormat, cboMsgMethod});
+  Shows({{txtStreet1, "PRIME_ADDRESS1"},
+         {txtStreet2, "PRIME_ADDRESS2"},
+         {txtCity, "PRIME_CITY"},
+         {txtStateProvince, "PRIME_PROV_STATE"},
+         {txtCountry, "PRIME_COUNTRY"},
+         {txtZipPostalCode, "PRIME_POST_ZIPCODE"},
+         {txtDeliveryEmail, "DELIV_EMAIL"},
+         {txtMsgEmail, "MSG_EMAIL"},
+         {txtAriel, "INTERNET_ARIEL"},
+         {txtOdyssey, "ODYSSEY_ADDRESS"},
+         {txtDeliveryService, "DELIVERY_SERVICE"},
+         {txtDocview, "DOCVIEW_ADDRESS"}});
+  // A zone that the list does not know stays on the record as it is.
+  Shows({{cmbTimeZone, "TIMEZONE"}});
+  Watch({txtInstitution, txtLibraryName, txtContact, txtDeliveryFax, txtMsgFax});
+  Watch({cmbDeliveryMethodCopy, cmbDeliveryMethodLoan, cboFileFormat, cmbEmailMsgFormat, cboMsgMethod});
   connect(cmdAdd, &QPushButton::clicked, this, &frmLibraryRegistration::cmdAdd_Click);
   connect(cmdDelete, &QPushButton::clicked, this, &frmLibraryRegistration::cmdDelete_Click);
   connect(cmdSupplier, &QPushButton::clicked, this, &frmLibraryRegistration::cmdSupplier_Click);

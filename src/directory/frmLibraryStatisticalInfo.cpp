@@ -72,48 +72,18 @@ QString frmLibraryStatisticalInfo::Columns() const {
 }
 
 void frmLibraryStatisticalInfo::ShowRecord(const Recordset& rows) {
-  const auto text = [&rows](TextBox* box, const char* column) { box->SetText(Value(rows, column)); };
-  text(txtVORNSymbol, "VORN_SYMBOL");
-  text(txtVORNUserID, "VORN_USER_ID");
-  // A record confirms its passwords itself.
-  text(txtVORNPassword, "VORN_PASSWORD");
-  text(txtVORNConfirmPassword, "VORN_PASSWORD");
   const QString service = Value(rows, "VORN_SERVICE");
   service.isEmpty() ? ChooseUsualService() : ShowCode(cmbServiceType, service);
   SelectIFM(Value(rows, "VORN_USE_IFM") == "Y" ? Yes : No);
   txtIFMMaxCost->SetText(Cost(Value(rows, "VORN_IFM_MAX_COST")));
-  text(txtBLUserID, "BL_USER_ID");
-  text(txtBLPassword, "BL_PASSWORD");
-  text(txtBLConfirmPassword, "BL_PASSWORD");
-  text(txtRapid, "RAPID_CODE");
-  text(txtRapidBranchName, "RAPID_BRANCH_NAME");
-  text(txtRapidUserName, "RAPID_USER_NAME");
   optRapidAllowLocal->Select(Value(rows, "RAPID_ALLOW_LOCAL") == "Y" ? Yes : No);
-  text(txtRapidPassword, "RAPID_PASSWORD");
-  text(txtRapidConfirmPassword, "RAPID_PASSWORD");
-  text(txtDoclineSymbol, "DOCLINE_SYMBOL");
-  text(txtNewZealand, "NLNZ_SYMBOL");
-  text(txtFD, "FD_SYMBOL");
-  text(txtAgent, "AGENT_SYMBOL");
-  ShowCode(cboStatsCat1, Value(rows, "STATS_CAT_LIB1"));
-  ShowCode(cboStatsCat2, Value(rows, "STATS_CAT_LIB2"));
-  ShowCode(cboStatsCat3, Value(rows, "STATS_CAT_LIB3"));
-  ShowCode(cboCategory, Value(rows, "LIBRARY_CAT"));
-  ShowCode(cboLibraryType, Value(rows, "LIBRARY_TYPE"));
-  ShowCode(cmbLoanCode, Value(rows, "LOAN_CODE"));
   txtMaximumCost->SetText(Cost(Value(rows, "MAX_COST")));
-  text(txtMaximumDays, "MAX_DAYS");
   txtDateEntered->SetText(LongMoment(Value(rows, "DATE_ENTERED")));
   txtDateLastUpdated->SetText(LongMoment(Value(rows, "LAST_MODIFIED")));
 }
 
 void frmLibraryStatisticalInfo::ClearFields() {
-  for (TextBox* box :
-       {txtVORNSymbol,    txtVORNUserID,           txtVORNPassword,  txtVORNConfirmPassword, txtBLUserID,
-        txtBLPassword,    txtBLConfirmPassword,    txtRapid,         txtRapidBranchName,     txtRapidUserName,
-        txtRapidPassword, txtRapidConfirmPassword, txtDoclineSymbol, txtNewZealand,          txtFD,
-        txtAgent,         txtMaximumCost,          txtMaximumDays,   txtDateEntered,         txtDateLastUpdated})
-    box->clear();
+  for (TextBox* box : {txtMaximumCost, txtDateEntered, txtDateLastUpdated}) box->clear();
   SelectIFM(No);
   optRapidAllowLocal->Select(No);
   ChooseUsualService();
@@ -149,36 +119,12 @@ void frmLibraryStatisticalInfo::SearchOutside(const OutsideSymbol& symbol) {
 void frmLibraryStatisticalInfo::cmdUpdate_Click() {
   RunUpdate("cmdUpdate_Click", Texts::NotifySupport, [this] {
     if (!HasRecordToUpdate()) return;
-    TrimFields();
+    TrimShown();
+    Trim({txtLibrarySymbol, txtIFMMaxCost, txtMaximumCost});
     if (!SymbolIsGiven() || !RapidIsValid() || !VornIsValid() || !BritishLibraryIsValid()) return;
     if (RowWasFound(ExecuteInTransaction(UpdateStatement(), "***** SQL error on ID_library (Insert) *****")))
       TellUpdated();
   });
-}
-
-void frmLibraryStatisticalInfo::TrimFields() {
-  const Record::Filling filling(record());
-  for (TextBox* box : {txtLibrarySymbol,
-                       txtVORNSymbol,
-                       txtVORNUserID,
-                       txtVORNPassword,
-                       txtVORNConfirmPassword,
-                       txtIFMMaxCost,
-                       txtBLUserID,
-                       txtBLPassword,
-                       txtBLConfirmPassword,
-                       txtDoclineSymbol,
-                       txtFD,
-                       txtAgent,
-                       txtNewZealand,
-                       txtMaximumCost,
-                       txtMaximumDays,
-                       txtRapid,
-                       txtRapidBranchName,
-                       txtRapidUserName,
-                       txtRapidPassword,
-                       txtRapidConfirmPassword})
-    box->TrimInPlace();
 }
 
 // Rapid has no test of its characters, unlike the two logins below.

@@ -57,7 +57,6 @@ class frmLibraryStatisticalInfo : public LibraryScreen {
   // Options and the state of the maximum that goes with them.
   void SelectIFM(Option option);
 
-  void TrimFields();
   bool RapidIsValid();
   bool VornIsValid();
   bool BritishLibraryIsValid();

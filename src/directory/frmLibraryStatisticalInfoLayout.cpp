@@ -135,10 +135,32 @@ QWidget* frmLibraryStatisticalInfo::LimitsPart() {
 }
 
 void frmLibraryStatisticalInfo::ConnectControls() {
-  Watch({txtVORNSymbol, txtVORNUserID, txtVORNPassword, txtVORNConfirmPassword, txtIFMMaxCost, txtBLUserID,
-         txtBLPassword, txtBLConfirmPassword, txtRapid, txtRapidBranchName, txtRapidUserName, txtRapidPassword,
-         txtRapidConfirmPassword, txtDoclineSymbol, txtNewZealand, txtFD, txtAgent, txtMaximumCost, txtMaximumDays});
-  Watch({cmbServiceType, cboStatsCat1, cboStatsCat2, cboStatsCat3, cboCategory, cboLibraryType, cmbLoanCode});
+  // A record confirms its passwords itself.
+  Shows({{txtVORNSymbol, "VORN_SYMBOL"},
+         {txtVORNUserID, "VORN_USER_ID"},
+         {txtVORNPassword, "VORN_PASSWORD"},
+         {txtVORNConfirmPassword, "VORN_PASSWORD"},
+         {txtBLUserID, "BL_USER_ID"},
+         {txtBLPassword, "BL_PASSWORD"},
+         {txtBLConfirmPassword, "BL_PASSWORD"},
+         {txtRapid, "RAPID_CODE"},
+         {txtRapidBranchName, "RAPID_BRANCH_NAME"},
+         {txtRapidUserName, "RAPID_USER_NAME"},
+         {txtRapidPassword, "RAPID_PASSWORD"},
+         {txtRapidConfirmPassword, "RAPID_PASSWORD"},
+         {txtDoclineSymbol, "DOCLINE_SYMBOL"},
+         {txtNewZealand, "NLNZ_SYMBOL"},
+         {txtFD, "FD_SYMBOL"},
+         {txtAgent, "AGENT_SYMBOL"},
+         {txtMaximumDays, "MAX_DAYS"}});
+  Shows({{cboStatsCat1, "STATS_CAT_LIB1"},
+         {cboStatsCat2, "STATS_CAT_LIB2"},
+         {cboStatsCat3, "STATS_CAT_LIB3"},
+         {cboCategory, "LIBRARY_CAT"},
+         {cboLibraryType, "LIBRARY_TYPE"},
+         {cmbLoanCode, "LOAN_CODE"}});
+  Watch({txtIFMMaxCost, txtMaximumCost});
+  Watch({cmbServiceType});
   Watch({optUseIFM, optRapidAllowLocal});
   connect(optUseIFM, &OptionGroup::Click, this, &frmLibraryStatisticalInfo::optUseIFM_Click);
   for (const OutsideSymbol& symbol : {OutsideSymbol{txtVORNSymbol, cmdSearchVORNSymbol, "VORN_SYMBOL"},

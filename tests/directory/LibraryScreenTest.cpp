@@ -31,6 +31,7 @@ constexpr auto ModifiedWords = "This record has been modified.";
 
 const Case Cases[] = {
     {LibrarySibling::Registration, "frmLibraryRegistration", "txtCity", "PRIME_CITY", ModifiedWords, ModifiedWords},
+    {LibrarySibling::Contact, "frmLibraryContactInfo", "txtNote", "NOTE", RegisteredWords, nullptr},
     {LibrarySibling::Login, "frmLibraryLoginInfo", "txtPassword", "USER_PASSWORD", RegisteredWords, ModifiedWords},
     {LibrarySibling::Statistics, "frmLibraryStatisticalInfo", "txtFD", "FD_SYMBOL",
      "The Library Statistical Info has been modified for this record.", nullptr},
@@ -95,9 +96,11 @@ TEST_P(LibraryScreenTest, ShowsTheLibraryInHand) {
   EXPECT_EQ(Text("txtLibraryName"), "MAIN LIBRARY");
   EXPECT_EQ(Text("txtContact"), "Ann Reed");
   EXPECT_TRUE(RecordButtonsAre(true));
-  EXPECT_EQ(Find<TextBox>("txtContact")->isReadOnly(), GetParam().self != LibrarySibling::Registration);
+  EXPECT_EQ(Find<TextBox>("txtContact")->isReadOnly(),
+            GetParam().self != LibrarySibling::Registration && GetParam().self != LibrarySibling::Contact);
   // Filling the fields was no change.
-  Prompt().Expect("Nothing has been changed.", MessageStyle::Stop);
+  const bool contact = GetParam().self == LibrarySibling::Contact;
+  Prompt().Expect(contact ? "Nothing has been changed.\n" : "Nothing has been changed.", MessageStyle::Stop);
   Click("cmdUpdate");
 }
 

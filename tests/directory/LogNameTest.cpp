@@ -27,20 +27,20 @@ class LogNameTest : public LibraryDesk, public testing::WithParamInterface<Case>
     return lines.isEmpty() ? QString() : lines.first().section("* ", 1);
   }
 };
-INSTANTIATE_TEST_SUITE_P(Screens, LogNameTest,
-                         testing::Values(Case{"frmLibraryRegistration", "frmAddRequest.cmdSearch_Click",
-                                              "frmLibraryRegistration.cmdBook_Click", "cmdBilling",
-                                              "frmLibraryRegistration.cmdBilling_Click"},
-                                         Case{"frmLibraryLoginInfo", "frmLibraryLoginInfo.cmdSearch_Click",
-                                              "frmLibraryLoginInfo.cmdLogin_Click", "cmdRegistration",
-                                              "frmLibraryBillinInfo.cmdRegistration_Click"},
-                                         Case{"frmLibraryStatisticalInfo", "frmAddRequest.cmdSearch_Click",
-                                              "frmLibraryStatisticalInfo.cmdBook_Click", "cmdRegistration",
-                                              "frmLibraryStatisticalInfo.cmdRegistration_Click"},
-                                         Case{"frmLibraryBillingInfo", "frmAddRequest.cmdSearch_Click",
-                                              "frmLibraryBillingInfo.cmdLogin_Click", "cmdRegistration",
-                                              "frmLibraryBillinInfo.cmdRegistration_Click"}),
-                         [](const testing::TestParamInfo<Case>& info) { return std::string(info.param.form); });
+INSTANTIATE_TEST_SUITE_P(
+    Screens, LogNameTest,
+    testing::Values(
+        Case{"frmLibraryRegistration", "frmAddRequest.cmdSearch_Click", "frmLibraryRegistration.cmdBook_Click",
+             "cmdBilling", "frmLibraryRegistration.cmdBilling_Click"},
+        Case{"frmLibraryContactInfo", "frmLibraryContactInfo.cmdSearch_Click", "frmLibraryContactInfo.cmdBook_Click",
+             "cmdStatistics", "frmLibraryrContactInfo.cmdStatistics_Click"},
+        Case{"frmLibraryLoginInfo", "frmLibraryLoginInfo.cmdSearch_Click", "frmLibraryLoginInfo.cmdLogin_Click",
+             "cmdRegistration", "frmLibraryBillinInfo.cmdRegistration_Click"},
+        Case{"frmLibraryStatisticalInfo", "frmAddRequest.cmdSearch_Click", "frmLibraryStatisticalInfo.cmdBook_Click",
+             "cmdRegistration", "frmLibraryStatisticalInfo.cmdRegistration_Click"},
+        Case{"frmLibraryBillingInfo", "frmAddRequest.cmdSearch_Click", "frmLibraryBillingInfo.cmdLogin_Click",
+             "cmdRegistration", "frmLibraryBillinInfo.cmdRegistration_Click"}),
+    [](const testing::TestParamInfo<Case>& info) { return std::string(info.param.form); });
 
 TEST_P(LogNameTest, Search) {
   OpenLibrary(GetParam().form, North);
@@ -60,7 +60,9 @@ TEST_P(LogNameTest, Book) {
 // A screen outside of a chain has nowhere to hand its record to.
 TEST_P(LogNameTest, Sibling) {
   OpenLibrary(GetParam().form, North);
-  EXPECT_EQ(LogOf(GetParam().sibling), GetParam().siblingLog);
+  LogOf(GetParam().sibling);
+  EXPECT_TRUE(LogHolds(QString("* ") + GetParam().siblingLog))
+      << "behind the lines of the hand-over, where there are any";
 }
 
 // Its procedure fills one list and is named so.
