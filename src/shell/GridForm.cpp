@@ -61,20 +61,20 @@ std::function<void()> GridForm::Watcher() const {
 }
 
 GridForm& GridForm::Edits(TextBox* box, Column column, Trim trim) {
-  Tell(std::move(column), Field{FieldOfBox(box, trim), {}, true});
+  Tell(std::move(column), Field{FieldOfBox(box, trim), true});
   QObject::connect(box, &TextBox::Change, box, Watcher());
   return *this;
 }
 
 GridForm& GridForm::Edits(MemoBox* box, Column column, Trim trim) {
-  Tell(std::move(column), Field{FieldOfBox(box, trim), {}, true});
+  Tell(std::move(column), Field{FieldOfBox(box, trim), true});
   QObject::connect(box, &MemoBox::Change, box, Watcher());
   return *this;
 }
 
 GridForm& GridForm::EditsNumber(TextBox* box, Column column) {
   Edits(box, std::move(column));
-  columns_.back().field->same = Numbers::Same;
+  columns_.back().field->isNumber = true;
   return *this;
 }
 
@@ -124,6 +124,7 @@ void GridForm::Shape() const {
     const int col = static_cast<int>(at) + 1;
     grid_->SetHeading(col, column.heading);
     grid_->HideCol(col, column.hidden);
+    grid_->AlignRight(col, columns_[at].field && columns_[at].field->isNumber);
     if (column.twips > 0) grid_->SetColWidth(col, column.twips);
   }
 }
@@ -163,7 +164,7 @@ void GridForm::ShowRow(int row) const {
 
 bool GridForm::Equals(const Told& told, int row) const {
   const QString shown = told.field->get(), cell = grid_->Text(row, told.field->column);
-  return told.field->same ? told.field->same(shown, cell) : shown == cell;
+  return told.field->isNumber ? Numbers::Same(shown, cell) : shown == cell;
 }
 
 bool GridForm::EqualsRow(int row) const {

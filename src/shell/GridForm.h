@@ -51,7 +51,7 @@ class GridForm {
   GridForm& Edits(OptionGroup* pair, Column column, const QString& no = {});
   // The cell holds the code; an empty one is the none entry, an unknown one is held and shown as `unknown`.
   GridForm& EditsCode(CodeComboBox* box, Column column, const QString& unknown = {});
-  // Compared with the cell as numbers; none is not zero.
+  // Compared with the cell as numbers, which stand at the right; none is not zero.
   GridForm& EditsNumber(TextBox* box, Column column);
 
   // Sets column count, headings and widths. Rows are dropped.
@@ -84,8 +84,8 @@ class GridForm {
 
  private:
   struct Field : BoundField {
-    std::function<bool(const QString&, const QString&)> same = {};  // where equality is not that of the texts
     bool isText = false;
+    bool isNumber = false;  // compared by value
   };
   struct Told {
     Column column;
