@@ -12,13 +12,23 @@
 
 Audit::Audit(frmTabulon& shell)
     : TabPage(shell),
-      locations_{txt10aCode,      txt10aDescription,
-                 grd10aTable,     "ID_STAT_LOCATION",
-                 "STAT_LOCATION", "***** SQL error on OSTANA.ID_STAT_LOCATION (INSERT INTO) *****"},
-      // The failure line names another table; log readers know it so.
-      functions_{txt10bCode,      txt10bDescription,
-                 grd10bTable,     "ID_STAT_FUNCTION",
-                 "STAT_FUNCTION", "***** SQL error on OSTANA.ID_EXCEPTION_CODE (INSERT INTO) *****"} {
+      locations_{txt10aCode,
+                 txt10aDescription,
+                 grd10aTable,
+                 &locationForm_,
+                 "ID_STAT_LOCATION",
+                 "STAT_LOCATION",
+                 "***** SQL error on ID_STAT_LOCATION (Select) *****",
+                 "***** SQL error on OSTANA.ID_STAT_LOCATION (INSERT INTO) *****"},
+      // The failure line of the INSERT names another table; log readers know it so.
+      functions_{txt10bCode,
+                 txt10bDescription,
+                 grd10bTable,
+                 &functionForm_,
+                 "ID_STAT_FUNCTION",
+                 "STAT_FUNCTION",
+                 "***** SQL error on OSTANA.ID_STAT_FUNCTION (Select) *****",
+                 "***** SQL error on OSTANA.ID_EXCEPTION_CODE (INSERT INTO) *****"} {
   BuildControls();
   ConnectControls();
 }
@@ -48,12 +58,13 @@ void Audit::BuildSubTab(QWidget* page, const Kind& kind, const QString& letter) 
 
 void Audit::ConnectControls() {
   for (const Kind* kind : {&locations_, &functions_}) {
-    WatchField(record(), kind->code, kind->grid, Code);
-    WatchField(record(), kind->description, kind->grid, Description);
+    const int twips = kind == &functions_ ? 6000 : 8020;
+    kind->form->Edits(kind->code, {kind->codeColumn, "Code", 1000}, Trim::BothUpper)
+        .Edits(kind->description, {kind->codeColumn + "_DESC+", "Description", twips});
     connect(kind->grid, &Grid::SelChange, this, [this, kind] { SelChange(*kind); });
     KeepRowOnSort(kind->grid);
   }
-  connect(opt10Display, &OptionGroup::Click, this, &Audit::opt10Display_Click);
+  functionForm_.Edits(opt10Display, {"STAT_FUNCTION_DISP", "Display", 1000}, "N");
   connect(sstab10Audit, &QTabWidget::currentChanged, this, &Audit::sstab10Audit_Click);
 }
 
@@ -80,66 +91,46 @@ void Audit::Audit_Tab() {
     // The mode hides Add, which these codes have nevertheless.
     shell().ShowAdd(true);
     const Kind& kind = Current();
-    if (kind.grid->Rows() > 1) {
-      kind.grid->SetRowQuietly(1);
-      gbSkipGridEvents = false;
-      SelChange(kind);
-    }
+    kind.form->SelectFirstRow([&] { SelChange(kind); });
     kind.description->setFocus();
   });
 }
 
-void Audit::SelChange(const Kind& kind) {
-  const int row = kind.grid->Row();
-  if (gbSkipGridEvents || row == 0) return;
-  {
-    const FillingFields filling;
-    kind.code->SetText(kind.grid->Text(row, Code));
-    kind.description->SetText(kind.grid->Text(row, Description));
-    if (&kind == &functions_) {
-      const QString flag = kind.grid->Text(row, Display);
-      opt10Display->Select(flag == "Y" ? 0 : flag == "N" ? 1 : -1);
-    }
-  }
-  record().Settled();
+void Audit::LoadGrid() {
+  const Kind& kind = Current();
+  kind.form->Load("SELECT   * FROM " + Sql::Table(kind.table) + " ORDER BY " + kind.codeColumn + "_DESC",
+                  kind.selectFailure);
 }
 
-void Audit::opt10Display_Click() {
-  gstrErrorMessage.clear();
-  const int row = grd10bTable->Row();
-  const QString flag = row == 0 ? QString() : grd10bTable->Text(row, Display);
-  // "Yes" over a stored N is no change here, and "No" over anything but Y is one: the test of all option pairs.
-  record().Compared((opt10Display->IsSet(0) && flag.isEmpty()) || (opt10Display->IsSet(1) && flag != "Y"));
+void Audit::SelChange(const Kind& kind) {
+  const int row = kind.grid->Row();
+  if (!gbSkipGridEvents && row > 0) kind.form->ShowRow(row);
 }
 
 // --- Add ---
 
 bool Audit::Audit_Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Audit_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
+  return Procedure("frmTabulon.Audit_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
     const Kind& kind = Current();
-    const QString code = kind.code->TrimUpperInPlace();
-    kind.description->TrimInPlace();
-    if (code.isEmpty()) {
-      Refuse("Please enter a Valid Code.", MessageStyle::Warning, kind.code);
-      return;
-    }
-    if (kind.description->Text().isEmpty()) {
-      Refuse("Please enter a Valid Description.", MessageStyle::Warning, kind.description);
-      return;
-    }
-    if (kind.grid->FindRow(code, Code) > 0) {
-      Refuse("This record already exists", MessageStyle::Warning, kind.code);
-      return;
-    }
+    kind.form->TrimAll();
+    const QString code = kind.code->Text();
+    if (code.isEmpty()) return Refuse("Please enter a Valid Code.", MessageStyle::Warning, kind.code);
+    if (kind.description->Text().isEmpty())
+      return Refuse("Please enter a Valid Description.", MessageStyle::Warning, kind.description);
+    if (kind.RowOf(code) > 0) return Refuse("This record already exists", MessageStyle::Warning, kind.code);
     ExecuteInTransaction(InsertStatement(kind), kind.insertFailure);
     LoadDataInGrid();
-    kind.grid->SetRowQuietly(kind.grid->FindRow(code, Code));
+    ShowStored(kind, code);
     Tell("Record Added", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
+}
+
+// The row of the code becomes current. A pair that was unset shows the letter that was stored for it.
+void Audit::ShowStored(const Kind& kind, const QString& code) {
+  const int row = kind.RowOf(code);
+  kind.grid->SetRowQuietly(row);
+  if (row > 0) kind.form->ShowRow(row);
 }
 
 QString Audit::InsertStatement(const Kind& kind) const {
@@ -156,33 +147,24 @@ QString Audit::InsertStatement(const Kind& kind) const {
 // --- Update ---
 
 bool Audit::Audit_Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Audit_Update", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
+  return Procedure("frmTabulon.Audit_Update", this).OnFailure(Texts::DatabaseError).Answers([&] {
     const Kind& kind = Current();
-    const QString code = kind.code->TrimUpperInPlace();
-    const QString description = kind.description->TrimInPlace();
+    kind.form->TrimAll();
     const bool flag = &kind == &functions_;
-    const int row = kind.grid->FindRow(code, Code);
-    if (row > 0 && description == kind.grid->Text(row, Description) &&
-        (!flag || FlagLetter() == kind.grid->Text(row, Display))) {
-      Refuse("Nothing has been changed", MessageStyle::Warning, kind.description);
-      return;
-    }
-    if (row == 0) {
-      Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop,
-             kind.code);
-      return;
-    }
+    const int row = kind.RowOf(kind.code->Text());
+    if (row > 0 && kind.description->Text() == kind.form->Cell(row, kind.codeColumn + "_DESC+") &&
+        (!flag || FlagLetter() == kind.form->Cell(row, "STAT_FUNCTION_DISP")))
+      return Refuse("Nothing has been changed", MessageStyle::Warning, kind.description);
     // The failure line of both sub-tabs names the first one's table.
-    ExecuteInTransaction(UpdateStatement(kind), "***** SQL error on OSTANA.ID_STAT_LOCATION (UPDATE) *****");
-    kind.grid->SetText(row, Description, description);
-    if (flag) kind.grid->SetText(row, Display, FlagLetter());
+    if (row == 0 ||
+        ExecuteInTransaction(UpdateStatement(kind), "***** SQL error on OSTANA.ID_STAT_LOCATION (UPDATE) *****") == 0)
+      return Refuse(Texts::NoSuchCode, MessageStyle::Stop, kind.code);
+    if (flag) opt10Display->Select(FlagLetter() == "Y" ? 0 : 1);
+    kind.form->WriteRow(row);
     Tell("Record Updated", MessageStyle::Information);
     kind.description->setFocus();
-    done = true;
+    return true;
   });
-  return done;
 }
 
 QString Audit::UpdateStatement(const Kind& kind) const {
@@ -193,14 +175,7 @@ QString Audit::UpdateStatement(const Kind& kind) const {
 }
 
 bool Audit::Audit_Clear() {
-  const Kind& kind = Current();
-  kind.grid->SetRowQuietly(0);
-  {
-    const FillingFields filling;
-    kind.code->SetText({});
-    kind.description->SetText({});
-    if (&kind == &functions_) opt10Display->Unset();
-  }
-  record().Settled();
+  Current().grid->SetRowQuietly(0);
+  Current().form->Clear();
   return true;
 }

@@ -6,6 +6,7 @@
 #include "platform/controls/Grid.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 // Tab "Audit Codes": the codes that label the stages of the request status audit, with a sub-tab for the places and one
@@ -21,19 +22,21 @@ class Audit : public TabPage {
   bool Audit_Update();
   bool Audit_Clear();
 
-  QString GridKey() const override { return OnFunctions() ? "10 b" : "10 a"; }
+  void ConfigureGrid() override { Current().form->Shape(); }
+  void LoadGrid() override;
 
  private:
   enum SubTab { LocationTab, FunctionTab };
-  enum Column { Marker, Code, Description, Display };  // the flag on "Status Function" only
 
   // What the two sub-tabs differ in.
   struct Kind {
     TextBox* code;
     TextBox* description;
     Grid* grid;
+    GridForm* form;
     QString table, codeColumn;
-    QString insertFailure;
+    QString selectFailure, insertFailure;
+    int RowOf(const QString& code) const { return grid->FindRow(code, form->ColumnOf(codeColumn)); }
   };
 
   void BuildControls();
@@ -41,7 +44,7 @@ class Audit : public TabPage {
   void BuildSubTab(QWidget* page, const Kind& kind, const QString& letter);
   void sstab10Audit_Click();
   void SelChange(const Kind& kind);
-  void opt10Display_Click();
+  void ShowStored(const Kind& kind, const QString& code);
 
   bool OnFunctions() const { return sstab10Audit->currentIndex() == FunctionTab; }
   const Kind& Current() const { return OnFunctions() ? functions_ : locations_; }
@@ -59,6 +62,8 @@ class Audit : public TabPage {
   TextBox* const txt10bDescription = new TextBox(this, "txt10bDescription", 50);
   OptionGroup* const opt10Display = new OptionGroup(this, "opt10Display", {"Yes", "No"});
   Grid* const grd10bTable = new Grid(this, "grd10bTable", 4);
+  GridForm locationForm_{grd10aTable, record()};
+  GridForm functionForm_{grd10bTable, record()};
 
   const Kind locations_;
   const Kind functions_;

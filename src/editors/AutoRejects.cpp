@@ -19,7 +19,6 @@
 namespace {
 
 const QString SettingsName = "Ostana.INI";
-const QString NoSuchCode = "This Code does not exist in the table.  Please select a Valid Code to Update.";
 constexpr quint32 FileNotFound = 53;  // run-time error number
 constexpr double MostTables = 1000;   // a site that asks for more has made a typing error
 
@@ -55,7 +54,10 @@ void AutoRejects::BuildControls() {
 }
 
 void AutoRejects::ConnectControls() {
-  WatchField(record(), txt4Code, grd4AutoReject, ListedValue);
+  // The columns are named by the list: the load reads their names off its recordset.
+  form_.Edits(txt4Code, {"", "Reject Field", 2500}, Trim::BothUpper)
+      .Shows({"", "Reject Type", 6000})
+      .Shows({"", "", 0, true});
   connect(cmb4Tables, &CodeComboBox::Click, this, &AutoRejects::cmb4Tables_Click);
   connect(cmb4RejectType, &CodeComboBox::Click, this, &AutoRejects::cmb4RejectType_Click);
   connect(grd4AutoReject, &Grid::SelChange, this, &AutoRejects::grd4AutoReject_SelChange);
@@ -126,12 +128,11 @@ void AutoRejects::cmb4Tables_Click() {
       grd4AutoReject->SetRowQuietly(1);
       gbSkipGridEvents = false;
       grd4AutoReject_SelChange();
+      txt4Code->setFocus();
     } else {
-      const FillingFields filling;
-      txt4Code->SetText({});
+      form_.Clear();
       cmb4RejectType->SetText("(NONE)");
     }
-    record().Settled();
   });
 }
 
@@ -154,14 +155,9 @@ void AutoRejects::LoadGrid() {
 void AutoRejects::grd4AutoReject_SelChange() {
   const int row = grd4AutoReject->Row();
   if (gbSkipGridEvents || row == 0) return;
-  {
-    const FillingFields filling;
-    txt4Code->SetText(grd4AutoReject->Text(row, ListedValue));
-    // An exception that rejects no more is in no list; it is shown and kept all the same.
-    cmb4RejectType->Hold(grd4AutoReject->Text(row, ExceptionCode), grd4AutoReject->Text(row, RejectType));
-  }
-  record().Settled();
-  txt4Code->setFocus();
+  form_.ShowRow(row);
+  // An exception that rejects no more is in no list; it is shown and kept all the same.
+  cmb4RejectType->Hold(grd4AutoReject->Text(row, ExceptionCode), grd4AutoReject->Text(row, RejectType));
 }
 
 void AutoRejects::cmb4RejectType_Click() {
@@ -181,62 +177,57 @@ QString AutoRejects::FailureLine(const QString& verb) const {
 // --- Add ---
 
 bool AutoRejects::AutoRejects_Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.AutoRejects_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    if (txt4Code->Trimmed().isEmpty()) {
-      Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt4Code);
-      return;
-    }
-    if (cmb4RejectType->Code().isEmpty()) {
-      Refuse("Please choose a Reject Type", MessageStyle::Warning, cmb4RejectType);
-      return;
-    }
+  return Procedure("frmTabulon.AutoRejects_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    if (txt4Code->Trimmed().isEmpty()) return Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt4Code);
+    if (cmb4RejectType->Code().isEmpty())
+      return Refuse("Please choose a Reject Type", MessageStyle::Warning, cmb4RejectType);
     // The code is compared as it was typed; what only differs in letter case is left to the database.
     if (grd4AutoReject->FindRow(txt4Code->Text(), ListedValue) > 0) {
       Tell("This record already exists", MessageStyle::Warning);
-      const FillingFields filling;
-      txt4Code->SetText({});
-      cmb4RejectType->SetIndex(0);
-      txt4Code->setFocus();
-      return;
+      EmptyEntry();
+      return false;
     }
-    const QString code = txt4Code->TrimUpperInPlace();
+    form_.TrimAll();
+    const QString code = txt4Code->Text();
     ExecuteInTransaction("INSERT INTO " + Sql::Table(TableName()) + " VALUES(" + Sql::Plain(code) + ", " +
                              Sql::Plain(cmb4RejectType->Code()) + ")",
                          FailureLine("INSERT INTO"));
     LoadDataInGrid();
     grd4AutoReject->SetRowQuietly(grd4AutoReject->FindRow(code, ListedValue));
     Tell("Record Added", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
+}
+
+void AutoRejects::EmptyEntry() {
+  form_.Clear();
+  cmb4RejectType->SetIndex(0);
+  txt4Code->setFocus();
 }
 
 // --- Update ---
 
 bool AutoRejects::AutoRejects_Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.AutoRejects_Update", this);
-  procedure.Run([&] {
-    const QString code = txt4Code->TrimUpperInPlace();
+  return Procedure("frmTabulon.AutoRejects_Update", this).Answers([&] {
+    form_.TrimAll();
+    const QString code = txt4Code->Text();
     const int row = grd4AutoReject->Row();
-    if (!IsUpdate(row)) return;
+    if (!IsUpdate(row)) return false;
     const QString sql = "UPDATE  " + Sql::Table(TableName()) + " SET " + gstrField + " = " + Sql::Plain(code) + ", " +
                         gstrExcCode + " = " + Sql::Plain(cmb4RejectType->Code()) + " where " + gstrField + " = " +
                         Sql::Plain(grd4AutoReject->Text(row, ListedValue)) + " and " + gstrExcCode + " = " +
                         Sql::Plain(grd4AutoReject->Text(row, ExceptionCode));
-    ExecuteInTransaction(sql, FailureLine("UPDATE"));
+    if (ExecuteInTransaction(sql, FailureLine("UPDATE")) == 0)
+      return Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt4Code);
     LoadDataInGrid();
     grd4AutoReject->SetRowQuietly(grd4AutoReject->FindRow(code, ListedValue));
     Tell("Record Updated", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool AutoRejects::IsUpdate(int row) {
-  if (row == 0 || txt4Code->Text().isEmpty()) return Refuse(NoSuchCode, MessageStyle::Stop, txt4Code);
+  if (row == 0 || txt4Code->Text().isEmpty()) return Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt4Code);
   if (txt4Code->Text() == grd4AutoReject->Text(row, ListedValue) && RejectTypeIsThatOf(row))
     return Refuse("Nothing has been changed", MessageStyle::Warning, txt4Code);
   if (IsInAnotherRow(row)) return Refuse("This record already exists.", MessageStyle::Warning, txt4Code);
@@ -259,40 +250,27 @@ bool AutoRejects::IsInAnotherRow(int row) const {
 // --- Delete and Clear ---
 
 bool AutoRejects::AutoRejects_Delete() {
-  bool done = false;
-  Procedure procedure("frmTabulon.AutoRejects_Delete", this);
-  procedure.OnFailure(DeleteFailureText).Run([&] {
+  return Procedure("frmTabulon.AutoRejects_Delete", this).OnFailure(DeleteFailureText).Answers([&] {
     const QString code = txt4Code->Trimmed();
-    if (code.isEmpty()) {
-      Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt4Code);
-      return;
-    }
-    if (grd4AutoReject->FindRow(code, ListedValue) == 0) {
-      Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt4Code);
-      return;
-    }
-    if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) {
+    if (code.isEmpty()) return Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt4Code);
+    if (grd4AutoReject->FindRow(code, ListedValue) == 0) return Refuse(Texts::NoSuchRow, MessageStyle::Stop, txt4Code);
+    if (!Confirm(this, Texts::DeleteQuestion)) {
       txt4Code->setFocus();
-      return;
+      return false;
     }
-    ExecuteInTransaction("DELETE FROM " + Sql::Table(TableName()) + " WHERE " + gstrField + " = " + Sql::Plain(code),
-                         FailureLine("DELETE"));
+    if (ExecuteInTransaction(
+            "DELETE FROM " + Sql::Table(TableName()) + " WHERE " + gstrField + " = " + Sql::Plain(code),
+            FailureLine("DELETE")) == 0)
+      return Refuse(Texts::NoSuchRow, MessageStyle::Stop, txt4Code);
     LoadDataInGrid();
     AutoRejects_Clear();
     Tell("Record Deleted", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool AutoRejects::AutoRejects_Clear() {
   grd4AutoReject->SetRowQuietly(0);
-  {
-    const FillingFields filling;
-    txt4Code->SetText({});
-    cmb4RejectType->SetIndex(0);
-  }
-  txt4Code->setFocus();
-  record().Settled();
+  EmptyEntry();
   return true;
 }

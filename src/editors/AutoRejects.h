@@ -4,6 +4,7 @@
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 // Tab "Auto Rejects": the lists by which a request is rejected automatically when a field of it holds a listed value.
@@ -20,7 +21,7 @@ class AutoRejects : public TabPage {
   bool AutoRejects_Delete();
   bool AutoRejects_Clear();
 
-  QString GridKey() const override { return "4"; }
+  void ConfigureGrid() override { form_.Shape(); }
   // Without a list there is nothing to write to.
   ButtonCondition Condition() const override;
   void LoadGrid() override;
@@ -40,6 +41,8 @@ class AutoRejects : public TabPage {
   QString TableName() const { return cmb4Tables->Code(); }
   QString FailureLine(const QString& verb) const;
   bool RejectTypeIsThatOf(int row) const;
+  // Nothing is entered; the list of the table stays.
+  void EmptyEntry();
   bool IsUpdate(int row);
   bool IsInAnotherRow(int row) const;
 
@@ -50,4 +53,5 @@ class AutoRejects : public TabPage {
   TextBox* const txt4Code = new TextBox(this, "txt4Code");
   CodeComboBox* const cmb4RejectType = new CodeComboBox(this, "cmb4RejectType");
   Grid* const grd4AutoReject = new Grid(this, "grd4AutoReject", 4);
+  GridForm form_{grd4AutoReject, record()};
 };

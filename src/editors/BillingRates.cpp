@@ -29,51 +29,46 @@ void BillingRates::BuildControls() {
 }
 
 void BillingRates::ConnectControls() {
-  WatchAnyChange(record(), txt7BillingCode);
-  WatchAnyChange(record(), txt7BillingDescription);
-  connect(cmb7InvoiceFlag, &CodeComboBox::Click, this, [this] {
-    gstrErrorMessage.clear();
-    record().Touched();
-  });
+  using enum GridForm::Watch;
+  // A letter that is neither of the two shows as none, and is kept.
+  form_.Edits(txt7BillingCode, {"BILLING_RATE", "Code", 1000, false, Touch}, Trim::BothUpper)
+      .Edits(txt7BillingDescription, {"BILLING_RATE_DESC+", "Description", 7020, false, Touch})
+      .EditsCode(cmb7InvoiceFlag, {"INVOICE_FLAG_OVR", "Invoice Flag Override", 1800, false, Touch}, "(none)");
   connect(grd7BillingRate, &Grid::SelChange, this, &BillingRates::grd7BillingRate_SelChange);
   KeepRowOnSort(grd7BillingRate);
 }
 
 QString BillingRates::CurrentCode() const {
-  return HasCurrentRow() ? grd7BillingRate->Text(grd7BillingRate->Row(), Code) : QString();
+  return HasCurrentRow() ? form_.Cell(grd7BillingRate->Row(), "BILLING_RATE") : QString();
+}
+
+int BillingRates::RowOf(const QString& code) const {
+  return grd7BillingRate->FindRow(code, form_.ColumnOf("BILLING_RATE"));
+}
+
+void BillingRates::LoadGrid() {
+  form_.Load("SELECT   * FROM " + Sql::Table("ID_BILLING_RATE") + " ORDER BY BILLING_RATE",
+             "***** SQL error on OSTANA.ID_BILLING_RATE (Select) *****");
 }
 
 void BillingRates::SelectFirstRow() {
-  if (grd7BillingRate->Rows() > 1) grd7BillingRate->SetRow(1);
+  if (!form_.SelectFirstRow([this] { grd7BillingRate_SelChange(); })) form_.Clear();
 }
 
 void BillingRates::grd7BillingRate_SelChange() {
   const int row = grd7BillingRate->Row();
   if (gbSkipGridEvents || row == 0) return;
-  {
-    const FillingFields filling;
-    txt7BillingCode->SetText(grd7BillingRate->Text(row, Code));
-    txt7BillingDescription->SetText(grd7BillingRate->Text(row, Description));
-    if (!cmb7InvoiceFlag->SetCode(grd7BillingRate->Text(row, InvoiceFlag))) cmb7InvoiceFlag->SetIndex(0);
-  }
-  record().Settled();
+  form_.ShowRow(row);
   txt7BillingCode->setFocus();
-}
-
-void BillingRates::TrimBoxes() {
-  const FillingFields filling;
-  txt7BillingCode->TrimUpperInPlace();
-  txt7BillingDescription->TrimInPlace();
 }
 
 bool BillingRates::Add() {
   // The text as typed is tested, so that a blank goes on to the database; the focus goes to the other sub-tab's box.
   if (txt7BillingCode->Text().isEmpty())
     return Refuse("Please enter a Valid Code.", MessageStyle::Warning, codeOfRateTables_);
-  TrimBoxes();
+  form_.TrimAll();
   const QString code = txt7BillingCode->Text();
-  if (grd7BillingRate->FindRow(code, Code) > 0)
-    return Refuse("This record already exists", MessageStyle::Warning, txt7BillingCode);
+  if (RowOf(code) > 0) return Refuse("This record already exists", MessageStyle::Warning, txt7BillingCode);
   const QString description = Sql::NationalOr(txt7BillingDescription->Text(), "NULL");
   const Sql::LanguagePieces languages = Sql::LanguageColumns("BILLING_RATE_DESC_", description);
   ExecuteInTransaction("INSERT INTO " + Sql::Table("ID_BILLING_RATE") + " (BILLING_RATE, BILLING_RATE_DESC" +
@@ -81,55 +76,50 @@ bool BillingRates::Add() {
                            description + languages.values + ", " + Sql::NationalOr(InvoiceFlagLetter(), "NULL") + ")",
                        "***** SQL error on OSTANA.ID_BILLING_RATE (INSERT INTO) *****");
   LoadDataInGrid();
-  grd7BillingRate->SetRow(grd7BillingRate->FindRow(code, Code));
+  grd7BillingRate->SetRow(RowOf(code));
   Tell("Record Added", MessageStyle::Information);
   return true;
 }
 
 bool BillingRates::Update() {
-  TrimBoxes();
+  form_.TrimAll();
   const QString code = txt7BillingCode->Text();
   const QString description = txt7BillingDescription->Text();
-  const int row = grd7BillingRate->FindRow(code, Code);
-  if (row > 0 && description == grd7BillingRate->Text(row, Description) &&
-      InvoiceFlagLetter() == grd7BillingRate->Text(row, InvoiceFlag)) {
+  const int row = RowOf(code);
+  if (row > 0 && form_.EqualsRow(row)) {
     record().Settled();
     return Refuse("Nothing has been changed", MessageStyle::Warning, txt7BillingDescription);
   }
-  if (row == 0)
-    return Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop,
-                  txt7BillingCode);
-  ExecuteInTransaction("UPDATE " + Sql::Table("ID_BILLING_RATE") + " SET BILLING_RATE_DESC" + gclsOF->LanguageSuffix() +
-                           " = " + Sql::NationalOr(description, "NULL") +
-                           ", INVOICE_FLAG_OVR = " + Sql::NationalOr(InvoiceFlagLetter(), "NULL") +
-                           " WHERE BILLING_RATE = " + Sql::National(code),
-                       "***** SQL error on OSTANA.ID_BILLING_RATE (UPDATE) *****");
-  grd7BillingRate->SetText(row, Description, description);
-  grd7BillingRate->SetText(row, InvoiceFlag, InvoiceFlagLetter());
+  if (row == 0) return Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt7BillingCode);
+  const qint64 updated =
+      ExecuteInTransaction("UPDATE " + Sql::Table("ID_BILLING_RATE") + " SET BILLING_RATE_DESC" +
+                               gclsOF->LanguageSuffix() + " = " + Sql::NationalOr(description, "NULL") +
+                               ", INVOICE_FLAG_OVR = " + Sql::NationalOr(InvoiceFlagLetter(), "NULL") +
+                               " WHERE BILLING_RATE = " + Sql::National(code),
+                           "***** SQL error on OSTANA.ID_BILLING_RATE (UPDATE) *****");
+  if (updated == 0) return Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt7BillingCode);
+  form_.WriteRow(row);
   Tell("Record Updated", MessageStyle::Information);
   return true;
 }
 
 bool BillingRates::Delete() {
-  TrimBoxes();
+  form_.TrimAll();
   const QString code = txt7BillingCode->Text();
   if (code.isEmpty()) return Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt7BillingCode);
-  if (grd7BillingRate->FindRow(code, Code) == 0)
-    return Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt7BillingCode);
+  if (RowOf(code) == 0) return Refuse(Texts::NoSuchRow, MessageStyle::Stop, txt7BillingCode);
   const QString question = "This will Delete all Corresponding Document Supply Records.\n" + Texts::DeleteQuestion;
-  if (Tell(question, MessageStyle::Question) != MessageAnswer::Yes) return false;
+  if (!Confirm(this, question)) return false;
   // Whether the rates under this code go as well or keep it is the database's rule.
-  ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_BILLING_RATE") + " WHERE BILLING_RATE = " + Sql::Plain(code),
-                       "***** SQL error on OSTANA.ID_BILLING_RATE (DELETE) *****");
+  if (ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_BILLING_RATE") + " WHERE BILLING_RATE = " + Sql::Plain(code),
+                           "***** SQL error on OSTANA.ID_BILLING_RATE (DELETE) *****") == 0)
+    return Refuse(Texts::NoSuchRow, MessageStyle::Stop, txt7BillingCode);
   LoadDataInGrid();
   Tell("Record Deleted", MessageStyle::Information);
   return true;
 }
 
 void BillingRates::Clear() {
-  const FillingFields filling;
-  txt7BillingCode->SetText({});
-  txt7BillingDescription->SetText({});
-  cmb7InvoiceFlag->SetIndex(0);
+  form_.Clear();
   grd7BillingRate->SetRowQuietly(0);
 }

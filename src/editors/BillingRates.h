@@ -4,7 +4,7 @@
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
-#include "shell/Editing.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 // Sub-tab "Billing Rate Codes": the billing rates that the rate tables price.
@@ -25,15 +25,14 @@ class BillingRates : public TabPage {
   QString CurrentCode() const;
   bool HasCurrentRow() const { return grd7BillingRate->Row() > 0; }
 
-  QString GridKey() const override { return "7 billing rates"; }
+  void ConfigureGrid() override { form_.Shape(); }
+  void LoadGrid() override;
 
  private:
-  enum Column { Marker, Code, Description, InvoiceFlag };
-
   void BuildControls();
   void ConnectControls();
   void grd7BillingRate_SelChange();
-  void TrimBoxes();
+  int RowOf(const QString& code) const;
   // "Y", "N" or empty.
   QString InvoiceFlagLetter() const { return cmb7InvoiceFlag->Code(); }
 
@@ -42,4 +41,5 @@ class BillingRates : public TabPage {
   TextBox* const txt7BillingDescription = new TextBox(this, "txt7BillingDescription", 50);
   CodeComboBox* const cmb7InvoiceFlag = new CodeComboBox(this, "cmb7InvoiceFlag");
   Grid* const grd7BillingRate = new Grid(this, "grd7BillingRate", 4);
+  GridForm form_{grd7BillingRate, record()};
 };

@@ -7,7 +7,6 @@
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "platform/ado/Recordset.h"
-#include "shell/Editing.h"
 #include "shell/FindLibrary.h"
 #include "shell/GridTable.h"
 #include "shell/Messages.h"
@@ -44,9 +43,14 @@ void CodeTables::ConnectControls() {
   connect(cmb0CurrentLanguage, &CodeComboBox::Click, this, &CodeTables::cmb0CurrentLanguage_Click);
   connect(cmd0FindLibrary, &QPushButton::clicked, this, &CodeTables::cmd0FindLibrary_Click);
   connect(grd0TableDesc, &Grid::SelChange, this, &CodeTables::grd0TableDesc_SelChange);
-  WatchField(record(), txt0Code, grd0TableDesc, Code);
-  WatchField(record(), txt0Description, grd0TableDesc, Description);
-  WatchField(record(), txt0LibrarySymbol, grd0TableDesc, LibrarySymbol);
+  // Which columns the rows come from is read off the table.
+  form_.Edits(txt0Code, {"", "", 1770})
+      .Edits(txt0Description, {"", "Description", 5000})
+      .Shows({"", "Delivery Type", 1300})
+      .Shows({"", "Web", 800})
+      .Edits(txt0LibrarySymbol, {"", "Library Symbol", 1600})
+      .Shows({"", "Default", 900})
+      .Shows({"", "Library Id", 0, true});
   connect(opt0Display, &OptionGroup::Click, this, [this](int index) { Compare(WebFlag, index == 0 ? "Y" : ""); });
   connect(opt0DeliveryType, &OptionGroup::Click, this,
           [this](int index) { Compare(DeliveryType, index == 0 ? "C" : "L"); });
@@ -55,11 +59,10 @@ void CodeTables::ConnectControls() {
   KeepRowOnSort(grd0TableDesc);
 }
 
-bool CodeTables::Compare(int column, const QString& value) {
+void CodeTables::Compare(int column, const QString& value) {
   gstrErrorMessage.clear();
   const int row = grd0TableDesc->Row();
   record().Compared(row == 0 || grd0TableDesc->Text(row, column) != value);
-  return gbRecordModified;
 }
 
 // --- Entering the tab and choosing a table ---
@@ -87,11 +90,8 @@ void CodeTables::CodeTables_Tab() {
   FillLanguages();
   shell().EnableButtons(gstrButtonMode);
   cmb0Tables->SetIndex(0);
-  special_ = {};
-  ShowSpecialControls();
-  const FillingFields filling;
-  txt0Code->SetText({});
-  txt0Description->SetText({});
+  ForgetTable();
+  form_.Clear();
   grd0TableDesc->Clear();
   grd0TableDesc->SetColWidth(Marker, 310);
 }
@@ -115,14 +115,24 @@ QString CodeTables::TableName() const {
 
 void CodeTables::ConfigureGrid() {
   gstrButtonMode = "O";
-  special_ = {};
-  TabPage::ConfigureGrid();
-  if (TableSelected()) {
-    const FillingFields filling;
+  form_.Shape();
+  ForgetTable();
+  if (!TableSelected()) return;
+  {
+    const Record::Filling filling(record());
     txt0Code->SetText({});
     txt0Description->SetText({});
-    ReadTable();
   }
+  ReadTable();
+  ShowSpecialControls();
+}
+
+// What is known of a table is never taken for another one's, also where that one cannot be read.
+void CodeTables::ForgetTable() {
+  special_ = {};
+  gstrCodeColumn.clear();
+  gstrDescColumn.clear();
+  baseDescColumn_.clear();
   ShowSpecialControls();
 }
 
@@ -202,16 +212,10 @@ QStringList CodeTables::CellsOf(Recordset& rows) const {
 void CodeTables::grd0TableDesc_SelChange() {
   const int row = grd0TableDesc->Row();
   if (gbSkipGridEvents || row == 0) return;
-  {
-    const FillingFields filling;
-    txt0Code->SetText(grd0TableDesc->Text(row, Code));
-    txt0Description->SetText(grd0TableDesc->Text(row, Description));
-    opt0DeliveryType->Select(grd0TableDesc->Text(row, DeliveryType) == "C" ? 0 : 1);
-    opt0Display->Select(grd0TableDesc->Text(row, WebFlag) == "Y" ? 0 : 1);
-    txt0LibrarySymbol->SetText(grd0TableDesc->Text(row, LibrarySymbol));
-    chk0DefaultLanguage->setChecked(grd0TableDesc->Text(row, DefaultLanguage) == "Y");
-  }
-  record().Settled();
+  form_.ShowRow(row);
+  opt0DeliveryType->Select(grd0TableDesc->Text(row, DeliveryType) == "C" ? 0 : 1);
+  opt0Display->Select(grd0TableDesc->Text(row, WebFlag) == "Y" ? 0 : 1);
+  chk0DefaultLanguage->setChecked(grd0TableDesc->Text(row, DefaultLanguage) == "Y");
   txt0Code->setFocus();
 }
 
@@ -253,37 +257,32 @@ QString CodeTables::DeliveryTypeValue() const {
 // --- Add ---
 
 bool CodeTables::CodeTables_Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.CodeTables_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
+  return Procedure("frmTabulon.CodeTables_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
     QString code;
-    if (!CodeIsValid(code)) return;
+    if (!CodeIsValid(code)) return false;
     qint32 libraryId = 0;
-    if (special_.ackStatement && !gclsOF->FindLibraryId(txt0LibrarySymbol->Trimmed(), libraryId)) {
-      Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt0LibrarySymbol);
-      return;
-    }
+    if (special_.ackStatement && !gclsOF->FindLibraryId(txt0LibrarySymbol->Trimmed(), libraryId))
+      return Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt0LibrarySymbol);
     if (IsDuplicate(code, libraryId)) {
       Tell("This record already exists", MessageStyle::Warning);
       grd0TableDesc->SetRowQuietly(0);
-      const FillingFields filling;
+      const Record::Filling filling(record());
       txt0Code->SetText({});
       txt0Description->SetText({});
       txt0Code->setFocus();
-      return;
+      return false;
     }
     Execute(InsertStatement(code, libraryId), "***** SQL error on OSTANA." + TableName() + " (INSERT INTO) *****");
     ReloadAndSelect(code, libraryId);
     Tell("Record Added", MessageStyle::Information);
-    record().Settled();
     txt0Code->setFocus();
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool CodeTables::CodeIsValid(QString& code) {
   if (txt0Code->Trimmed().isEmpty()) return Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt0Code);
+  const Record::Filling trimming(record());
   code = txt0Code->TrimUpperInPlace();
   txt0Description->TrimInPlace();
   if (!CodeIsNumeric()) return true;
@@ -335,50 +334,45 @@ void CodeTables::ReloadAndSelect(const QString& code, qint32 libraryId) {
 // --- Update ---
 
 bool CodeTables::CodeTables_Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.CodeTables_Update", this);
-  procedure.OnFailure("An error has occurred updating the table.\n\nIf the error persists notify support.").Run([&] {
-    const QString code = txt0Code->TrimInPlace();
-    txt0Description->TrimInPlace();
-    const int row = grd0TableDesc->Row();
-    const bool codeOfRow = row > 0 && grd0TableDesc->Text(row, Code) == code;
-    if (codeOfRow && RowIsUnchanged(row)) {
-      Refuse("Nothing has been changed", MessageStyle::Warning, txt0Description);
-      return;
-    }
-    if (!codeOfRow) {
-      Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Warning,
-             txt0Code);
-      return;
-    }
-    // Taking the default away is refused; a second default is not.
-    if (special_.language && !chk0DefaultLanguage->isChecked() && grd0TableDesc->Text(row, DefaultLanguage) == "Y") {
-      Tell("Only 1 language can be selected as the default.", MessageStyle::Warning);
-      chk0DefaultLanguage->setChecked(true);
-      txt0Description->setFocus();
-      return;
-    }
-    qint32 libraryId = 0;
-    const QString symbol = txt0LibrarySymbol->TrimInPlace();
-    if (special_.catalogLibrary && !symbol.isEmpty() && !gclsOF->FindLibraryId(symbol, libraryId)) {
-      Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt0LibrarySymbol);
-      return;
-    }
-    if (special_.ackStatement && !gclsOF->FindLibraryId(symbol, libraryId)) {
-      Refuse(
-          "Please enter a Valid Library Symbol. (Make sure the Library Symbol entered exists as a registered "
-          "Library)",
-          MessageStyle::Warning, txt0LibrarySymbol);
-      return;
-    }
-    ExecuteInTransaction(UpdateStatement(code, row, libraryId),
-                         "***** SQL error on OSTANA." + TableName() + " (Update) *****");
-    WriteBack(row, libraryId);
-    Tell("Record Updated", MessageStyle::Information);
-    record().Settled();
-    done = true;
-  });
-  return done;
+  return Procedure("frmTabulon.CodeTables_Update", this)
+      .OnFailure("An error has occurred updating the table.\n\nIf the error persists notify support.")
+      .Answers([&] {
+        form_.TrimAll();
+        const int row = grd0TableDesc->Row();
+        qint32 libraryId = 0;
+        if (!MayUpdate(row) || !LibraryIsValid(libraryId)) return false;
+        if (ExecuteInTransaction(UpdateStatement(txt0Code->Text(), row, libraryId),
+                                 "***** SQL error on OSTANA." + TableName() + " (Update) *****") == 0)
+          return Refuse(Texts::NoSuchCode, MessageStyle::Warning, txt0Code);
+        WriteBack(row, libraryId);
+        Tell("Record Updated", MessageStyle::Information);
+        return true;
+      });
+}
+
+bool CodeTables::MayUpdate(int row) {
+  const bool codeOfRow = row > 0 && grd0TableDesc->Text(row, Code) == txt0Code->Text();
+  if (!codeOfRow) return Refuse(Texts::NoSuchCode, MessageStyle::Warning, txt0Code);
+  if (RowIsUnchanged(row)) return Refuse("Nothing has been changed", MessageStyle::Warning, txt0Description);
+  // Taking the default away is refused; a second default is not.
+  if (special_.language && !chk0DefaultLanguage->isChecked() && grd0TableDesc->Text(row, DefaultLanguage) == "Y") {
+    Tell("Only 1 language can be selected as the default.", MessageStyle::Warning);
+    chk0DefaultLanguage->setChecked(true);
+    txt0Description->setFocus();
+    return false;
+  }
+  return true;
+}
+
+bool CodeTables::LibraryIsValid(qint32& libraryId) {
+  const QString symbol = txt0LibrarySymbol->Text();
+  if (special_.catalogLibrary && !symbol.isEmpty() && !gclsOF->FindLibraryId(symbol, libraryId))
+    return Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt0LibrarySymbol);
+  return !special_.ackStatement || gclsOF->FindLibraryId(symbol, libraryId) ||
+         Refuse(
+             "Please enter a Valid Library Symbol. (Make sure the Library Symbol entered exists as a registered "
+             "Library)",
+             MessageStyle::Warning, txt0LibrarySymbol);
 }
 
 bool CodeTables::RowIsUnchanged(int row) const {
@@ -426,56 +420,41 @@ void CodeTables::WriteBack(int row, qint32 libraryId) {
 // --- Delete and Clear ---
 
 bool CodeTables::CodeTables_Delete() {
-  bool done = false;
-  Procedure procedure("frmTabulon.CodeTables_Delete", this);
-  procedure
-      .OnFailure([](const AdoError& error) {
-        const bool refused = error.RefusedByReference() || error.Number() == AdoNumber::TextRefused;
-        return Texts::DeleteFailed + "\n\n" + (refused ? Texts::Referenced : Texts::Persists);
-      })
-      .Run([&] {
-        const QString code = txt0Code->Trimmed();
-        if (code.isEmpty()) {
-          Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt0Code);
-          return;
-        }
-        const int row = RowOfCode(code);
-        if (row == 0) {
-          Tell("Please select a valid record from the table.", MessageStyle::Warning);
-          return;
-        }
-        if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) {
-          txt0Code->setFocus();
-          return;
-        }
-        const QString from = QString("DELETE ") + "FROM " + Sql::Table(TableName()) + " ";
-        // The code is quoted here even in a numeric column.
-        const QString where = special_.ackStatement ? "WHERE ACK_CODE = " + Sql::Plain(code) +
-                                                          " AND LIBRARY_ID= " + grd0TableDesc->Text(row, LibraryId)
-                                                    : "WHERE " + gstrCodeColumn + " = " + Sql::Plain(code);
-        ExecuteInTransaction(from + where, "***** SQL error on " + TableName() + " (Delete) *****");
-        LoadDataInGrid();
-        CodeTables_Clear();
-        Tell("Record Deleted", MessageStyle::Information);
-        done = true;
-      });
-  return done;
+  const auto failure = [](const AdoError& error) {
+    const bool refused = error.RefusedByReference() || error.Number() == AdoNumber::TextRefused;
+    return Texts::DeleteFailed + "\n\n" + (refused ? Texts::Referenced : Texts::Persists);
+  };
+  return Procedure("frmTabulon.CodeTables_Delete", this).OnFailure(failure).Answers([&] {
+    const QString code = txt0Code->Trimmed();
+    if (code.isEmpty()) return Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt0Code);
+    const int row = RowOfCode(code);
+    if (row == 0) return Refuse(Texts::NoSuchRow, MessageStyle::Warning, nullptr);
+    if (!Confirm(this, Texts::DeleteQuestion)) {
+      txt0Code->setFocus();
+      return false;
+    }
+    const QString from = QString("DELETE ") + "FROM " + Sql::Table(TableName()) + " ";
+    // The code is quoted here even in a numeric column.
+    const QString where = special_.ackStatement ? "WHERE ACK_CODE = " + Sql::Plain(code) +
+                                                      " AND LIBRARY_ID= " + grd0TableDesc->Text(row, LibraryId)
+                                                : "WHERE " + gstrCodeColumn + " = " + Sql::Plain(code);
+    if (ExecuteInTransaction(from + where, "***** SQL error on " + TableName() + " (Delete) *****") == 0)
+      return Refuse(Texts::NoSuchRow, MessageStyle::Warning, nullptr);
+    LoadDataInGrid();
+    CodeTables_Clear();
+    Tell("Record Deleted", MessageStyle::Information);
+    return true;
+  });
 }
 
 bool CodeTables::CodeTables_Clear() {
   gbSkipGridEvents = true;
   grd0TableDesc->Clear();
   grd0TableDesc->SetHeading(Description, "Description");
-  {
-    const FillingFields filling;
-    txt0Code->SetText({});
-    txt0Description->SetText({});
-    txt0LibrarySymbol->SetText({});
-    opt0DeliveryType->Unset();
-    opt0Display->Unset();
-  }
+  form_.Clear();
+  opt0DeliveryType->Unset();
+  opt0Display->Unset();
   txt0Code->setFocus();
-  record().Settled();
   return true;
 }
 
@@ -496,14 +475,12 @@ void CodeTables::cmb0CurrentLanguage_Click() {
     const QString suffix = "_" + cmb0CurrentLanguage->Code();
     if (gclsOF->LanguageSuffix() == suffix) return;
     gclsOF->SetLanguageSuffix(suffix);
-    if (!gbFillingFields) {
-      cmb0Tables_Click();
-      const QString table = TableName();
-      CodeTables_Tab();
-      // The order of the list follows the language: the table is found again by its name.
-      cmb0Tables->SetIndex(std::max(0, static_cast<int>(gstrTableNames.indexOf(table, 1))));
-      cmb0Tables_Click();
-    }
+    cmb0Tables_Click();
+    const QString table = TableName();
+    CodeTables_Tab();
+    // The order of the list follows the language: the table is found again by its name.
+    cmb0Tables->SetIndex(std::max(0, static_cast<int>(gstrTableNames.indexOf(table, 1))));
+    cmb0Tables_Click();
     LoadLanguageCodes(suffix);
     FillLanguages();
     shell().ShowStatus();

@@ -9,6 +9,7 @@
 #include "platform/controls/Grid.h"
 #include "platform/controls/OptionGroup.h"
 #include "platform/controls/TextBox.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 class Recordset;
@@ -27,7 +28,6 @@ class CodeTables : public TabPage {
   bool CodeTables_Delete();
   bool CodeTables_Clear();
 
-  QString GridKey() const override { return "0"; }
   void ConfigureGrid() override;
   void LoadGrid() override;
 
@@ -54,7 +54,8 @@ class CodeTables : public TabPage {
   void ReadTable();
   void ShowSpecialControls();
   QStringList CellsOf(Recordset& rows) const;
-  bool Compare(int column, const QString& value);
+  void Compare(int column, const QString& value);
+  void ForgetTable();
 
   QString TableName() const;
   bool TableSelected() const { return cmb0Tables->Index() > 0; }
@@ -68,6 +69,8 @@ class CodeTables : public TabPage {
   bool IsDuplicate(const QString& code, qint32 libraryId) const;
   QString InsertStatement(const QString& code, qint32 libraryId) const;
   QString UpdateStatement(const QString& code, int row, qint32 libraryId) const;
+  bool MayUpdate(int row);
+  bool LibraryIsValid(qint32& libraryId);
   QString WebFlagValue() const;
   QString DefaultFlagValue() const;
   QString DeliveryTypeValue() const;
@@ -100,4 +103,5 @@ class CodeTables : public TabPage {
   CodeComboBox* const cmb0CurrentLanguage = new CodeComboBox(this, "cmb0CurrentLanguage");
   QCheckBox* const chk0DefaultLanguage = Form::Check(this, "chk0DefaultLanguage", "Default Language");
   Grid* const grd0TableDesc = new Grid(this, "grd0TableDesc", 8);
+  GridForm form_{grd0TableDesc, record(), 200};
 };

@@ -4,7 +4,6 @@
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "platform/ado/Recordset.h"
-#include "shell/GridTable.h"
 #include "shell/Messages.h"
 #include "shell/Procedure.h"
 #include "shell/Screens.h"
@@ -16,6 +15,7 @@ const QString NoRecord = "You need select a record to Update";
 
 CoverPages::CoverPages(frmTabulon& shell) : TabPage(shell) {
   BuildControls();
+  TellGrid();
   ConnectControls();
 }
 
@@ -37,15 +37,18 @@ void CoverPages::BuildControls() {
   column->addWidget(grd1CoverInfo, 1);
 }
 
+// Column 1 shows type and description, which are hidden behind, joined.
+void CoverPages::TellGrid() {
+  form_.Shows({"", "Request Type ", 1770})
+      .Edits(txt1Header, {"HEADER", "Header", 2000}, Trim::None)
+      .Edits(txt1Footer, {"FOOTER", "Footer", 2000}, Trim::None)
+      .Edits(txt1Message1, {"MESSAGE_1", "Message 1", 2500}, Trim::None)
+      .Edits(txt1message2, {"MESSAGE_2", "Message 2", 2500}, Trim::None)
+      .Shows({"REQUEST_TYPE", "", 0, true})
+      .Shows({"REQUEST_TYPE_DESC+", "", 0, true});
+}
+
 void CoverPages::ConnectControls() {
-  fields_.Add(txt1Header, Header, Trim::None)
-      .Add(txt1Footer, Footer, Trim::None)
-      .Add(txt1Message1, Message1, Trim::None)
-      .Add(txt1message2, Message2, Trim::None);
-  WatchField(record(), txt1Header, grd1CoverInfo, Header);
-  WatchField(record(), txt1Footer, grd1CoverInfo, Footer);
-  WatchField(record(), txt1Message1, grd1CoverInfo, Message1);
-  WatchField(record(), txt1message2, grd1CoverInfo, Message2);
   PassFocusOn(txt1RequestType, txt1Header);
   PassFocusOn(txt1Description, txt1Header);
   connect(grd1CoverInfo, &Grid::SelChange, this, &CoverPages::grd1CoverInfo_SelChange);
@@ -68,69 +71,53 @@ void CoverPages::CoverPages_Tab() {
     LoadDataInGrid();
     shell().EnableButtons(gstrButtonMode);
     CoverPages_Clear();
-    if (grd1CoverInfo->Rows() > 1) {
-      grd1CoverInfo->SetRowQuietly(1);
-      gbSkipGridEvents = false;
-      grd1CoverInfo_SelChange();
-    }
+    form_.SelectFirstRow([this] { grd1CoverInfo_SelChange(); });
     txt1RequestType->setFocus();
   });
 }
 
 void CoverPages::LoadGrid() {
-  const QString description = "REQUEST_TYPE_DESC" + gclsOF->LanguageSuffix();
-  grd1CoverInfo->Clear();
-  OpenRows(*grsTable,
-           "SELECT RT.REQUEST_TYPE, RT." + description + ", CI.HEADER, CI.FOOTER, CI.MESSAGE_1, CI.MESSAGE_2 " +
-               "FROM " + Sql::Table("ID_COVER_INFO") + " CI, " + Sql::Table("ID_REQUEST_TYPE") + " RT " +
-               "WHERE  RT.REQUEST_TYPE = CI.REQUEST_TYPE " + "ORDER BY RT.REQUEST_TYPE",
-           "***** SQL error on OSTANA.ID_COVER_INFO OR ID_REQUEST_TYPE (Select) *****");
-  gstrFieldNames.clear();
-  for (const char* name : {"HEADER", "FOOTER", "MESSAGE_1", "MESSAGE_2", "REQUEST_TYPE"})
-    gstrFieldNames.append(grsTable->Fields(name).Name());
-  FillGridFrom(*grd1CoverInfo, *grsTable,
-               {"", "HEADER", "FOOTER", "MESSAGE_1", "MESSAGE_2", "REQUEST_TYPE", description});
-  grsTable->Close();
+  form_.Load("SELECT RT.REQUEST_TYPE, RT.REQUEST_TYPE_DESC" + gclsOF->LanguageSuffix() +
+                 ", CI.HEADER, CI.FOOTER, CI.MESSAGE_1, CI.MESSAGE_2 " + "FROM " + Sql::Table("ID_COVER_INFO") +
+                 " CI, " + Sql::Table("ID_REQUEST_TYPE") + " RT " + "WHERE  RT.REQUEST_TYPE = CI.REQUEST_TYPE " +
+                 "ORDER BY RT.REQUEST_TYPE",
+             "***** SQL error on OSTANA.ID_COVER_INFO OR ID_REQUEST_TYPE (Select) *****",
+             [this](const Recordset& rows) {
+               gstrFieldNames.clear();
+               for (const char* name : {"HEADER", "FOOTER", "MESSAGE_1", "MESSAGE_2", "REQUEST_TYPE"})
+                 gstrFieldNames.append(rows.Fields(name).Name());
+             });
   for (int row = 1; row < grd1CoverInfo->Rows(); ++row)
-    grd1CoverInfo->SetText(row, TypeAndDescription,
-                           grd1CoverInfo->Text(row, RequestType) + " - " + grd1CoverInfo->Text(row, Description));
+    grd1CoverInfo->SetText(row, 1, form_.Cell(row, "REQUEST_TYPE") + " - " + form_.Cell(row, "REQUEST_TYPE_DESC+"));
 }
 
 void CoverPages::grd1CoverInfo_SelChange() {
   const int row = grd1CoverInfo->Row();
   if (gbSkipGridEvents || row == 0) return;
-  txt1RequestType->SetText(grd1CoverInfo->Text(row, RequestType));
-  txt1Description->SetText(grd1CoverInfo->Text(row, Description));
-  fields_.FillFromRow(*grd1CoverInfo, row);
-  record().Settled();
+  txt1RequestType->SetText(form_.Cell(row, "REQUEST_TYPE"));
+  txt1Description->SetText(form_.Cell(row, "REQUEST_TYPE_DESC+"));
+  form_.ShowRow(row);
 }
 
 bool CoverPages::CoverPages_Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.CoverPages_Update", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
+  return Procedure("frmTabulon.CoverPages_Update", this).OnFailure(Texts::DatabaseError).Answers([&] {
     const int row = grd1CoverInfo->Row();
     // Without a row everything counts as different, so that the next question is reached.
-    if (row > 0 && fields_.EqualsRow(*grd1CoverInfo, row)) {
-      Refuse("Nothing has been changed", MessageStyle::Warning, txt1RequestType);
-      return;
-    }
-    if (row == 0 || txt1RequestType->Text().isEmpty()) {
-      Tell(NoRecord, MessageStyle::Warning);
-      return;
-    }
-    ExecuteInTransaction(UpdateStatement(), "***** SQL error on OSTANA.ID_COVER_INFO (UPDATE) *****");
-    fields_.WriteRow(*grd1CoverInfo, row);
+    if (row > 0 && form_.EqualsRow(row))
+      return Refuse("Nothing has been changed", MessageStyle::Warning, txt1RequestType);
+    if (row == 0 || txt1RequestType->Text().isEmpty()) return Refuse(NoRecord, MessageStyle::Warning, nullptr);
+    if (ExecuteInTransaction(UpdateStatement(), "***** SQL error on OSTANA.ID_COVER_INFO (UPDATE) *****") == 0)
+      return Refuse(Texts::NoSuchCode, MessageStyle::Stop, nullptr);
+    form_.WriteRow(row);
     Tell("Record Updated", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 QString CoverPages::UpdateStatement() const {
   QStringList settings;
-  for (const BoundField& field : fields_.Fields())
-    settings.append(gstrFieldNames[field.column - Header] + " = " + Sql::NationalOr(field.get(), "NULL"));
+  for (const QString& text : {txt1Header->Text(), txt1Footer->Text(), txt1Message1->Text(), txt1message2->Text()})
+    settings.append(gstrFieldNames[settings.size()] + " = " + Sql::NationalOr(text, "NULL"));
   // The table's name stands in lower case here, which databases that tell letters apart know it by.
   return "UPDATE  " + Sql::Table("id_cover_info") + " SET " + settings.join(", ") + " where " + gstrFieldNames.last() +
          " =" + Sql::Plain(txt1RequestType->Text());
@@ -140,8 +127,7 @@ bool CoverPages::CoverPages_Clear() {
   grd1CoverInfo->SetRowQuietly(0);
   txt1RequestType->SetText({});
   txt1Description->SetText({});
-  fields_.Clear();
-  record().Settled();
+  form_.Clear();
   return true;
 }
 
@@ -153,7 +139,7 @@ void CoverPages::OpenNotice(const QString& button, FormName formName) {
       Tell(NoRecord, MessageStyle::Warning);
       return;
     }
-    gstrCoverRequestType = grd1CoverInfo->Text(row, RequestType);
+    gstrCoverRequestType = form_.Cell(row, "REQUEST_TYPE");
     ShowModal(formName, this);
   });
 }

@@ -6,7 +6,7 @@
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/TextBox.h"
-#include "shell/Editing.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 class FormName;
@@ -23,20 +23,17 @@ class CoverPages : public TabPage {
   bool CoverPages_Update();
   bool CoverPages_Clear();
 
-  QString GridKey() const override { return "1"; }
+  void ConfigureGrid() override { form_.Shape(); }
   void LoadGrid() override;
 
  private:
-  // The last two are hidden: column 1 shows both joined.
-  enum Column { Marker, TypeAndDescription, Header, Footer, Message1, Message2, RequestType, Description };
-
   void BuildControls();
+  void TellGrid();
   void ConnectControls();
   void grd1CoverInfo_SelChange();
   void OpenNotice(const QString& button, FormName formName);
   QString UpdateStatement() const;
 
-  FieldList fields_;
   QStringList gstrFieldNames;  // of the recordset that filled the grid: the four texts, then the key
 
   TextBox* const txt1RequestType = new TextBox(this, "txt1RequestType", 3);
@@ -56,4 +53,5 @@ class CoverPages : public TabPage {
                    "Configure the Email message and General Notification report for the selected request type.");
   QPushButton* const cmdPickup = Form::Button(this, "cmdPickup", "&Pickup");
   Grid* const grd1CoverInfo = new Grid(this, "grd1CoverInfo", 8);
+  GridForm form_{grd1CoverInfo, record(), 200};
 };

@@ -25,8 +25,6 @@ Delivery::Delivery(frmTabulon& shell)
 void Delivery::sstab5Delivery_Click() {
   subTabClicked_ = true;
   Delivery_Tab();
-  // What was being edited is no longer on screen.
-  CurrentRecord().Settled();
   gbSkipGridEvents = false;
 }
 

@@ -20,7 +20,6 @@ class Delivery : public TabPage {
   bool Delivery_Delete() { return Front().Delete(); }
   bool Delivery_Clear() { return Front().Clear(); }
 
-  QString GridKey() const override { return Front().GridKey(); }
   Record& CurrentRecord() override { return Front().CurrentRecord(); }
   ButtonCondition Condition() const override { return Front().Condition(); }
   void ConfigureGrid() override { Front().ConfigureGrid(); }

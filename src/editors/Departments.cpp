@@ -84,7 +84,7 @@ void Departments::cmbShowDepartments_Click() {
 }
 
 void Departments::SelectFirstRow() {
-  form_.SelectFirstRow([this] { grd2Department_SelChange(); });
+  if (form_.SelectFirstRow([this] { grd2Department_SelChange(); })) txt2Department->setFocus();
 }
 
 void Departments::LoadGrid() {
@@ -100,9 +100,7 @@ void Departments::LoadGrid() {
 
 void Departments::grd2Department_SelChange() {
   const int row = grd2Department->Row();
-  if (gbSkipGridEvents || row == 0) return;
-  form_.ShowRow(row);
-  txt2Department->setFocus();
+  if (!gbSkipGridEvents && row > 0) form_.ShowRow(row);
 }
 
 void Departments::FindDepartmentLibraryId() {
@@ -138,7 +136,11 @@ bool Departments::Departments_Add() {
 
 bool Departments::EntryIsComplete() {
   form_.TrimAll();
-  if (txt2Department->TrimUpperInPlace().isEmpty())
+  {
+    const Record::Filling trimming(record());
+    txt2Department->TrimUpperInPlace();
+  }
+  if (txt2Department->Text().isEmpty())
     return Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt2Department);
   if (txt2Description->Text().isEmpty())
     return Refuse("Please enter a Valid Description.", MessageStyle::Warning, txt2Description);
@@ -194,7 +196,8 @@ bool Departments::Departments_Update() {
     if (txt2Description->Text() != form_.Cell(row, "DEPARTMENT_DESC+") &&
         RefuseDescriptionOf(DepartmentOfDescription("***** SQL error on ID_DEPARTMENT (Select) *****")))
       return false;
-    ExecuteInTransaction(UpdateStatement(), "***** SQL error on OSTANA.ID_DEPARTMENT (UPDATE) *****");
+    if (ExecuteInTransaction(UpdateStatement(), "***** SQL error on OSTANA.ID_DEPARTMENT (UPDATE) *****") == 0)
+      return Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt2Department);
     LoadDataInGrid();
     grd2Department->SetRowQuietly(
         grd2Department->FindRow({{form_.ColumnOf("LIBRARY_SYMBOL"), txt2LibrarySymbol->Text()},
@@ -233,16 +236,14 @@ bool Departments::Departments_Delete() {
     if (department.isEmpty() || txt2LibrarySymbol->Trimmed().isEmpty())
       return Refuse("Choose a record to be Deleted", MessageStyle::Stop, txt2Department);
     if (grd2Department->FindRow(department, form_.ColumnOf("DEPARTMENT")) == 0)
-      return Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt2Department);
-    if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return false;
+      return Refuse(Texts::NoSuchRow, MessageStyle::Stop, txt2Department);
+    if (!Confirm(this, Texts::DeleteQuestion)) return false;
     FindDepartmentLibraryId();
     const qint64 deleted =
         ExecuteInTransaction(QString("DELETE ") + "FROM " + Sql::Table("ID_DEPARTMENT") + " " +
                                  "WHERE    DEPARTMENT = " + Sql::Plain(department) + " " + WhereLibrary(),
                              "***** SQL error on OSTANA.ID_DEPARTMENT (DELETE) *****");
-    if (deleted == 0)
-      return Refuse("Nothing was deleted.  Make sure you have a valid record selected.", MessageStyle::Warning,
-                    txt2Department);
+    if (deleted == 0) return Refuse(Texts::NothingDeleted, MessageStyle::Warning, txt2Department);
     LoadDataInGrid();
     form_.Clear();
     SelectFirstRow();

@@ -13,16 +13,17 @@ namespace {
 
 const QString HighestCharge = "999.99";
 const QString Table = "ID_EXCEPTION_CODE";
+const QString Description = "EXCEPTION_CODE_DESC+";
 
 }  // namespace
 
 ExceptionCodes::ExceptionCodes(frmTabulon& shell) : SubPage(shell) {
   BuildControls();
+  form_.Edits(txt8Code, {"EXCEPTION_CODE", "Code", 1000}, Trim::BothUpper)
+      .EditsCode(cboExceptionType, {"EXCEPTION_TYPE", "Type", 1000})
+      .Edits(txt8Description, {Description, "Description", 6000})
+      .EditsNumber(txt8ServiceCharge, {"SERVICE_CHARGE", "Service Charge", 1500, false, GridForm::Watch::Touch});
   ConnectControls();
-  fields_.Add(txt8Code, Code, Trim::BothUpper)
-      .AddCode(cboExceptionType, Type)
-      .Add(txt8Description, Description)
-      .Add(txt8ServiceCharge, ServiceCharge);
 }
 
 void ExceptionCodes::BuildControls() {
@@ -40,11 +41,6 @@ void ExceptionCodes::BuildControls() {
 void ExceptionCodes::ConnectControls() {
   connect(grd8Table, &Grid::SelChange, this, &ExceptionCodes::grd8Table_SelChange);
   KeepRowOnSort(grd8Table);
-  WatchField(record(), txt8Code, grd8Table, Code);
-  WatchField(record(), txt8Description, grd8Table, Description);
-  WatchAnyChange(record(), txt8ServiceCharge);
-  connect(cboExceptionType, &CodeComboBox::Click, this,
-          [this] { CompareWithRow(record(), cboExceptionType->Code(), grd8Table, Type); });
   // Zero is a charge; less than nothing is none.
   MakeNumeric(*txt8ServiceCharge, lbl8ServiceCharge, HighestCharge, "#####0.00", true, true);
 }
@@ -59,13 +55,18 @@ void ExceptionCodes::ShowServiceCharge() {
 }
 
 void ExceptionCodes::ConfigureGrid() {
-  TabPage::ConfigureGrid();
-  grd8Table->HideCol(ServiceCharge, !gbUseWebService);
+  form_.Shape();
+  HideCharge();
 }
 
 void ExceptionCodes::LoadGrid() {
-  TabPage::LoadGrid();
-  grd8Table->HideCol(ServiceCharge, !gbUseWebService);
+  form_.Load("SELECT   * FROM " + Sql::Table(Table) + " ORDER BY EXCEPTION_CODE ",
+             "***** SQL error on OSTANA.ID_EXCEPTION_CODE (Select) *****");
+  HideCharge();
+}
+
+void ExceptionCodes::HideCharge() {
+  grd8Table->HideCol(form_.ColumnOf("SERVICE_CHARGE"), !gbUseWebService);
 }
 
 void ExceptionCodes::PopulateExceptionType() {
@@ -86,56 +87,56 @@ void ExceptionCodes::Return() {
   ConfigureGrdTable();
   const QString type = cboExceptionType->Code();
   PopulateExceptionType();
-  ShowType(type);
+  if (!type.isEmpty()) cboExceptionType->Hold(type);
   LoadDataInGrid();
-  grd8Table->SetRowQuietly(grd8Table->FindRow(txt8Code->Text(), Code));
+  grd8Table->SetRowQuietly(RowOf(txt8Code->Text()));
 }
 
 void ExceptionCodes::SelectFirstRow() {
-  if (grd8Table->Rows() < 3) return;
-  grd8Table->SetRowQuietly(1);
-  grd8Table_SelChange();
+  if (grd8Table->Rows() > 2) form_.SelectFirstRow([this] { grd8Table_SelChange(); });
 }
 
 void ExceptionCodes::grd8Table_SelChange() {
   const int row = grd8Table->Row();
-  if (gbSkipGridEvents || row == 0) return;
-  fields_.FillFromRow(*grd8Table, row);
-  record().Settled();
+  if (!gbSkipGridEvents && row > 0) form_.ShowRow(row);
 }
 
-void ExceptionCodes::ShowType(const QString& type) {
-  if (type.isEmpty() || !cboExceptionType->SetCode(type)) cboExceptionType->SetIndex(0);
+int ExceptionCodes::RowOf(const QString& code) const {
+  return grd8Table->FindRow(code, form_.ColumnOf("EXCEPTION_CODE"));
 }
 
 void ExceptionCodes::Carry(const ExceptionChoice& choice) {
   if (!choice.Made()) return;
-  const FillingFields filling;
-  txt8Code->SetText(choice.code);
-  txt8Description->SetText(choice.description);
-  const int row = grd8Table->FindRow(choice.code, Code);
+  {
+    const Record::Filling filling(record());
+    txt8Code->SetText(choice.code);
+    txt8Description->SetText(choice.description);
+  }
+  const int row = RowOf(choice.code);
   if (row == 0) return;
   grd8Table->SetRowQuietly(row);
-  ShowType(grd8Table->Text(row, Type));
-  // The charge comes along, so that an Update of what is on show keeps it.
-  txt8ServiceCharge->SetText(grd8Table->Text(row, ServiceCharge));
+  // Type and charge come along, so that an Update of what is on show keeps them.
+  form_.ShowRow(row);
 }
 
 void ExceptionCodes::EmptyAndFocusCode() {
-  const FillingFields filling;
-  txt8Code->SetText({});
-  txt8Description->SetText({});
-  txt8ServiceCharge->SetText({});
+  EmptyTexts();
   txt8Code->setFocus();
 }
 
-QString ExceptionCodes::CellOf(const QString& code, int column) const {
-  const int row = grd8Table->FindRow(code, Code);
-  return row > 0 ? grd8Table->Text(row, column) : QString();
+// The type stays as it is.
+void ExceptionCodes::EmptyTexts() {
+  const Record::Filling filling(record());
+  for (TextBox* box : {txt8Code, txt8Description, txt8ServiceCharge}) box->SetText({});
+}
+
+QString ExceptionCodes::CellOf(const QString& code, const QString& database) const {
+  const int row = RowOf(code);
+  return row > 0 ? form_.Cell(row, database) : QString();
 }
 
 QString ExceptionCodes::TypeOf(const QString& code) const {
-  return CellOf(code, Type);
+  return CellOf(code, "EXCEPTION_TYPE");
 }
 QString ExceptionCodes::DescriptionOf(const QString& code) const {
   return CellOf(code, Description);
@@ -143,26 +144,27 @@ QString ExceptionCodes::DescriptionOf(const QString& code) const {
 
 // --- Add ---
 
+void ExceptionCodes::TrimEntry() {
+  const Record::Filling filling(record());
+  txt8Code->TrimUpperInPlace();
+  txt8Description->TrimInPlace();
+}
+
 bool ExceptionCodes::Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    const QString code = txt8Code->TrimUpperInPlace();
-    const QString description = txt8Description->TrimInPlace();
-    if (!EntryIsValid(code, description)) return;
-    if (grd8Table->FindRow(code, Code) > 0 || grd8Table->FindRow(description, Description) > 0) {
-      Refuse("This record already exists.\n\nBoth the Code and Description must be unique.", MessageStyle::Stop,
-             txt8Code);
-      return;
-    }
+  return Procedure("frmTabulon.Exception_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    TrimEntry();
+    const QString code = txt8Code->Text(), description = txt8Description->Text();
+    if (!EntryIsValid(code, description)) return false;
+    if (RowOf(code) > 0 || grd8Table->FindRow(description, form_.ColumnOf(Description)) > 0)
+      return Refuse("This record already exists.\n\nBoth the Code and Description must be unique.", MessageStyle::Stop,
+                    txt8Code);
     ExecuteInTransaction(InsertStatement(code, description),
                          "***** SQL error on OSTANA.ID_EXCEPTION_CODE (INSERT INTO) *****");
     LoadDataInGrid();
-    grd8Table->SetRowQuietly(grd8Table->FindRow(code, Code));
+    grd8Table->SetRowQuietly(RowOf(code));
     Tell("Record Added", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool ExceptionCodes::EntryIsValid(const QString& code, const QString& description) {
@@ -191,55 +193,43 @@ QString ExceptionCodes::InsertStatement(const QString& code, const QString& desc
 // --- Update ---
 
 bool ExceptionCodes::Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Update", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    const QString code = txt8Code->TrimUpperInPlace();
-    const QString description = txt8Description->TrimInPlace();
-    if (!TypeIsChosen()) return;
+  return Procedure("frmTabulon.Exception_Update", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    TrimEntry();
+    const QString code = txt8Code->Text(), description = txt8Description->Text();
+    if (!TypeIsChosen()) return false;
     // Add leaves this to the box's own validation.
     if (Numbers::Val(txt8ServiceCharge->Text()) > Numbers::Val(HighestCharge)) {
       Tell("Maximum Service Charge exceeded.", MessageStyle::Stop);
       txt8ServiceCharge->SelectAllAndFocus();
-      return;
+      return false;
     }
     const std::optional<int> row = RowToUpdate(code, description);
-    if (!row) return;
-    if (*row > 0 && IsUnchanged(*row)) {
-      Refuse("Nothing has been changed", MessageStyle::Warning, txt8Description);
-      return;
-    }
-    if (*row == 0) {
-      Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop,
-             txt8Code);
-      return;
-    }
-    ExecuteInTransaction(UpdateStatement(code, description),
-                         "***** SQL error on OSTANA.ID_EXCEPTION_CODE (UPDATE) *****");
-    WriteBack(*row);
+    if (!row) return false;
+    if (*row > 0 && form_.EqualsRow(*row))
+      return Refuse("Nothing has been changed", MessageStyle::Warning, txt8Description);
+    if (*row == 0 || ExecuteInTransaction(UpdateStatement(code, description),
+                                          "***** SQL error on OSTANA.ID_EXCEPTION_CODE (UPDATE) *****") == 0)
+      return Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt8Code);
+    form_.WriteRow(*row);
+    const QString charge = txt8ServiceCharge->Trimmed();
+    grd8Table->SetText(*row, form_.ColumnOf("SERVICE_CHARGE"),
+                       Numbers::IsBlank(charge) ? QString() : Numbers::Format(Numbers::Val(charge), "##0.00"));
     Tell("Record Updated", MessageStyle::Information);
     txt8Description->setFocus();
-    done = true;
+    return true;
   });
-  return done;
 }
 
 std::optional<int> ExceptionCodes::RowToUpdate(const QString& code, const QString& description) {
   // The scan stops at the row of the code: the same description further down is not seen.
   for (int row = 1; row < grd8Table->Rows(); ++row) {
-    if (grd8Table->Text(row, Code) == code) return row;
-    if (grd8Table->Text(row, Description) != description) continue;
+    if (form_.Cell(row, "EXCEPTION_CODE") == code) return row;
+    if (form_.Cell(row, Description) != description) continue;
     Refuse("This Description already exists in another record.\n\nThe Description must be unique.", MessageStyle::Stop,
            txt8Description);
     return std::nullopt;
   }
   return 0;
-}
-
-bool ExceptionCodes::IsUnchanged(int row) const {
-  return txt8Description->Text() == grd8Table->Text(row, Description) &&
-         cboExceptionType->Code() == grd8Table->Text(row, Type) &&
-         Numbers::Same(txt8ServiceCharge->Text(), grd8Table->Text(row, ServiceCharge));
 }
 
 QString ExceptionCodes::UpdateStatement(const QString& code, const QString& description) const {
@@ -249,46 +239,27 @@ QString ExceptionCodes::UpdateStatement(const QString& code, const QString& desc
          " WHERE EXCEPTION_CODE = " + Sql::National(code);
 }
 
-void ExceptionCodes::WriteBack(int row) {
-  const QString charge = txt8ServiceCharge->Trimmed();
-  grd8Table->SetText(row, Description, txt8Description->Text());
-  grd8Table->SetText(row, Type, cboExceptionType->Code());
-  grd8Table->SetText(row, ServiceCharge,
-                     Numbers::IsBlank(charge) ? QString() : Numbers::Format(Numbers::Val(charge), "##0.00"));
-}
-
 // --- Delete and Clear ---
 
 bool ExceptionCodes::Delete() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Delete", this);
-  procedure.OnFailure(DeleteFailureText).Run([&] {
+  return Procedure("frmTabulon.Exception_Delete", this).OnFailure(DeleteFailureText).Answers([&] {
     const QString code = txt8Code->Trimmed();
-    if (code.isEmpty()) {
-      Tell("Please choose a record to be Deleted", MessageStyle::Warning);
-      return;
-    }
-    if (grd8Table->FindRow(code, Code) == 0) {
-      Tell("Please select a valid record from the table.", MessageStyle::Stop);
-      return;
-    }
-    if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return;
-    ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + " WHERE EXCEPTION_CODE = " + Sql::Plain(code),
-                         "***** SQL error on OSTANA.ID_EXCEPTION_CODE (DELETE) *****");
+    if (code.isEmpty()) return Refuse("Please choose a record to be Deleted", MessageStyle::Warning, nullptr);
+    if (RowOf(code) == 0) return Refuse(Texts::NoSuchRow, MessageStyle::Stop, nullptr);
+    if (!Confirm(this, Texts::DeleteQuestion)) return false;
+    if (ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + " WHERE EXCEPTION_CODE = " + Sql::Plain(code),
+                             "***** SQL error on OSTANA.ID_EXCEPTION_CODE (DELETE) *****") == 0)
+      return Refuse(Texts::NoSuchRow, MessageStyle::Stop, nullptr);
     LoadDataInGrid();
     shell().cmdClear_Click();
     Tell("Record Deleted", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool ExceptionCodes::Clear() {
-  // The type stays as it is.
-  const FillingFields filling;
-  txt8Code->SetText({});
-  txt8Description->SetText({});
-  txt8ServiceCharge->SetText({});
+  EmptyTexts();
   grd8Table->SetRowQuietly(0);
+  record().Gone();
   return true;
 }

@@ -8,7 +8,7 @@
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
-#include "shell/Editing.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 // Sub-tab "Exception Codes": the master list of exception codes with their type and an optional service charge.
@@ -18,13 +18,13 @@ class ExceptionCodes : public SubPage {
  public:
   explicit ExceptionCodes(frmTabulon& shell);
 
-  QString GridKey() const override { return "8 exceptions"; }
   void ConfigureGrid() override;
   void LoadGrid() override;
   bool Add() override;
   bool Update() override;
   bool Delete() override;
   bool Clear() override;
+  void CompareAgain() override { form_.CompareAgain(); }
 
   // Takes label and box of the charge away on a site without the web service.
   void ShowServiceCharge();
@@ -42,22 +42,21 @@ class ExceptionCodes : public SubPage {
   QString DescriptionOf(const QString& code) const;
 
  private:
-  enum Column { Marker, Code, Type, Description, ServiceCharge };
-
   void BuildControls();
   void ConnectControls();
   void grd8Table_SelChange();
-  void ShowType(const QString& type);
-  QString CellOf(const QString& code, int column) const;
+  void HideCharge();
+  int RowOf(const QString& code) const;
+  QString CellOf(const QString& code, const QString& database) const;
 
+  void EmptyTexts();
+  void TrimEntry();
   bool TypeIsChosen();
   bool EntryIsValid(const QString& code, const QString& description);
   QString InsertStatement(const QString& code, const QString& description) const;
   // Row of the code, 0 when the grid does not hold it, none when a row above it has the description already.
   std::optional<int> RowToUpdate(const QString& code, const QString& description);
-  bool IsUnchanged(int row) const;
   QString UpdateStatement(const QString& code, const QString& description) const;
-  void WriteBack(int row);
 
   TextBox* const txt8Code = new TextBox(this, "txt8Code", 3);
   TextBox* const txt8Description = new TextBox(this, "txt8Description", 50);
@@ -65,5 +64,5 @@ class ExceptionCodes : public SubPage {
   QLabel* const lbl8ServiceCharge = Form::Label(this, "lbl8ServiceCharge", "Service Charge:");
   TextBox* const txt8ServiceCharge = new TextBox(this, "txt8ServiceCharge", 6);
   Grid* const grd8Table = new Grid(this, "grd8Table", 5);
-  FieldList fields_;
+  GridForm form_{grd8Table, record()};
 };

@@ -22,6 +22,7 @@ constexpr int UsualRows = 18;  // of the grid, heading included
 ExceptionGroups::ExceptionGroups(frmTabulon& shell, ExceptionCodes& codes, ValidExceptions& valid)
     : SubPage(shell), codes_(codes), valid_(valid) {
   BuildControls();
+  form_.Shows({"EXCEPTION_CODE", "Exception", 3000}).Shows({"EXCEPTION_CODE_DESC+", "Description", 6000});
   connect(cmb8AccessGroup, &CodeComboBox::Click, this, &ExceptionGroups::cmb8AccessGroup_Click);
   connect(grd8dTable, &Grid::SelChange, this, &ExceptionGroups::grd8dTable_SelChange);
   connect(grd8dTable, &Grid::BeforeSort, this, [] { gbSkipGridEvents = true; });
@@ -114,23 +115,16 @@ void ExceptionGroups::grd8dTable_SelChange() {
 // --- Add, Delete, Clear ---
 
 bool ExceptionGroups::Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    if (cmb8AccessGroup->Code().isEmpty()) {
-      Refuse("Please enter a Valid Access Group.", MessageStyle::Warning, cmb8AccessGroup);
-      return;
-    }
-    if (cmb8dException->Code().isEmpty()) {
-      Refuse("Please enter a Valid Exception.", MessageStyle::Warning, cmb8dException);
-      return;
-    }
+  return Procedure("frmTabulon.Exception_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    if (cmb8AccessGroup->Code().isEmpty())
+      return Refuse("Please enter a Valid Access Group.", MessageStyle::Warning, cmb8AccessGroup);
     const QString code = cmb8dException->Code();
+    if (code.isEmpty()) return Refuse("Please enter a Valid Exception.", MessageStyle::Warning, cmb8dException);
     if (grd8dTable->FindRow(code, Code) > 0) {
       Tell("This record already exists", MessageStyle::Warning);
       // Boxes of another sub-tab, and the focus goes there too; the sub-tab in front stays.
       codes_.EmptyAndFocusCode();
-      return;
+      return false;
     }
     ExecuteInTransaction("INSERT INTO " + Sql::Table(Table) + " (ACCESS_GROUP, EXCEPTION_CODE ) VALUES(" +
                              Sql::Plain(cmb8AccessGroup->Code()) + ", " + Sql::Plain(code) + ")",
@@ -138,33 +132,33 @@ bool ExceptionGroups::Add() {
     PopulateGrid8dTable();
     grd8dTable->SetRow(grd8dTable->FindRow(code, Code));
     Tell("Record Added", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool ExceptionGroups::Delete() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Delete", this);
-  procedure.OnFailure(DeleteFailureText).Run([&] {
-    const bool none = cmb8dException->Code().isEmpty() || cmb8AccessGroup->Code().isEmpty();
+  return Procedure("frmTabulon.Exception_Delete", this).OnFailure(DeleteFailureText).Answers([&] {
     const QString code = cmb8dException->Code();
-    if (none || code.isEmpty() || grd8dTable->FindRow(code, Code) == 0) {
-      // The focus goes to the message of another sub-tab.
-      Tell("Please select a valid record from the table.", none ? MessageStyle::Warning : MessageStyle::Stop);
-      valid_.FocusMessage();
-      return;
-    }
-    if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return;
+    const bool none = code.isEmpty() || cmb8AccessGroup->Code().isEmpty();
+    if (none || grd8dTable->FindRow(code, Code) == 0)
+      return RefuseRow(none ? MessageStyle::Warning : MessageStyle::Stop);
+    if (!Confirm(this, Texts::DeleteQuestion)) return false;
     // The failure line names another table; the log readers know it so.
-    ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + " WHERE ACCESS_GROUP = " +
-                             Sql::Plain(cmb8AccessGroup->Code()) + " AND EXCEPTION_CODE = " + Sql::Plain(code),
-                         "***** SQL error on OSTANA.ID_ACCESS_GROUP (DELETE) *****");
+    if (ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + " WHERE ACCESS_GROUP = " +
+                                 Sql::Plain(cmb8AccessGroup->Code()) + " AND EXCEPTION_CODE = " + Sql::Plain(code),
+                             "***** SQL error on OSTANA.ID_ACCESS_GROUP (DELETE) *****") == 0)
+      return RefuseRow(MessageStyle::Stop);
     PopulateGrid8dTable();
     Tell("Record Deleted", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
+}
+
+// The focus goes to the message of another sub-tab.
+bool ExceptionGroups::RefuseRow(int style) {
+  Tell(Texts::NoSuchRow, style);
+  valid_.FocusMessage();
+  return false;
 }
 
 bool ExceptionGroups::Clear() {

@@ -2,6 +2,7 @@
 
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 class ExceptionCodes;
@@ -16,11 +17,10 @@ class ExceptionGroups : public SubPage {
   // Two of its messages send the focus to a box of another sub-tab.
   ExceptionGroups(frmTabulon& shell, ExceptionCodes& codes, ValidExceptions& valid);
 
-  QString GridKey() const override { return "8 group"; }
+  void ConfigureGrid() override { form_.Shape(); }
   ButtonCondition Condition() const override;
   void LoadGrid() override { PopulateGrid8dTable(); }
   bool Add() override;
-  bool Update() override { return false; }
   bool Delete() override;
   bool Clear() override;
 
@@ -33,6 +33,7 @@ class ExceptionGroups : public SubPage {
   void PopulateGrid8dTable();
   // Empty rows up to the grid's usual size, behind the records.
   void Pad();
+  bool RefuseRow(int style);
   void cmb8AccessGroup_Click();
   void grd8dTable_SelChange();
 
@@ -42,4 +43,5 @@ class ExceptionGroups : public SubPage {
   CodeComboBox* const cmb8AccessGroup = new CodeComboBox(this, "cmb8AccessGroup");
   CodeComboBox* const cmb8dException = new CodeComboBox(this, "cmb8dException");
   Grid* const grd8dTable = new Grid(this, "grd8dTable", 3);
+  GridForm form_{grd8dTable, record()};
 };

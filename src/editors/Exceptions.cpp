@@ -136,7 +136,7 @@ void Exceptions::sstab8Exception_Click(SubTab left) {
         return EnterIso();
     }
   });
-  CurrentRecord().Settled();
+  Front().CompareAgain();
   gbSkipGridEvents = false;
 }
 

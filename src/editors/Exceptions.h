@@ -27,7 +27,6 @@ class Exceptions : public TabPage {
   bool Exception_Delete() { return Front().Delete(); }
   bool Exception_Clear() { return Front().Clear(); }
 
-  QString GridKey() const override { return Front().GridKey(); }
   Record& CurrentRecord() override { return Front().CurrentRecord(); }
   ButtonCondition Condition() const override { return Front().Condition(); }
   void ConfigureGrid() override { Front().ConfigureGrid(); }

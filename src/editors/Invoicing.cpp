@@ -24,9 +24,6 @@ TabPage& Invoicing::Current() const {
   return *rates_;
 }
 
-QString Invoicing::GridKey() const {
-  return Current().GridKey();
-}
 ButtonCondition Invoicing::Condition() const {
   return Current().Condition();
 }
@@ -66,30 +63,24 @@ void Invoicing::sstab7invoicing_Click() {
     shell().EnableButtons(gstrButtonMode);
     shell().buttonState();
   });
-  CurrentRecord().Settled();
 }
 
 bool Invoicing::Invoicing_Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Invoicing_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] { done = OnBillingRates() ? billing_->Add() : rates_->Add(); });
-  return done;
+  return Procedure("frmTabulon.Invoicing_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    return OnBillingRates() ? billing_->Add() : rates_->Add();
+  });
 }
 
 bool Invoicing::Invoicing_Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Invoicing_Update", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    done = OnBillingRates() ? billing_->Update() : rates_->Update();
+  return Procedure("frmTabulon.Invoicing_Update", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    return OnBillingRates() ? billing_->Update() : rates_->Update();
   });
-  return done;
 }
 
 bool Invoicing::Invoicing_Delete() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Invoicing_Delete", this);
-  procedure.OnFailure(DeleteFailureText).Run([&] { done = OnBillingRates() ? billing_->Delete() : rates_->Delete(); });
-  return done;
+  return Procedure("frmTabulon.Invoicing_Delete", this).OnFailure(DeleteFailureText).Answers([&] {
+    return OnBillingRates() ? billing_->Delete() : rates_->Delete();
+  });
 }
 
 bool Invoicing::Invoicing_Clear() {

@@ -21,7 +21,6 @@ class Invoicing : public TabPage {
   bool Invoicing_Delete();
   bool Invoicing_Clear();
 
-  QString GridKey() const override;
   Record& CurrentRecord() override { return Current().CurrentRecord(); }
   ButtonCondition Condition() const override;
   void ConfigureGrid() override;

@@ -5,7 +5,6 @@
 #include "core/SqlText.h"
 #include "editors/ExceptionCodes.h"
 #include "platform/controls/FormLayout.h"
-#include "shell/Editing.h"
 #include "shell/GridTable.h"
 #include "shell/Messages.h"
 #include "shell/NumericFields.h"
@@ -24,9 +23,12 @@ QString IsoDescription() {
 
 IsoRejects::IsoRejects(frmTabulon& shell, const ExceptionCodes& codes) : SubPage(shell), codes_(codes) {
   BuildControls();
+  form_.Shows({"EXCEPTION_CODE", "Code", 1000})
+      .Shows({"EXCEPTION_CODE_DESC+", "Description", 3020})
+      .Shows({"ISO_UNFILLED_DESC+", "ISO Reject Code", 5000});
   connect(cmb8RejectType, &CodeComboBox::Click, this, &IsoRejects::cmb8RejectType_Click);
   connect(cmb8ISOMessage, &CodeComboBox::Click, this,
-          [this] { CompareWithRow(record(), cmb8ISOMessage->Text(), grd8ISO, IsoReject); });
+          [this] { form_.Compare("ISO_UNFILLED_DESC+", cmb8ISOMessage->Text()); });
   connect(grd8ISO, &Grid::SelChange, this, &IsoRejects::grd8ISO_SelChange);
   KeepRowOnSort(grd8ISO);
 }
@@ -60,6 +62,12 @@ void IsoRejects::LoadGrid() {
            });
 }
 
+void IsoRejects::CompareAgain() {
+  const int row = grd8ISO->Row();
+  const QString message = cmb8ISOMessage->Text();
+  record().Compared(row > 0 ? message != grd8ISO->Text(row, IsoReject) : !message.trimmed().isEmpty());
+}
+
 void IsoRejects::Reset() {
   cmb8RejectType->SetIndex(0);
   txt8RejectTypeCode->SetText({});
@@ -88,7 +96,7 @@ void IsoRejects::grd8ISO_SelChange() {
   txt8RejectTypeCode->SetText(code);
   if (!cmb8RejectType->SetCode(code)) cmb8RejectType->SetIndex(0);
   cmb8ISOMessage->SetText(grd8ISO->Text(row, IsoReject));
-  record().Settled();
+  record().Shown();
 }
 
 void IsoRejects::cmb8RejectType_Click() {
@@ -103,7 +111,7 @@ void IsoRejects::cmb8RejectType_Click() {
     }
     const QString code = cmb8RejectType->Code();
     txt8RejectTypeCode->SetText(code);
-    CompareWithRow(record(), code, grd8ISO, Code);
+    form_.Compare("EXCEPTION_CODE", code);
     const int row = grd8ISO->FindRow(code, Code);
     if (row > 0) {
       if (!gbSkipGridEvents) grd8ISO->SetRow(row);
@@ -133,17 +141,15 @@ bool IsoRejects::IsoMessageIsNoNumber(const QString& words) {
 // --- Add ---
 
 bool IsoRejects::Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    if (!EntryIsValid()) return;
+  return Procedure("frmTabulon.Exception_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    if (!EntryIsValid()) return false;
     const QString code = txt8RejectTypeCode->Text();
     if (grd8ISO->FindRow(code, Code) > 0) {
       Tell("This record already exists", MessageStyle::Warning);
       grd8ISO->SetRowQuietly(0);
       shell().cmdClear_Click();
       cmb8RejectType->setFocus();
-      return;
+      return false;
     }
     const QString number = IsoUnfilled();
     ExecuteInTransaction("INSERT INTO " + Sql::Table(Table) + " (EXCEPTION_CODE, ISO_UNFILLED) VALUES(" +
@@ -152,9 +158,8 @@ bool IsoRejects::Add() {
     LoadDataInGrid();
     grd8ISO->SetRow(grd8ISO->FindRow(code, Code));
     Tell("Record Added", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool IsoRejects::EntryIsValid() {
@@ -168,32 +173,25 @@ bool IsoRejects::EntryIsValid() {
 // --- Update ---
 
 bool IsoRejects::Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Update", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    if (!RecordIsChosen()) return;
+  return Procedure("frmTabulon.Exception_Update", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    if (!RecordIsChosen()) return false;
     const QString code = txt8RejectTypeCode->Text();
     const int row = grd8ISO->FindRow(code, Code);
-    if (row > 0 && grd8ISO->Text(row, IsoReject) == cmb8ISOMessage->Text()) {
-      Refuse("Nothing has been changed", MessageStyle::Warning, cmb8RejectType);
-      return;
-    }
-    if (row == 0) {
-      Tell("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop);
-      return;
-    }
+    if (row > 0 && grd8ISO->Text(row, IsoReject) == cmb8ISOMessage->Text())
+      return Refuse("Nothing has been changed", MessageStyle::Warning, cmb8RejectType);
+    if (row == 0) return Refuse(Texts::NoSuchCode, MessageStyle::Stop, nullptr);
     Transaction transaction(gclsOF->Connection());
     const QString number = IsoUnfilled();
-    Execute(
+    const qint64 updated = Execute(
         "UPDATE " + Sql::Table(Table) + " SET ISO_UNFILLED = " + number + " WHERE EXCEPTION_CODE = " + Sql::Plain(code),
         "***** SQL error on OSTANA.ID_EXCEPTION_ISO (UPDATE) *****");
     transaction.Commit();
+    if (updated == 0) return Refuse(Texts::NoSuchCode, MessageStyle::Stop, nullptr);
     grd8ISO->SetText(row, IsoReject, cmb8ISOMessage->Text());
     Tell("Record Updated", MessageStyle::Information);
     cmb8RejectType->setFocus();
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool IsoRejects::RecordIsChosen() {
@@ -207,39 +205,29 @@ bool IsoRejects::RecordIsChosen() {
 // --- Delete and Clear ---
 
 bool IsoRejects::Delete() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Delete", this);
-  procedure.OnFailure(DeleteFailureText).Run([&] {
-    if (cmb8ISOMessage->Text().isEmpty()) {
-      Tell("Please choose a valid record to be deleted", MessageStyle::Warning);
-      return;
-    }
+  return Procedure("frmTabulon.Exception_Delete", this).OnFailure(DeleteFailureText).Answers([&] {
+    if (cmb8ISOMessage->Text().isEmpty())
+      return Refuse("Please choose a valid record to be deleted", MessageStyle::Warning, nullptr);
     const bool blank = cmb8ISOMessage->Text().trimmed().isEmpty();
-    if (blank || cmb8RejectType->IsEmptyOrNone() || grd8ISO->Row() == 0) {
-      Tell("Please choose a valid record to be Deleted", MessageStyle::Warning);
-      return;
-    }
+    if (blank || cmb8RejectType->IsEmptyOrNone() || grd8ISO->Row() == 0)
+      return Refuse("Please choose a valid record to be Deleted", MessageStyle::Warning, nullptr);
     const QString code = txt8RejectTypeCode->Text();
-    if (grd8ISO->FindRow(code, Code) == 0) {
-      Tell("Please select a valid record from the table.", MessageStyle::Stop);
-      return;
-    }
-    if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return;
-    ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + " WHERE EXCEPTION_CODE = " + Sql::Plain(code),
-                         "***** SQL error on OSTANA.ID_EXCEPTION_ISO (DELETE) *****");
+    if (grd8ISO->FindRow(code, Code) == 0) return Refuse(Texts::NoSuchRow, MessageStyle::Stop, nullptr);
+    if (!Confirm(this, Texts::DeleteQuestion)) return false;
+    if (ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + " WHERE EXCEPTION_CODE = " + Sql::Plain(code),
+                             "***** SQL error on OSTANA.ID_EXCEPTION_ISO (DELETE) *****") == 0)
+      return Refuse(Texts::NoSuchRow, MessageStyle::Stop, nullptr);
     LoadDataInGrid();
     shell().cmdClear_Click();
     Tell("Record Deleted", MessageStyle::Information);
     cmb8RejectType->setFocus();
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool IsoRejects::Clear() {
-  cmb8RejectType->SetIndex(0);
-  txt8RejectTypeCode->SetText({});
-  EmptyIsoMessage();
+  Reset();
   grd8ISO->SetRowQuietly(0);
+  record().Gone();
   return true;
 }

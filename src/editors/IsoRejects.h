@@ -4,6 +4,7 @@
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 class ExceptionCodes;
@@ -16,13 +17,14 @@ class IsoRejects : public SubPage {
  public:
   IsoRejects(frmTabulon& shell, const ExceptionCodes& codes);
 
-  QString GridKey() const override { return "8 iso"; }
+  void ConfigureGrid() override { form_.Shape(); }
   ButtonCondition Condition() const override { return {false, false, false, true}; }
   void LoadGrid() override;
   bool Add() override;
   bool Update() override;
   bool Delete() override;
   bool Clear() override;
+  void CompareAgain() override;
 
   // As the tab is entered: nothing chosen.
   void Reset();
@@ -54,4 +56,5 @@ class IsoRejects : public SubPage {
 
   TextBox* const txt8RejectTypeCode = new TextBox(this, "txt8RejectTypeCode");
   Grid* const grd8ISO = new Grid(this, "grd8ISO", 4);
+  GridForm form_{grd8ISO, record()};
 };

@@ -30,11 +30,10 @@ MethodPage::MethodPage(frmTabulon& shell, const MethodTable& method)
       method_(method),
       code_(new TextBox(this, method.codeBox, 1)),
       description_(new TextBox(this, method.descriptionBox, method.descriptionLimit)),
-      grid_(new Grid(this, method.grid, FirstFlag + static_cast<int>(method.flags.size()))) {
+      grid_(new Grid(this, method.grid, 3 + static_cast<int>(method.flags.size()))),
+      form_(grid_, record()) {
   BuildControls();
   ConnectControls();
-  fields_.Add(code_, Code, Trim::BothUpper).Add(description_, Description);
-  for (size_t flag = 0; flag < pairs_.size(); ++flag) fields_.Add(pairs_[flag], ColumnOf(flag));
 }
 
 void MethodPage::BuildControls() {
@@ -55,10 +54,12 @@ void MethodPage::BuildControls() {
 void MethodPage::ConnectControls() {
   // The rule of method M goes before the test for a change.
   if (method_.mailIsAlwaysActive) connect(code_, &TextBox::Change, this, &MethodPage::LockMailActive);
-  WatchField(record(), code_, grid_, Code);
-  WatchField(record(), description_, grid_, Description);
-  for (size_t flag = 0; flag < pairs_.size(); ++flag)
-    connect(pairs_[flag], &OptionGroup::Click, this, [this, flag](int element) { FlagClicked(flag, element); });
+  form_.Edits(code_, {method_.codeColumn, "Code", 1000}, Trim::BothUpper)
+      .Edits(description_, {method_.codeColumn + "_DESC+", "Description", method_.descriptionTwips});
+  for (size_t flag = 0; flag < pairs_.size(); ++flag) {
+    const MethodFlag& told = method_.flags[flag];
+    form_.Edits(pairs_[flag], {told.column, told.heading, 1000, told.hidden});
+  }
   connect(grid_, &Grid::SelChange, this, &MethodPage::SelChange);
   KeepRowOnSort(grid_);
 }
@@ -70,18 +71,7 @@ void MethodPage::LockMailActive() {
   active->SetEnabled(!mail);
 }
 
-void MethodPage::FlagClicked(size_t flag, int element) {
-  gstrErrorMessage.clear();
-  const QString cell = grid_->Row() > 0 ? grid_->Text(grid_->Row(), ColumnOf(flag)) : QString();
-  // A "Y" that is switched to No does not count, an empty cell left on No does.
-  record().Compared((element == Yes && cell.isEmpty()) || (element == No && cell != "Y"));
-}
-
 // --- Entering and selecting ---
-
-QString MethodPage::GridKey() const {
-  return method_.gridKey;
-}
 
 void MethodPage::Enter() {
   if (!method_.buttonMode.isEmpty()) gstrButtonMode = method_.buttonMode;
@@ -92,57 +82,53 @@ void MethodPage::Enter() {
 }
 
 void MethodPage::LoadGrid() {
-  TabPage::LoadGrid();
-  for (int row = 1; row < grid_->Rows(); ++row)
-    for (size_t flag = 0; flag < pairs_.size(); ++flag)
-      if (grid_->Text(row, ColumnOf(flag)) != "Y") grid_->SetText(row, ColumnOf(flag), {});
+  form_.Load("SELECT   * FROM " + Sql::Table(method_.table) + " ORDER BY " + method_.codeColumn,
+             "***** SQL error on OSTANA." + method_.table + " (Select) *****");
+  for (const MethodFlag& flag : method_.flags) {
+    const int column = form_.ColumnOf(flag.column);
+    for (int row = 1; row < grid_->Rows(); ++row)
+      if (grid_->Text(row, column) != "Y") grid_->SetText(row, column, {});
+  }
 }
 
 void MethodPage::SelectFirstRow() {
-  if (grid_->Rows() < 2) return fields_.Clear();
-  grid_->SetRowQuietly(1);
-  gbSkipGridEvents = false;
-  SelChange();
+  if (!form_.SelectFirstRow([this] { SelChange(); })) form_.Clear();
 }
 
 void MethodPage::SelChange() {
   const int row = grid_->Row();
   if (gbSkipGridEvents || row == 0) return;
-  fields_.FillFromRow(*grid_, row);
+  form_.ShowRow(row);
   // A row that says otherwise does not unlock it.
   if (method_.mailIsAlwaysActive) LockMailActive();
-  record().Settled();
 }
 
-void MethodPage::TrimEntry() {
-  const FillingFields filling;  // a record that was changed stays so whatever is trimmed
-  fields_.TrimAll();
+int MethodPage::RowOf(const QString& code) const {
+  return grid_->FindRow(code, form_.ColumnOf(method_.codeColumn));
 }
 
 // --- Add ---
 
 bool MethodPage::Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Delivery_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    TrimEntry();
+  return Procedure("frmTabulon.Delivery_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    form_.TrimAll();
     const QString code = code_->Text(), description = description_->Text();
-    if (!EntryIsNew(code, description)) return;
+    if (!EntryIsNew(code, description)) return false;
     Execute(InsertStatement(code, description), "***** SQL error on OSTANA." + method_.table + " (INSERT INTO) *****");
     LoadDataInGrid();
-    grid_->SetRowQuietly(grid_->FindRow(code, Code));
+    grid_->SetRowQuietly(RowOf(code));
     Tell("Record Added", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool MethodPage::EntryIsNew(const QString& code, const QString& description) {
   if (code.isEmpty()) return Refuse("Please enter a Valid Code.", MessageStyle::Warning, code_);
   if (description.isEmpty()) return Refuse("Please enter a Valid Description.", MessageStyle::Warning, description_);
   const QString exists = "This record already exists";
-  if (grid_->FindRow(code, Code) > 0) return Refuse(exists, MessageStyle::Warning, code_);
-  return grid_->FindRow(description, Description) == 0 || Refuse(exists, MessageStyle::Warning, description_);
+  if (RowOf(code) > 0) return Refuse(exists, MessageStyle::Warning, code_);
+  return grid_->FindRow(description, form_.ColumnOf(method_.codeColumn + "_DESC+")) == 0 ||
+         Refuse(exists, MessageStyle::Warning, description_);
 }
 
 QString MethodPage::InsertStatement(const QString& code, const QString& description) const {
@@ -162,33 +148,26 @@ QString MethodPage::InsertStatement(const QString& code, const QString& descript
 // --- Update and Clear ---
 
 bool MethodPage::Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Delivery_Update", this);
-  procedure
+  return Procedure("frmTabulon.Delivery_Update", this)
       .OnFailure([](const AdoError& error) {
         return error.Number() == AdoNumber::ConstraintBroken
                    ? QString("An error occurred while updating the record.  Please try again.")
                    : gstrErrorMessage;
       })
-      .Run([&] {
+      .Answers([&] {
         // The code goes first: it may lock "Active", which is read for the statement. Unlike Add, an empty description
         // is taken and an unchanged record is written.
-        TrimEntry();
+        form_.TrimAll();
         const QString code = code_->Text(), description = description_->Text();
-        const int row = grid_->FindRow(code, Code);
-        if (row == 0) {
-          Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop,
-                 code_);
-          return;
-        }
-        ExecuteInTransaction(UpdateStatement(code, description),
-                             "***** SQL error on OSTANA." + method_.table + " (UPDATE) *****");
-        fields_.WriteRow(*grid_, row);
+        const int row = RowOf(code);
+        if (row == 0 || ExecuteInTransaction(UpdateStatement(code, description),
+                                             "***** SQL error on OSTANA." + method_.table + " (UPDATE) *****") == 0)
+          return Refuse(Texts::NoSuchCode, MessageStyle::Stop, code_);
+        form_.WriteRow(row);
         Tell("Record Updated", MessageStyle::Information);
         code_->setFocus();
-        done = true;
+        return true;
       });
-  return done;
 }
 
 QString MethodPage::UpdateStatement(const QString& code, const QString& description) const {
@@ -201,7 +180,7 @@ QString MethodPage::UpdateStatement(const QString& code, const QString& descript
 }
 
 bool MethodPage::Clear() {
-  fields_.Clear();
+  form_.Clear();
   grid_->SetRowQuietly(0);
   code_->setFocus();
   return true;

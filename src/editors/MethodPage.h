@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "shell/Editing.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 class Grid;
@@ -18,29 +18,24 @@ class MethodPage : public SubPage {
   // `method` lives as long as the program.
   MethodPage(frmTabulon& shell, const MethodTable& method);
 
-  QString GridKey() const override;
   ButtonCondition Condition() const override { return {.add = true, .update = true, .remove = false}; }
+  void ConfigureGrid() override { form_.Shape(); }
   // A stored "N" is an empty cell.
   void LoadGrid() override;
   void Enter() override;
   bool Add() override;
   bool Update() override;
-  bool Delete() override { return false; }
   bool Clear() override;
 
  private:
-  enum Column { Marker, Code, Description, FirstFlag };
-
   void BuildControls();
   void ConnectControls();
   void SelectFirstRow();
   void SelChange();
   // While the code is M, "Active" stands on Yes and is locked.
   void LockMailActive();
-  void FlagClicked(size_t flag, int element);
-  int ColumnOf(size_t flag) const { return FirstFlag + static_cast<int>(flag); }
+  int RowOf(const QString& code) const;
 
-  void TrimEntry();
   bool EntryIsNew(const QString& code, const QString& description);
   QString InsertStatement(const QString& code, const QString& description) const;
   QString UpdateStatement(const QString& code, const QString& description) const;
@@ -50,5 +45,5 @@ class MethodPage : public SubPage {
   TextBox* const description_;
   std::vector<OptionGroup*> pairs_;  // in the order of the table's flags
   Grid* const grid_;
-  FieldList fields_;
+  GridForm form_;
 };

@@ -9,16 +9,18 @@ struct MethodFlag {
   QString option;
   QString caption;
   QString column;
+  QString heading;      // of the grid's column, 1000 twips wide
+  bool hidden = false;  // in the grid
 };
 
 // What one table of methods has of its own: names, limits, and the words of its statements. Every table has a
 // one-character code as key, a description in each language, an address that nobody edits, and one to three flags.
 struct MethodTable {
-  QString gridKey;
   QString grid;
   QString codeBox;
   QString descriptionBox;
   int descriptionLimit;
+  int descriptionTwips;    // in the grid
   QString accessibleName;  // of the grid
   QString table;
   QString codeColumn;               // "..._DESC" and "..._ADDR" begin with it

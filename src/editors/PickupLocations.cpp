@@ -4,7 +4,6 @@
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "shell/FindLibrary.h"
-#include "shell/GridTable.h"
 #include "shell/Lists.h"
 #include "shell/Messages.h"
 #include "shell/Procedure.h"
@@ -49,12 +48,12 @@ QString LocationDeleteFailureText(const AdoError& error) {
 
 PickupLocations::PickupLocations(frmTabulon& shell) : SubPage(shell) {
   BuildControls();
+  form_.Edits(txt5dLibrarySymbol, {"LIBRARY_SYMBOL", "Library Symbol", 1800})
+      .Edits(txt5dCode, {"PICKUP_LOCATION", "Code", 700}, Trim::BothUpper)
+      .Edits(txt5dILSCode, {"PICKUP_LOCATION_ILS", "ILS Code", 1800})
+      .Edits(txt5dDeliverySystemCode, {"DELIVERY_SYSTEM_CODE", "Delivery Code", 1500})
+      .Edits(txt5dDescription, {"PICKUP_LOCATION_DESC+", "Description", 4000});
   ConnectControls();
-  fields_.Add(txt5dLibrarySymbol, LibrarySymbol)
-      .Add(txt5dCode, Code, Trim::BothUpper)
-      .Add(txt5dILSCode, IlsCode)
-      .Add(txt5dDeliverySystemCode, DeliveryCode)
-      .Add(txt5dDescription, Description);
 }
 
 void PickupLocations::BuildControls() {
@@ -74,11 +73,6 @@ void PickupLocations::BuildControls() {
 }
 
 void PickupLocations::ConnectControls() {
-  WatchField(record(), txt5dLibrarySymbol, grd5dTable, LibrarySymbol);
-  WatchField(record(), txt5dCode, grd5dTable, Code);
-  WatchField(record(), txt5dILSCode, grd5dTable, IlsCode);
-  WatchField(record(), txt5dDeliverySystemCode, grd5dTable, DeliveryCode);
-  WatchField(record(), txt5dDescription, grd5dTable, Description);
   connect(cmb5dSelectLibrarySymbol, &CodeComboBox::Click, this, &PickupLocations::cmb5dSelectLibrarySymbol_Click);
   connect(cmd5dFindLibrary, &QPushButton::clicked, this, &PickupLocations::cmd5dFindLibrary_Click);
   connect(grd5dTable, &Grid::SelChange, this, &PickupLocations::grd5dTable_SelChange);
@@ -110,19 +104,13 @@ void PickupLocations::SetPickupLocationList() {
 }
 
 void PickupLocations::LoadGrid() {
-  const QString description = "PICKUP_LOCATION_DESC" + gclsOF->LanguageSuffix();
   const QString symbol = cmb5dSelectLibrarySymbol->Code();
   const QString chosen = symbol.isEmpty() ? QString() : "AND L.LIBRARY_SYMBOL = " + Sql::National(symbol) + " ";
-  FillGrid(*grd5dTable,
-           "SELECT   P.LIBRARY_ID, P.PICKUP_LOCATION, P." + description +
-               ", P.PICKUP_LOCATION_ILS, P.DELIVERY_SYSTEM_CODE, L.LIBRARY_SYMBOL FROM " + Sql::Table(Table) + " P, " +
-               Sql::Table("ID_LIBRARY") + " L WHERE    L.LIBRARY_ID = P.LIBRARY_ID " + chosen +
-               "ORDER BY L.LIBRARY_SYMBOL, P.PICKUP_LOCATION",
-           "***** SQL error on OSTANA.ID_PICKUP_LOCATION (Select)*****", [&](Recordset& rows) {
-             return QStringList{Value(rows, "LIBRARY_SYMBOL"), Value(rows, "PICKUP_LOCATION"),
-                                Value(rows, "PICKUP_LOCATION_ILS"), Value(rows, "DELIVERY_SYSTEM_CODE"),
-                                Value(rows, description)};
-           });
+  form_.Load("SELECT   P.LIBRARY_ID, P.PICKUP_LOCATION, P.PICKUP_LOCATION_DESC" + gclsOF->LanguageSuffix() +
+                 ", P.PICKUP_LOCATION_ILS, P.DELIVERY_SYSTEM_CODE, L.LIBRARY_SYMBOL FROM " + Sql::Table(Table) +
+                 " P, " + Sql::Table("ID_LIBRARY") + " L WHERE    L.LIBRARY_ID = P.LIBRARY_ID " + chosen +
+                 "ORDER BY L.LIBRARY_SYMBOL, P.PICKUP_LOCATION",
+             "***** SQL error on OSTANA.ID_PICKUP_LOCATION (Select)*****");
 }
 
 void PickupLocations::cmb5dSelectLibrarySymbol_Click() {
@@ -132,10 +120,7 @@ void PickupLocations::cmb5dSelectLibrarySymbol_Click() {
 }
 
 void PickupLocations::SelectFirstRow() {
-  record().Settled();
-  if (grd5dTable->Rows() < 2) return fields_.Clear();
-  grd5dTable->SetRowQuietly(1);
-  ShowRow();
+  if (!form_.SelectFirstRow([this] { ShowRow(); })) form_.Clear();
 }
 
 void PickupLocations::grd5dTable_SelChange() {
@@ -143,9 +128,12 @@ void PickupLocations::grd5dTable_SelChange() {
 }
 
 void PickupLocations::ShowRow() {
-  if (grd5dTable->Row() == 0) return;
-  fields_.FillFromRow(*grd5dTable, grd5dTable->Row());
-  record().Settled();
+  if (grd5dTable->Row() > 0) form_.ShowRow(grd5dTable->Row());
+}
+
+int PickupLocations::RowOnShow() const {
+  return grd5dTable->FindRow({{form_.ColumnOf("LIBRARY_SYMBOL"), txt5dLibrarySymbol->Text()},
+                              {form_.ColumnOf("PICKUP_LOCATION"), txt5dCode->Text()}});
 }
 
 void PickupLocations::cmd5dFindLibrary_Click() {
@@ -162,28 +150,20 @@ void PickupLocations::cmd5dFindLibrary_Click() {
 // --- Add ---
 
 bool PickupLocations::Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Delivery_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
+  return Procedure("frmTabulon.Delivery_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
     qint32 libraryId = 0;
-    if (!EntryIsValid(libraryId) || !EntryIsNew(libraryId)) return;
+    if (!EntryIsValid(libraryId) || !EntryIsNew(libraryId)) return false;
     Execute(InsertStatement(libraryId), "***** SQL error on OSTANA.ID_PICKUP_LOCATION(Insert)*****");
     LoadDataInGrid();
-    grd5dTable->SetRowQuietly(grd5dTable->FindRow({{LibrarySymbol, txt5dLibrarySymbol->Text()},
-                                                   {Code, txt5dCode->Text()},
-                                                   {Description, txt5dDescription->Text()}}));
+    grd5dTable->SetRowQuietly(RowOnShow());
     Tell("Pickup Location Added", MessageStyle::Information);
     txt5dDescription->setFocus();
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool PickupLocations::EntryIsValid(qint32& libraryId) {
-  {
-    const FillingFields filling;  // a record that was changed stays so whatever is trimmed
-    fields_.TrimAll();
-  }
+  form_.TrimAll();
   if (txt5dCode->Text().isEmpty())
     return Refuse("Please enter a pickup location code.", MessageStyle::Warning, txt5dCode);
   if (txt5dDescription->Text().isEmpty())
@@ -230,9 +210,8 @@ QString PickupLocations::InsertStatement(qint32 libraryId) const {
 // --- Update ---
 
 bool PickupLocations::Update() {
-  bool done = false, inUse = false;
-  Procedure procedure("frmTabulon.Delivery_Update", this);
-  procedure
+  bool inUse = false;
+  return Procedure("frmTabulon.Delivery_Update", this)
       .OnFailure([&](const AdoError& error) {
         inUse = RefusalOf(error) == Refusal::InUse;
         return UpdateFailureText(error);
@@ -241,8 +220,7 @@ bool PickupLocations::Update() {
       .Finally([&] {
         if (inUse) ShowRow();
       })
-      .Run([&] { done = WriteUpdate(); });
-  return done;
+      .Answers([&] { return WriteUpdate(); });
 }
 
 bool PickupLocations::WriteUpdate() {
@@ -250,21 +228,21 @@ bool PickupLocations::WriteUpdate() {
   if (!EntryIsValid(libraryId)) return false;
   const int row = grd5dTable->Row();
   if (row == 0) return Refuse("Please select a Pickup Location.", MessageStyle::Warning, txt5dCode);
-  if (fields_.EqualsRow(*grd5dTable, row)) return Refuse("Nothing has been changed.", MessageStyle::Warning, txt5dCode);
+  if (form_.EqualsRow(row)) return Refuse("Nothing has been changed.", MessageStyle::Warning, txt5dCode);
   // The library of the row may have gone or been renamed since the grid was loaded.
-  if (!gclsOF->FindLibraryId(grd5dTable->Text(row, LibrarySymbol), oldLibraryId))
+  if (!gclsOF->FindLibraryId(form_.Cell(row, "LIBRARY_SYMBOL"), oldLibraryId))
     return Refuse("Please enter a Valid Library Symbol.", MessageStyle::Warning, txt5dLibrarySymbol);
-  Execute(UpdateStatement(libraryId, oldLibraryId), "***** SQL error on ID_PICKUP_LOCATION (Update) *****");
+  if (Execute(UpdateStatement(libraryId, oldLibraryId), "***** SQL error on ID_PICKUP_LOCATION (Update) *****") == 0)
+    return Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt5dCode);
   LoadDataInGrid();
   Tell("Location updated", MessageStyle::Information);
-  grd5dTable->SetRowQuietly(
-      grd5dTable->FindRow({{LibrarySymbol, txt5dLibrarySymbol->Text()}, {Code, txt5dCode->Text()}}));
+  grd5dTable->SetRowQuietly(RowOnShow());
   txt5dCode->setFocus();
   return true;
 }
 
 QString PickupLocations::UpdateStatement(qint32 libraryId, qint32 oldLibraryId) const {
-  const QString oldCode = grd5dTable->Text(grd5dTable->Row(), Code).trimmed();
+  const QString oldCode = form_.Cell(grd5dTable->Row(), "PICKUP_LOCATION").trimmed();
   return "UPDATE " + Sql::Table(Table) + " SET LIBRARY_ID = " + Sql::Number(libraryId) +
          ", PICKUP_LOCATION = " + Sql::National(txt5dCode->Text()) + ", PICKUP_LOCATION_DESC" +
          gclsOF->LanguageSuffix() + " = " + Sql::National(txt5dDescription->Text()) +
@@ -275,35 +253,29 @@ QString PickupLocations::UpdateStatement(qint32 libraryId, qint32 oldLibraryId) 
 // --- Delete and Clear ---
 
 bool PickupLocations::Delete() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Delivery_Delete", this);
-  procedure.OnFailure(LocationDeleteFailureText).Run([&] {
+  return Procedure("frmTabulon.Delivery_Delete", this).OnFailure(LocationDeleteFailureText).Answers([&] {
+    const Record::Filling trimming(record());
     const QString code = txt5dCode->TrimUpperInPlace();
-    if (code.isEmpty()) {
-      Refuse("Please select a Pickup Location.", MessageStyle::Warning, txt5dCode);
-      return;
-    }
-    if (Tell("Are you sure you wish to Delete this location?", MessageStyle::Question) != MessageAnswer::Yes) return;
+    if (code.isEmpty()) return Refuse("Please select a Pickup Location.", MessageStyle::Warning, txt5dCode);
+    if (!Confirm(this, "Are you sure you wish to Delete this location?")) return false;
     qint32 libraryId = 0;
-    if (!gclsOF->FindLibraryId(txt5dLibrarySymbol->Text(), libraryId)) {
-      Refuse("This is not a valid Library Symbol.", MessageStyle::Warning, txt5dLibrarySymbol);
-      return;
-    }
-    ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + " WHERE LIBRARY_ID = " + Sql::Number(libraryId) +
-                             " AND PICKUP_LOCATION = " + Sql::National(code),
-                         "***** SQL error on OSTANA.ID_PICKUP_LOCATION (DELETE) *****");
+    if (!gclsOF->FindLibraryId(txt5dLibrarySymbol->Text(), libraryId))
+      return Refuse("This is not a valid Library Symbol.", MessageStyle::Warning, txt5dLibrarySymbol);
+    if (ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + " WHERE LIBRARY_ID = " + Sql::Number(libraryId) +
+                                 " AND PICKUP_LOCATION = " + Sql::National(code),
+                             "***** SQL error on OSTANA.ID_PICKUP_LOCATION (DELETE) *****") == 0)
+      return Refuse(Texts::NothingDeleted, MessageStyle::Warning, txt5dCode);
     grd5dTable->SetRowQuietly(0);
     LoadDataInGrid();
     shell().cmdClear_Click();
     Tell("Location Deleted", MessageStyle::Information);
     txt5dCode->setFocus();
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool PickupLocations::Clear() {
-  fields_.Clear();
+  form_.Clear();
   grd5dTable->SetRowQuietly(0);
   txt5dCode->setFocus();
   return true;

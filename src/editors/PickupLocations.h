@@ -4,7 +4,7 @@
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
-#include "shell/Editing.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 class AdoError;
@@ -17,7 +17,7 @@ class PickupLocations : public SubPage {
  public:
   explicit PickupLocations(frmTabulon& shell);
 
-  QString GridKey() const override { return "5 d"; }
+  void ConfigureGrid() override { form_.Shape(); }
   // The rows of the library chosen in the list, or all.
   void LoadGrid() override;
   void Enter() override;
@@ -27,13 +27,13 @@ class PickupLocations : public SubPage {
   bool Clear() override;
 
  private:
-  enum Column { Marker, LibrarySymbol, Code, IlsCode, DeliveryCode, Description };
-
   void BuildControls();
   void ConnectControls();
   void SetPickupLocationList();
   void SelectFirstRow();
   void ShowRow();
+  // The grid's row of the library and code in the boxes; 0 when there is none.
+  int RowOnShow() const;
   void grd5dTable_SelChange();
   void cmb5dSelectLibrarySymbol_Click();
   void cmd5dFindLibrary_Click();
@@ -57,5 +57,5 @@ class PickupLocations : public SubPage {
   TextBox* const txt5dDeliverySystemCode = new TextBox(this, "txt5dDeliverySystemCode", 10);
   CodeComboBox* const cmb5dSelectLibrarySymbol = new CodeComboBox(this, "cmb5dSelectLibrarySymbol");
   Grid* const grd5dTable = new Grid(this, "grd5dTable", 6);
-  FieldList fields_;
+  GridForm form_{grd5dTable, record()};
 };

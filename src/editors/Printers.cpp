@@ -23,9 +23,7 @@ void Printers::BuildControls() {
 }
 
 void Printers::ConnectControls() {
-  fields_.Add(txt3Printer, Printer).Add(txt3Device, Device);
-  WatchField(record(), txt3Printer, grd3Printer, Printer);
-  WatchField(record(), txt3Device, grd3Printer, Device);
+  form_.Edits(txt3Printer, {"PRINTER", "Printer Name", 2000}).Edits(txt3Device, {"DEVICE", "Device", 5620});
   PassFocusOn(txt3Device, cmd3Select);
   connect(cmd3Select, &QPushButton::clicked, this, &Printers::cmd3Select_Click);
   connect(grd3Printer, &Grid::SelChange, this, &Printers::grd3Printer_SelChange);
@@ -36,25 +34,22 @@ void Printers::Printers_Tab() {
   Procedure procedure("frmTabulon.Printers_Tab", this);
   procedure.Run([this] {
     gstrButtonMode = "F";
-    fields_.Clear();
+    form_.Clear();
     ConfigureGrdTable();
     LoadDataInGrid();
     shell().EnableButtons(gstrButtonMode);
-    if (grd3Printer->Rows() > 1) {
-      grd3Printer->SetRowQuietly(1);
-      gbSkipGridEvents = false;
-      grd3Printer_SelChange();
-    }
+    form_.SelectFirstRow([this] { grd3Printer_SelChange(); });
     txt3Printer->setFocus();
   });
 }
 
+void Printers::LoadGrid() {
+  form_.Load("SELECT   * FROM " + Sql::Table("ID_PRINTER"), "***** SQL error on OSTANA.ID_PRINTER (Select) *****");
+}
+
 void Printers::grd3Printer_SelChange() {
   const int row = grd3Printer->Row();
-  if (gbSkipGridEvents || row == 0) return;
-  fields_.FillFromRow(*grd3Printer, row);
-  record().Settled();
-  txt3Printer->setFocus();
+  if (!gbSkipGridEvents && row > 0) form_.ShowRow(row);
 }
 
 void Printers::cmd3Select_Click() {
@@ -76,69 +71,58 @@ void Printers::cmd3Select_Click() {
 // --- Add ---
 
 bool Printers::Printers_Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Printers_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    fields_.TrimAll();
+  return Procedure("frmTabulon.Printers_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    form_.TrimAll();
     const QString printer = txt3Printer->Text();
-    if (printer.isEmpty()) {
-      Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt3Printer);
-      return;
-    }
-    if (grd3Printer->FindRow(printer, Printer) > 0) {
-      Refuse("This record already exists", MessageStyle::Warning, txt3Printer);
-      return;
-    }
+    if (printer.isEmpty()) return Refuse("Please enter a Valid Code.", MessageStyle::Warning, txt3Printer);
+    if (RowOf(printer) > 0) return Refuse("This record already exists", MessageStyle::Warning, txt3Printer);
     // A printer without a device has an empty text there, not NULL.
     ExecuteInTransaction("INSERT INTO " + Sql::Table("ID_PRINTER") + " " + "(PRINTER, DEVICE ) " + "VALUES(" +
                              Sql::Plain(printer) + ", " + Sql::Plain(txt3Device->Text()) + ")",
                          "***** SQL error on OSTANA.ID_PRINTER (INSERT INTO) *****");
     LoadDataInGrid();
-    grd3Printer->SetRowQuietly(grd3Printer->FindRow(printer, Printer));
+    grd3Printer->SetRowQuietly(RowOf(printer));
     Tell("Record Added", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 // --- Update ---
 
 bool Printers::Printers_Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Printers_Update", this);
-  procedure.Run([&] {
-    fields_.TrimAll();
+  return Procedure("frmTabulon.Printers_Update", this).Answers([&] {
+    form_.TrimAll();
     const int row = grd3Printer->Row();
-    if (!IsUpdate(row)) return;
-    gstrOldPrinter = grd3Printer->Text(row, Printer);
-    gstrOldDevice = grd3Printer->Text(row, Device);
-    ExecuteInTransaction(UpdateStatement(), "***** SQL error on OSTANA.ID_PRINTER (UPDATE) *****");
-    fields_.WriteRow(*grd3Printer, row);
+    if (!IsUpdate(row)) return false;
+    gstrOldPrinter = form_.Cell(row, "PRINTER");
+    gstrOldDevice = form_.Cell(row, "DEVICE");
+    if (ExecuteInTransaction(UpdateStatement(), "***** SQL error on OSTANA.ID_PRINTER (UPDATE) *****") == 0)
+      return Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt3Printer);
+    form_.WriteRow(row);
     Tell("Record Updated", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
+}
+
+int Printers::RowOf(const QString& printer) const {
+  return grd3Printer->FindRow(printer, form_.ColumnOf("PRINTER"));
 }
 
 bool Printers::IsUpdate(int row) {
-  if (row > 0 && fields_.EqualsRow(*grd3Printer, row))
-    return Refuse("Nothing has been changed", MessageStyle::Warning, txt3Printer);
+  if (row > 0 && form_.EqualsRow(row)) return Refuse("Nothing has been changed", MessageStyle::Warning, txt3Printer);
   if (txt3Printer->Text().isEmpty())
     return Refuse("Please select a Valid Code to Update.", MessageStyle::Stop, txt3Printer);
   if (txt3Device->Text().isEmpty())
     return Refuse("Please select a Valid Device using the Device button.", MessageStyle::Stop, cmd3Select);
   if (IsNameOfAnotherRow(row))
     return Refuse("This Code already exists. Please select a Valid Code to Update.", MessageStyle::Stop, txt3Printer);
-  if (row == 0)
-    return Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop,
-                  txt3Printer);
-  return true;
+  return row > 0 || Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt3Printer);
 }
 
 bool Printers::IsNameOfAnotherRow(int row) const {
   const QString printer = txt3Printer->Text();
-  if (row > 0 && grd3Printer->Text(row, Printer) == printer) return false;
-  return grd3Printer->FindRow(printer, Printer) > 0;
+  if (row > 0 && form_.Cell(row, "PRINTER") == printer) return false;
+  return RowOf(printer) > 0;
 }
 
 QString Printers::UpdateStatement() const {
@@ -157,37 +141,28 @@ QString Printers::UpdateStatement() const {
 // --- Delete and Clear ---
 
 bool Printers::Printers_Delete() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Printers_Delete", this);
-  procedure.OnFailure(DeleteFailureText).Run([&] {
+  return Procedure("frmTabulon.Printers_Delete", this).OnFailure(DeleteFailureText).Answers([&] {
     const QString printer = txt3Printer->Trimmed();
-    if (printer.isEmpty()) {
-      Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt3Printer);
-      return;
-    }
-    if (grd3Printer->FindRow(printer, Printer) == 0) {
-      Refuse("Please select a valid record from the table.", MessageStyle::Stop, txt3Printer);
-      return;
-    }
-    if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) {
+    if (printer.isEmpty()) return Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt3Printer);
+    if (RowOf(printer) == 0) return Refuse(Texts::NoSuchRow, MessageStyle::Stop, txt3Printer);
+    if (!Confirm(this, Texts::DeleteQuestion)) {
       txt3Printer->setFocus();
-      return;
+      return false;
     }
     // The table's name is misspelt in the failure line that log readers know.
-    ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_PRINTER") + " WHERE PRINTER =" + Sql::Plain(printer),
-                         "***** SQL error on OSTANA.ID_PRIONTERS (DELETE) *****");
+    if (ExecuteInTransaction("DELETE FROM " + Sql::Table("ID_PRINTER") + " WHERE PRINTER =" + Sql::Plain(printer),
+                             "***** SQL error on OSTANA.ID_PRIONTERS (DELETE) *****") == 0)
+      return Refuse(Texts::NoSuchRow, MessageStyle::Stop, txt3Printer);
     LoadDataInGrid();
     Printers_Clear();
     Tell("Record Deleted", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool Printers::Printers_Clear() {
   grd3Printer->SetRowQuietly(0);
-  fields_.Clear();
+  form_.Clear();
   txt3Printer->setFocus();
-  record().Settled();
   return true;
 }

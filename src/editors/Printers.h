@@ -5,7 +5,7 @@
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
-#include "shell/Editing.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 // Tab "Printers": the named printers of the system and the device behind each name.
@@ -21,20 +21,19 @@ class Printers : public TabPage {
   bool Printers_Delete();
   bool Printers_Clear();
 
-  QString GridKey() const override { return "3"; }
+  void ConfigureGrid() override { form_.Shape(); }
+  void LoadGrid() override;
 
  private:
-  enum Column { Marker, Printer, Device };
-
   void BuildControls();
   void ConnectControls();
   void grd3Printer_SelChange();
   void cmd3Select_Click();
   bool IsUpdate(int row);
+  int RowOf(const QString& printer) const;
   bool IsNameOfAnotherRow(int row) const;
   QString UpdateStatement() const;
 
-  FieldList fields_;
   QString gstrOldPrinter, gstrOldDevice;  // of the row that is updated
 
   TextBox* const txt3Printer = new TextBox(this, "txt3Printer", 40);
@@ -42,4 +41,5 @@ class Printers : public TabPage {
   QPushButton* const cmd3Select =
       Form::Button(this, "cmd3Select", "D&evice", "Choose the device in the printer dialog");
   Grid* const grd3Printer = new Grid(this, "grd3Printer", 3);
+  GridForm form_{grd3Printer, record()};
 };

@@ -4,17 +4,37 @@
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 
+namespace {
+
+const GridColumn Marker{"", 400};
+
+std::vector<GridColumn> ExposureColumns(const QString& key, int rateTwips, int keyTwips) {
+  return {Marker,
+          {"Billing Rate", rateTwips},
+          {key, keyTwips},
+          Amount("Flat Fee", 750),
+          Amount("Unit Size", 750),
+          Amount("Free Exp.", 750),
+          Amount("Per Exp.", 750)};
+}
+
+std::vector<GridColumn> SurchargeColumns(const QString& key) {
+  return {Marker, {"Billing Rate", 6200}, {key, 3000}, Amount("Surcharge", 500)};
+}
+
+}  // namespace
+
 const std::vector<RateTable>& RateTable::All() {
   static const std::vector<RateTable> tables = {
       {.caption = "Copyright Comply",
        .kind = RateKind::Copyright,
-       .gridKey = "7 copyright",
+       .columns = {Marker, {"Code", 1000}, Amount("Surcharge", 2000), {"Description", 7520}},
        .table = "ID_COPYRIGHT_CMP",
        .billingList = "",
        .selChange = "grd7CopyRight_SelChange"},
       {.caption = "Delivery Method Rates",
        .kind = RateKind::Exposures,
-       .gridKey = "7 delivery",
+       .columns = ExposureColumns("Delivery Method", 5500, 1500),
        .table = "ID_RATE_DELIVERY",
        .billingList = "ID_BILLING_RATE",
        .insertInto = "ID_RATE_DELIVERY (BILLING_RATE, DELIV_METHOD, UNIT_SIZE, FLAT_FEE_UNIT, FREE_EXPOSURE, "
@@ -27,7 +47,7 @@ const std::vector<RateTable>& RateTable::All() {
        .selChange = "grd7Delivery_SelChange"},
       {.caption = "Document Supply Rates",
        .kind = RateKind::Exposures,
-       .gridKey = "7 supply",
+       .columns = ExposureColumns("Document Supply", 4500, 2300),
        .table = "ID_RATE_SUPPLY",
        .billingList = "ID_BILLING_RATE",
        .insertInto = "ID_RATE_SUPPLY (BILLING_RATE, EXCEPTION_CODE, UNIT_SIZE, FLAT_FEE_UNIT, FREE_EXPOSURE, "
@@ -41,7 +61,7 @@ const std::vector<RateTable>& RateTable::All() {
        .selChange = "grd7Supply_SelChange"},
       {.caption = "Output Format Rates",
        .kind = RateKind::Exposures,
-       .gridKey = "7 output",
+       .columns = ExposureColumns("Output Format", 5500, 1500),
        .table = "ID_RATE_OUTPUT",
        .billingList = "ID_BILLING_RATE",
        .insertInto = "ID_RATE_OUTPUT (BILLING_RATE, OUTPUT_FORMAT, UNIT_SIZE, FLAT_FEE_UNIT, FREE_EXPOSURE, "
@@ -57,7 +77,7 @@ const std::vector<RateTable>& RateTable::All() {
        .clearsOnDuplicate = true},
       {.caption = "Reject Code Rates",
        .kind = RateKind::Surcharge,
-       .gridKey = "7 reject",
+       .columns = SurchargeColumns("Reject Type"),
        .table = "ID_RATE_REJECT",
        .billingList = "ID_DBILLING_RATE",
        .insertInto = "ID_RATE_REJECT (BILLING_RATE, EXCEPTION_CODE, SURCHARGE)",
@@ -70,7 +90,7 @@ const std::vector<RateTable>& RateTable::All() {
        .selChange = "grd7Reject_SelChange"},
       {.caption = "Service Level Rates",
        .kind = RateKind::Surcharge,
-       .gridKey = "7 service",
+       .columns = SurchargeColumns("Service Level"),
        .table = "ID_RATE_SERVICE",
        .billingList = "ID_BILLING_RATE",
        // The small letters reach the database.
@@ -83,7 +103,12 @@ const std::vector<RateTable>& RateTable::All() {
        .selChange = "grd7Service_SelChange"},
       {.caption = "Billing Rate Alias",
        .kind = RateKind::Alias,
-       .gridKey = "7 alias",
+       .columns = {Marker,
+                   {"", 0, true},
+                   {"Supplying Library", 2000},
+                   {"Supplying Unit", 2000},
+                   {"Requesting Library", 2000},
+                   {"New Billing Rate", 2000}},
        .table = "ID_RATE_ALIAS",
        .billingList = "ID_BILLING_RATE",
        .keyCaption = "Supplying Unit:",

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <vector>
 
+#include "shell/GridTable.h"
+
 // The seven rate tables of the tab "Invoicing" as data: what each is called, which inputs it shows, where its second
 // key comes from and how its statements read. One grid and one set of controls serve them all.
 
@@ -29,19 +31,19 @@ struct RateValue {
 struct RateTable {
   QString caption;  // entry of cmb7RateTable
   RateKind kind = RateKind::Copyright;
-  QString gridKey;            // row of the table of grids
-  QString table;              // as failure lines name it
-  QString billingList;        // the table of the billing rates as its failure line names it
-  QString insertInto = {};    // table and columns of the INSERT
-  QString keyColumn = {};     // the key beside BILLING_RATE
-  QString keyCaption = {};    // label of its list
-  QString keyMissing = {};    // told when nothing is chosen from the list
-  QString listTable = {};     // where the list comes from ...
-  QString listFailure = {};   // ... as its failure line names it
-  QString listWhere = {};     // ... and which of its rows belong to this table
-  QString selChange;          // log name of the selection's handler
-  bool nationalKeys = false;  // INSERT and DELETE write the keys as N'...'; UPDATE always does
-  bool keepsComma = false;    // INSERT sends money as typed, whatever the decimal separator is
+  std::vector<GridColumn> columns;  // of grd7Table
+  QString table;                    // as failure lines name it
+  QString billingList;              // the table of the billing rates as its failure line names it
+  QString insertInto = {};          // table and columns of the INSERT
+  QString keyColumn = {};           // the key beside BILLING_RATE
+  QString keyCaption = {};          // label of its list
+  QString keyMissing = {};          // told when nothing is chosen from the list
+  QString listTable = {};           // where the list comes from ...
+  QString listFailure = {};         // ... as its failure line names it
+  QString listWhere = {};           // ... and which of its rows belong to this table
+  QString selChange;                // log name of the selection's handler
+  bool nationalKeys = false;        // INSERT and DELETE write the keys as N'...'; UPDATE always does
+  bool keepsComma = false;          // INSERT sends money as typed, whatever the decimal separator is
   bool clearsOnDuplicate = false;
 
   // In the order of the table of rates behind "(none)".

@@ -73,14 +73,15 @@ void RateTables::ConnectControls() {
   for (TextBox* box : {txt7aUnitSize, txt7aFreeExposures})
     box->SetKeyPress([box](char16_t key) { return FilterNumericKey(key, *box, false, false); }, true);
 
+  const auto touch = [this] {
+    gstrErrorMessage.clear();
+    record().Touched();
+  };
   for (TextBox* box :
        {txt7Code, txt7Description, txt7Surcharge, txt7aFlatFee, txt7aUnitSize, txt7aFreeExposures, txt7aPerExposure})
-    WatchAnyChange(record(), box);
+    connect(box, &TextBox::Change, this, touch);
   for (CodeComboBox* list : {cmb7aBillingRate, cmb7aDeliveryMethod, cmb7RequestingLibrary, cmb7Alias})
-    connect(list, &CodeComboBox::Click, this, [this] {
-      gstrErrorMessage.clear();
-      record().Touched();
-    });
+    connect(list, &CodeComboBox::Click, this, touch);
   connect(cmb7aBillingRate, &CodeComboBox::Click, this, [this] {
     if (Rate() && Rate()->kind == RateKind::Alias)
       Procedure("frmTabulon.cmb7aBillingRate_Click", this).Run([this] { PopulateSupplyingUnit(); });
@@ -115,10 +116,6 @@ TextBox* RateTables::Box(RateBox box) const {
 
 bool RateTables::HasBillingRates() const {
   return Rate() && Rate()->kind != RateKind::Copyright;
-}
-
-QString RateTables::GridKey() const {
-  return Rate() ? Rate()->gridKey : RateTable::All().front().gridKey;
 }
 
 ButtonCondition RateTables::Condition() const {
@@ -163,7 +160,7 @@ void RateTables::FocusFirstInput() {
 }
 
 void RateTables::Reset() {
-  const FillingFields filling;
+  const Record::Filling filling(record());
   cmb7RateTable->Clear();
   cmb7RateTable->AddNone("(none)");
   for (const RateTable& rate : RateTable::All()) cmb7RateTable->Add(rate.caption);
@@ -174,7 +171,7 @@ void RateTables::Reset() {
 }
 
 void RateTables::EmptyInputs() {
-  const FillingFields filling;
+  const Record::Filling filling(record());
   Clear();
   txt7Surcharge->SetText(Numbers::Format(0, MoneyPattern));
 }
@@ -251,7 +248,8 @@ void RateTables::Invoicing_RateTable_Alias() {
 }
 
 void RateTables::ConfigureGrid() {
-  TabPage::ConfigureGrid();
+  const RateTable& rate = Rate() ? *Rate() : RateTable::All().front();
+  ShapeGrid(*grd7Table, {"", "grd7Table", rate.columns});
   ShowInputs();
 }
 
@@ -356,7 +354,7 @@ void RateTables::grd7Table_SelChange() {
   if (gbSkipGridEvents || row == 0 || !rate) return;
   Procedure procedure("frmTabulon." + rate->selChange, this);
   procedure.Run([&] {
-    const FillingFields filling;
+    const Record::Filling filling(record());
     switch (rate->kind) {
       case RateKind::Copyright:
         return ShowCopyRight(row);

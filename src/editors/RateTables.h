@@ -30,7 +30,6 @@ class RateTables : public TabPage {
   bool HasBillingRates() const;
   TextBox* CodeBox() const { return txt7Code; }
 
-  QString GridKey() const override;
   ButtonCondition Condition() const override;
   void ConfigureGrid() override;
   void LoadGrid() override;
@@ -97,7 +96,7 @@ class RateTables : public TabPage {
   bool TellUnchanged(QWidget* focus);
   bool RefuseUnknownCode(QWidget* focus);
   bool MayDelete(int row, QWidget* focus);
-  void DeleteRow(const RateTable& rate, const QString& statement);
+  bool DeleteRow(const RateTable& rate, const QString& statement, QWidget* focus);
   QStringList ValuesAsSql(const RateTable& rate, bool keepsComma) const;
   int RowOfTypical() const;
   int RowOfTypical(const QString& billingRate, const QString& key) const;

@@ -63,7 +63,7 @@ bool RateTables::Delete() {
 }
 
 void RateTables::Clear() {
-  const FillingFields filling;
+  const Record::Filling filling(record());
   const SkipGridEvents skip;
   for (TextBox* box :
        {txt7Code, txt7Description, txt7Surcharge, txt7aFlatFee, txt7aUnitSize, txt7aFreeExposures, txt7aPerExposure})
@@ -112,21 +112,23 @@ bool RateTables::RefuseUnknownCode(QWidget* focus) {
 }
 
 bool RateTables::MayDelete(int row, QWidget* focus) {
-  if (row == 0) return Refuse("Please select a valid record from the table.", MessageStyle::Stop, focus);
-  return Tell(Texts::DeleteQuestion, MessageStyle::Question) == MessageAnswer::Yes;
+  if (row == 0) return Refuse(Texts::NoSuchRow, MessageStyle::Stop, focus);
+  return Confirm(this, Texts::DeleteQuestion);
 }
 
-void RateTables::DeleteRow(const RateTable& rate, const QString& statement) {
-  ExecuteInTransaction(statement, RateSql::FailureLine(rate.table, "DELETE"));
+bool RateTables::DeleteRow(const RateTable& rate, const QString& statement, QWidget* focus) {
+  if (ExecuteInTransaction(statement, RateSql::FailureLine(rate.table, "DELETE")) == 0)
+    return Refuse(Texts::NoSuchRow, MessageStyle::Stop, focus);
   LoadRateTable();
   Tell("Record Deleted", MessageStyle::Information);
+  return true;
 }
 
 // --- Copyright Comply ---
 
 // Add leaves the letters of the description alone; Update and Delete do not.
 void RateTables::TrimCopyright(bool upperDescription) {
-  const FillingFields filling;
+  const Record::Filling filling(record());
   txt7Code->TrimUpperInPlace();
   txt7Surcharge->TrimInPlace();
   if (upperDescription)
@@ -164,8 +166,9 @@ bool RateTables::CopyrightUpdate() {
     return TellUnchanged(txt7Description);
   if (Numbers::IsBlank(surcharge)) surcharge = "0";
   if (row == 0) return RefuseUnknownCode(txt7Code);
-  ExecuteInTransaction(RateSql::CopyrightUpdate(copyrightColumns_, code, description, Sql::WithPoint(surcharge)),
-                       RateSql::FailureLine("ID_COPYRIGHT_CMP", "UPDATE"));
+  if (ExecuteInTransaction(RateSql::CopyrightUpdate(copyrightColumns_, code, description, Sql::WithPoint(surcharge)),
+                           RateSql::FailureLine("ID_COPYRIGHT_CMP", "UPDATE")) == 0)
+    return RefuseUnknownCode(txt7Code);
   grd7Table->SetText(row, Surcharge, Money(surcharge));
   grd7Table->SetText(row, Description, description);
   txt7Surcharge->SetText(Money(surcharge));
@@ -179,8 +182,7 @@ bool RateTables::CopyrightDelete() {
   const QString code = txt7Code->Text();
   if (code.isEmpty()) return Refuse("Please choose a record to be Deleted", MessageStyle::Warning, txt7Code);
   if (!MayDelete(grd7Table->FindRow(code, Code), txt7Code)) return false;
-  DeleteRow(*Rate(), RateSql::CopyrightDelete(copyrightColumns_, code));
-  return true;
+  return DeleteRow(*Rate(), RateSql::CopyrightDelete(copyrightColumns_, code), txt7Code);
 }
 
 // --- The five tables priced by billing rate ---
@@ -238,8 +240,9 @@ bool RateTables::TypicalUpdate(const RateTable& rate) {
   if (row > 0 && RowIsUnchanged(rate, row)) return TellUnchanged(txt7aFlatFee);
   if (row == 0) return RefuseUnknownCode(cmb7aBillingRate);
   const QString billingRate = cmb7aBillingRate->Code(), key = cmb7aDeliveryMethod->Code();
-  ExecuteInTransaction(RateSql::Update(rate, billingRate, key, ValuesAsSql(rate, false)),
-                       RateSql::FailureLine(rate.table, "UPDATE"));
+  if (ExecuteInTransaction(RateSql::Update(rate, billingRate, key, ValuesAsSql(rate, false)),
+                           RateSql::FailureLine(rate.table, "UPDATE")) == 0)
+    return RefuseUnknownCode(cmb7aBillingRate);
   ReloadTypical(billingRate, key);
   Tell("Record Updated", MessageStyle::Information);
   return true;
@@ -249,8 +252,8 @@ bool RateTables::TypicalDelete(const RateTable& rate) {
   for (CodeComboBox* list : {cmb7aBillingRate, cmb7aDeliveryMethod})
     if (NothingChosen(*list)) return Refuse("Please choose a valid record to be Deleted", MessageStyle::Warning, list);
   if (!MayDelete(RowOfTypical(), cmb7aBillingRate)) return false;
-  DeleteRow(rate, RateSql::Delete(rate, cmb7aBillingRate->Code(), cmb7aDeliveryMethod->Code()));
-  return true;
+  return DeleteRow(rate, RateSql::Delete(rate, cmb7aBillingRate->Code(), cmb7aDeliveryMethod->Code()),
+                   cmb7aBillingRate);
 }
 
 // --- Billing Rate Alias ---
@@ -308,7 +311,9 @@ bool RateTables::AliasUpdate() {
   RateSql::AliasKey key;
   if (!FindAliasKey(key)) return false;
   const auto cells = AliasCells();
-  ExecuteInTransaction(RateSql::AliasUpdate(key, cmb7Alias->Code()), RateSql::FailureLine("ID_RATE_ALIAS", "UPDATE"));
+  if (ExecuteInTransaction(RateSql::AliasUpdate(key, cmb7Alias->Code()),
+                           RateSql::FailureLine("ID_RATE_ALIAS", "UPDATE")) == 0)
+    return RefuseUnknownCode(cmb7aBillingRate);
   Invoicing_RateTable_Alias();
   grd7Table->SetRow(grd7Table->FindRow(cells));
   Tell("Record Updated", MessageStyle::Information);
@@ -324,6 +329,5 @@ bool RateTables::AliasDelete() {
   if (!MayDelete(row, cmb7aBillingRate)) return false;
   RateSql::AliasKey key;
   if (!FindAliasKey(key)) return false;
-  DeleteRow(*Rate(), RateSql::AliasDelete(key));
-  return true;
+  return DeleteRow(*Rate(), RateSql::AliasDelete(key), cmb7aBillingRate);
 }

@@ -4,8 +4,6 @@
 #include "core/OstanaFunctions.h"
 #include "core/SqlText.h"
 #include "editors/LibrarySymbol.h"
-#include "shell/Editing.h"
-#include "shell/GridTable.h"
 #include "shell/Messages.h"
 #include "shell/Procedure.h"
 #include "shell/frmTabulon.h"
@@ -47,8 +45,12 @@ void RequestType::BuildControls() {
 }
 
 void RequestType::ConnectControls() {
-  WatchField(record(), txt9Description, grd9RequestType, Description);
-  WatchField(record(), txt9LibrarySymbol, grd9RequestType, Symbol);
+  form_.Shows({"REQUEST_TYPE", "Code", 600})
+      .Edits(txt9Description, {"REQUEST_TYPE_DESC+", "Description", 4000})
+      .Edits(txt9LibrarySymbol, {"LIBRARY_SYMBOL", "Library Symbol", 2500}, Trim::None)
+      .Shows({"", "Customer ID", 2500})
+      .Shows({"INVOICE_FLAG", "Invoice Flag", 1000})
+      .EditsCode(cmb9CustomerID, {"CUSTOMER_ID", "", 0, true, GridForm::Watch::No});
   connect(cmd9FindLibrary, &QPushButton::clicked, this,
           [this] { LibrarySymbol::Find(*txt9LibrarySymbol, this, "frmTabulon.cmd9FindLibrary_Click"); });
   connect(cmb9CustomerID, &CodeComboBox::Click, this, &RequestType::cmb9CustomerID_Click);
@@ -67,27 +69,17 @@ void RequestType::RequestType_Tab() {
     ConfigureGrdTable();
     LoadDataInGrid();
     shell().EnableButtons(gstrButtonMode);
-    if (grd9RequestType->Rows() > 1) {
-      grd9RequestType->SetRowQuietly(1);
-      gbSkipGridEvents = false;
-      grd9RequestType_SelChange();
-    }
+    form_.SelectFirstRow([this] { grd9RequestType_SelChange(); });
     txt9Description->setFocus();
   });
 }
 
 void RequestType::LoadGrid() {
-  const QString description = "REQUEST_TYPE_DESC" + gclsOF->LanguageSuffix();
-  FillGrid(*grd9RequestType, {GridKey(),
-                              // A type without a library is listed as well.
-                              [&] {
-                                return "SELECT L.LIBRARY_SYMBOL, RT.REQUEST_TYPE, RT." + description +
-                                       ", RT.INVOICE_FLAG, RT.CUSTOMER_ID " + "FROM " + Sql::Table("ID_REQUEST_TYPE") +
-                                       " RT LEFT JOIN " + Sql::Table("ID_LIBRARY") +
-                                       " L ON L.LIBRARY_ID = RT.LIBRARY_ID " + "ORDER BY RT.REQUEST_TYPE";
-                              },
-                              "***** SQL error on OSTANA.ID_REQUEST_TYPE (Select) *****",
-                              {"REQUEST_TYPE", description, "LIBRARY_SYMBOL", "", "INVOICE_FLAG", "CUSTOMER_ID"}});
+  // A type without a library is listed as well.
+  form_.Load("SELECT L.LIBRARY_SYMBOL, RT.REQUEST_TYPE, RT.REQUEST_TYPE_DESC" + gclsOF->LanguageSuffix() +
+                 ", RT.INVOICE_FLAG, RT.CUSTOMER_ID " + "FROM " + Sql::Table("ID_REQUEST_TYPE") + " RT LEFT JOIN " +
+                 Sql::Table("ID_LIBRARY") + " L ON L.LIBRARY_ID = RT.LIBRARY_ID " + "ORDER BY RT.REQUEST_TYPE",
+             "***** SQL error on OSTANA.ID_REQUEST_TYPE (Select) *****");
   LoadCustomers();
 }
 
@@ -110,19 +102,9 @@ void RequestType::LoadCustomers() {
 void RequestType::grd9RequestType_SelChange() {
   const int row = grd9RequestType->Row();
   if (gbSkipGridEvents || row == 0) return;
-  {
-    const FillingFields filling;
-    txt9Code->SetText(grd9RequestType->Text(row, Code));
-    txt9LibrarySymbol->SetText(grd9RequestType->Text(row, Symbol));
-    txt9Description->SetText(grd9RequestType->Text(row, Description));
-    const QString customer = grd9RequestType->Text(row, CustomerCode);
-    if (customer.isEmpty())
-      cmb9CustomerID->SetIndex(0);
-    else
-      cmb9CustomerID->Hold(customer);
-    cmb9InvoiceFlag->SetIndex(grd9RequestType->Text(row, InvoiceFlag) == "N" ? 1 : 0);
-  }
-  record().Settled();
+  txt9Code->SetText(grd9RequestType->Text(row, Code));
+  form_.ShowRow(row);
+  cmb9InvoiceFlag->SetIndex(grd9RequestType->Text(row, InvoiceFlag) == "N" ? 1 : 0);
   txt9Description->setFocus();
 }
 
@@ -145,40 +127,27 @@ void RequestType::cmb9CustomerID_Click() {
 // --- Update ---
 
 bool RequestType::RequestType_Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.RequestType_Update", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    txt9Description->TrimInPlace();
+  return Procedure("frmTabulon.RequestType_Update", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    form_.TrimAll();
     const int row = grd9RequestType->Row();
-    if (row > 0 && EqualsRow(row)) {
-      Refuse("Nothing has been changed", MessageStyle::Warning, txt9Description);
-      return;
+    if (row > 0 && form_.EqualsRow(row) && FlagLetter() == grd9RequestType->Text(row, InvoiceFlag))
+      return Refuse("Nothing has been changed", MessageStyle::Warning, txt9Description);
+    {
+      const Record::Filling trimming(record());
+      FindRequestLibraryId();
     }
-    FindRequestLibraryId();
-    if (glngRequestLibraryId_ == -1) {
-      Refuse("Please select a valid library.", MessageStyle::Warning, txt9LibrarySymbol);
-      return;
-    }
-    if (row == 0) {
-      Refuse("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop,
-             txt9Description);
-      return;
-    }
+    if (glngRequestLibraryId_ == -1)
+      return Refuse("Please select a valid library.", MessageStyle::Warning, txt9LibrarySymbol);
+    if (row == 0) return Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt9Description);
     const QString customer = StoredCustomer();
-    ExecuteInTransaction(UpdateStatement(customer), "***** SQL error on OSTANA.ID_REQUEST_TYPE (UPDATE) *****");
+    if (ExecuteInTransaction(UpdateStatement(customer), "***** SQL error on OSTANA.ID_REQUEST_TYPE (UPDATE) *****") ==
+        0)
+      return Refuse(Texts::NoSuchCode, MessageStyle::Stop, txt9Description);
     WriteRow(row, customer);
     Tell("Record Updated", MessageStyle::Information);
     txt9Description->setFocus();
-    done = true;
+    return true;
   });
-  return done;
-}
-
-bool RequestType::EqualsRow(int row) const {
-  return txt9Description->Text() == grd9RequestType->Text(row, Description) &&
-         FlagLetter() == grd9RequestType->Text(row, InvoiceFlag) &&
-         txt9LibrarySymbol->Text() == grd9RequestType->Text(row, Symbol) &&
-         cmb9CustomerID->Code() == grd9RequestType->Text(row, CustomerCode);
 }
 
 void RequestType::FindRequestLibraryId() {
@@ -218,14 +187,8 @@ void RequestType::WriteRow(int row, const QString& customer) {
 
 bool RequestType::RequestType_Clear() {
   grd9RequestType->SetRowQuietly(0);
-  {
-    const FillingFields filling;
-    txt9Code->SetText({});
-    txt9Description->SetText({});
-    txt9LibrarySymbol->SetText({});
-    cmb9InvoiceFlag->SetIndex(-1);
-    cmb9CustomerID->SetIndex(-1);
-  }
-  record().Settled();
+  txt9Code->SetText({});
+  form_.Clear();
+  for (CodeComboBox* list : {cmb9InvoiceFlag, cmb9CustomerID}) list->SetIndex(-1);
   return true;
 }

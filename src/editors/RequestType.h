@@ -6,6 +6,7 @@
 #include "platform/controls/FormLayout.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/TextBox.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 // Tab "Request Type": library, customer id and invoice flag of the request types. The types themselves are the
@@ -20,7 +21,7 @@ class RequestType : public TabPage {
   bool RequestType_Update();
   bool RequestType_Clear();
 
-  QString GridKey() const override { return "9"; }
+  void ConfigureGrid() override { form_.Shape(); }
   void LoadGrid() override;
 
  private:
@@ -36,7 +37,6 @@ class RequestType : public TabPage {
 
   QString FlagLetter() const;
   QString StoredCustomer() const;
-  bool EqualsRow(int row) const;
   void FindRequestLibraryId();
   QString UpdateStatement(const QString& customer) const;
   void WriteRow(int row, const QString& customer);
@@ -50,4 +50,5 @@ class RequestType : public TabPage {
   CodeComboBox* const cmb9CustomerID = new CodeComboBox(this, "cmb9CustomerID");
   CodeComboBox* const cmb9InvoiceFlag = new CodeComboBox(this, "cmb9InvoiceFlag");
   Grid* const grd9RequestType = new Grid(this, "grd9RequestType", 7);
+  GridForm form_{grd9RequestType, record()};
 };

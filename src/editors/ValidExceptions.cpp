@@ -14,6 +14,7 @@ namespace {
 const QString Table = "ID_EXCEPTION_PROCESS";
 const QString Passive = "Passive";  // stored as NULL
 const QString Loan = "LON";         // process type of loans
+const QString InvalidValue = "Please select a valid value.";
 
 void ShowCode(CodeComboBox* box, const QString& code) {
   if (code.isEmpty() || !box->SetCode(code)) box->SetIndex(0);
@@ -23,6 +24,12 @@ void ShowCode(CodeComboBox* box, const QString& code) {
 
 ValidExceptions::ValidExceptions(frmTabulon& shell, const ExceptionCodes& codes) : SubPage(shell), codes_(codes) {
   BuildControls();
+  form_.Shows({"EXCEPTION_CODE", "Type", 750})
+      .Shows({"PROCESS_TYPE", "Process", 750})
+      .Edits(txt8Message1, {"MESSAGE", "Message", 3000})
+      .Shows({"REROUTE", "Reroute", 1190})
+      .Shows({"DELIVERY", "Delivery", 1260})
+      .Edits(txtExceptionNote, {"EXCEPTION_NOTE", "Exception Note", 3500});
   ConnectControls();
   cmb8DeliverySource->Add("Messaging Method", "M");
   cmb8DeliverySource->Add("Delivery Method", "D");
@@ -61,12 +68,9 @@ void ValidExceptions::ConnectControls() {
   connect(cmb8DocumentSupply, &CodeComboBox::Click, this, &ValidExceptions::cmb8DocumentSupply_Click);
   connect(cmb8ProcessType, &CodeComboBox::Click, this, &ValidExceptions::cmb8ProcessType_Click);
   connect(cmdMoreNotes, &QPushButton::clicked, this, &ValidExceptions::cmdMoreNotes_Click);
-  WatchField(record(), txt8Message1, grd8Document, Message);
-  WatchField(record(), txtExceptionNote, grd8Document, Note);
-  connect(cmb8Reroute1, &CodeComboBox::Click, this,
-          [this] { CompareWithRow(record(), OnScreen().at(Reroute - 1), grd8Document, Reroute); });
+  connect(cmb8Reroute1, &CodeComboBox::Click, this, [this] { form_.Compare("REROUTE", OnScreen().at(Reroute - 1)); });
   connect(cmb8DeliverySource, &CodeComboBox::Click, this,
-          [this] { CompareWithRow(record(), cmb8DeliverySource->Code(), grd8Document, Delivery); });
+          [this] { form_.Compare("DELIVERY", cmb8DeliverySource->Code()); });
   connect(txtExceptionNote, &MemoBox::GotFocus, this, &ValidExceptions::NoteTouched);
   connect(txtExceptionNote, &MemoBox::KeyPress, this, [this](bool& refuse) {
     refuse = mbSeveralNotes_;
@@ -77,11 +81,31 @@ void ValidExceptions::ConnectControls() {
 // --- Entering, selecting and choosing ---
 
 void ValidExceptions::Reset() {
-  const FillingFields filling;
-  for (CodeComboBox* box : {cmb8DocumentSupply, cmb8ProcessType, cmb8Reroute1, cmb8DeliverySource}) box->SetIndex(0);
-  for (TextBox* box : {txt8ProcessCode, txt8ProcessType, txt8Type}) box->SetText({});
-  for (MemoBox* box : {txt8Message1, txtExceptionNote}) box->SetText({});
+  cmb8DocumentSupply->SetIndex(0);
+  txt8ProcessCode->SetText({});
+  EmptyRest();
+}
+
+void ValidExceptions::EmptyRest() {
+  for (CodeComboBox* box : {cmb8ProcessType, cmb8Reroute1, cmb8DeliverySource}) box->SetIndex(0);
+  for (TextBox* box : {txt8Type, txt8ProcessType}) box->SetText({});
+  form_.Clear();
+  // Without a pair there is nothing that the notes could be held back for.
   SwitchNotes(0, {});
+}
+
+void ValidExceptions::LoadGrid() {
+  form_.Load("SELECT   * FROM " + Sql::Table(Table) + " ORDER BY PROCESS_TYPE, EXCEPTION_CODE",
+             "***** SQL error on OSTANA.ID_EXCEPTION_PROCESS (Select) *****");
+}
+
+// A reject type alone was carried over, or stays after Clear.
+void ValidExceptions::CompareAgain() {
+  const int row = grd8Document->Row();
+  const QStringList cells = OnScreen();
+  const bool entered = !cells.at(Process - 1).isEmpty() || !cells.at(Message - 1).isEmpty() ||
+                       !cells.at(Reroute - 1).isEmpty() || !cells.at(Note - 1).isEmpty();
+  record().Compared(row > 0 ? !IsUnchanged(row) : entered);
 }
 
 void ValidExceptions::FindChoice() {
@@ -98,7 +122,8 @@ void ValidExceptions::grd8Document_SelChange() {
     const int row = grd8Document->Row();
     if (gbSkipGridEvents || row == 0) return;
     FillFromRow(row);
-    record().Settled();
+    // Until the notes are counted the pair may have several.
+    SwitchNotes(2, txt8ProcessType->Text());
     Recordset notes;
     OpenRows(notes,
              " SELECT EXCEPTION_NOTE FROM " + Sql::Table("ID_EXCEPTION_NOTE") +
@@ -112,11 +137,10 @@ void ValidExceptions::grd8Document_SelChange() {
 void ValidExceptions::FillFromRow(int row) {
   // Several rows have the code of this one: none of them may become current while the lists are set.
   const SkipGridEvents skip;
-  const FillingFields filling;
+  form_.ShowRow(row);
   const auto cell = [&](int column) { return grd8Document->Text(row, column); };
   txt8ProcessCode->SetText(cell(Code));
   txt8ProcessType->SetText(cell(Process));
-  txt8Message1->SetText(cell(Message));
   ShowCode(cmb8ProcessType, cell(Process));
   ShowCode(cmb8DocumentSupply, cell(Code));
   txt8Type->SetText(codes_.TypeOf(cell(Code)));
@@ -124,9 +148,11 @@ void ValidExceptions::FillFromRow(int row) {
     cmb8Reroute1->SetIndex(0);
   else
     cmb8Reroute1->SetText(cell(Reroute));
-  txtExceptionNote->SetText(cell(Note));
   // A row without a letter shows no channel rather than that of the row before.
-  if (!cmb8DeliverySource->SetCode(cell(Delivery))) cmb8DeliverySource->SetIndex(-1);
+  if (cell(Delivery).isEmpty())
+    cmb8DeliverySource->SetIndex(-1);
+  else
+    cmb8DeliverySource->Hold(cell(Delivery));
 }
 
 void ValidExceptions::SwitchNotes(qint64 notesOfPair, const QString& process) {
@@ -151,7 +177,7 @@ void ValidExceptions::cmb8DocumentSupply_Click() {
     const ExceptionChoice choice = Choice();
     txt8ProcessCode->SetText(choice.code);
     txt8Type->SetText(codes_.TypeOf(choice.code));
-    CompareWithRow(record(), choice.code, grd8Document, Code);
+    form_.Compare("EXCEPTION_CODE", choice.code);
     const int row = grd8Document->FindRow(choice.code, Code);
     if (row > 0) {
       if (!gbSkipGridEvents) grd8Document->SetRow(row);
@@ -165,7 +191,7 @@ void ValidExceptions::cmb8DocumentSupply_Click() {
 void ValidExceptions::cmb8ProcessType_Click() {
   const QString process = cmb8ProcessType->Code();  // empty on "(none)"
   txt8ProcessType->SetText(process);
-  CompareWithRow(record(), process, grd8Document, Process);
+  form_.Compare("PROCESS_TYPE", process);
 }
 
 // --- Notes ---
@@ -203,16 +229,10 @@ void ValidExceptions::RefreshNote(int row) {
 // --- Add ---
 
 bool ValidExceptions::Add() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Add", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    if (!PairIsValid()) return;
-    txt8Message1->TrimInPlace();
-    if (cmb8Reroute1->IsEmptyOrNone()) {
-      Refuse("Please select a valid value.", MessageStyle::Stop, cmb8Reroute1);
-      return;
-    }
-    txtExceptionNote->TrimInPlace();
+  return Procedure("frmTabulon.Exception_Add", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    if (!PairIsValid()) return false;
+    form_.TrimAll();
+    if (cmb8Reroute1->IsEmptyOrNone()) return Refuse(InvalidValue, MessageStyle::Stop, cmb8Reroute1);
     ExecuteInTransaction(InsertStatement(OnScreen()),
                          "***** SQL error on OSTANA.ID_EXCEPTION_PROCESS (INSERT INTO) *****");
     const QString code = cmb8DocumentSupply->Code(), process = cmb8ProcessType->Code();
@@ -220,9 +240,8 @@ bool ValidExceptions::Add() {
     grd8Document->SetRow(grd8Document->FindRow({{Code, code}, {Process, process}}));
     Tell("Record Added", MessageStyle::Information);
     txt8Message1->setFocus();
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool ValidExceptions::PairIsValid() {
@@ -257,46 +276,37 @@ QString ValidExceptions::InsertStatement(const QStringList& cells) const {
 // --- Update ---
 
 bool ValidExceptions::Update() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Update", this);
-  procedure.OnFailure(Texts::DatabaseError).Run([&] {
-    txt8Message1->TrimInPlace();
+  return Procedure("frmTabulon.Exception_Update", this).OnFailure(Texts::DatabaseError).Answers([&] {
+    {
+      const Record::Filling trimming(record());
+      txt8Message1->TrimInPlace();
+    }
     const int row = grd8Document->Row();
-    if (row > 0 && IsUnchanged(row)) {
-      Refuse("Nothing has been changed", MessageStyle::Warning, txt8Message1);
-      return;
-    }
-    if (cmb8DocumentSupply->Code().isEmpty()) {
-      Tell("Please select a record to Update.", MessageStyle::Stop);
-      return;
-    }
-    if (cmb8ProcessType->Code().isEmpty()) {
-      Refuse("Please select a valid value.", MessageStyle::Stop, cmb8ProcessType);
-      return;
-    }
-    // A pair that is in the table already may keep its missing reroute.
-    if (cmb8Reroute1->IsEmptyOrNone() && RowOfChoice() == 0) {
-      Refuse("Please select a valid value.", MessageStyle::Stop, cmb8Reroute1);
-      return;
-    }
-    if (grd8Document->Rows() == 1) {
-      Tell("This Code Does not exists. Please select a Valid Code to Update.", MessageStyle::Stop);
-      return;
-    }
-    if (row == 0) {
-      Tell("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop);
-      return;
-    }
-    txtExceptionNote->TrimInPlace();
+    if (row > 0 && IsUnchanged(row)) return Refuse("Nothing has been changed", MessageStyle::Warning, txt8Message1);
+    if (!MayUpdate(row)) return false;
+    form_.TrimAll();
     QStringList cells = OnScreen();
-    ExecuteInTransaction(UpdateStatement(cells, row), "***** SQL error on OSTANA.ID_EXCEPTION_PROCESS (UPDATE) *****");
+    if (ExecuteInTransaction(UpdateStatement(cells, row),
+                             "***** SQL error on OSTANA.ID_EXCEPTION_PROCESS (UPDATE) *****") == 0)
+      return Refuse(Texts::NoSuchCode, MessageStyle::Stop, nullptr);
     if (cells.at(Reroute - 1) == Passive) cells[Reroute - 1].clear();
     for (int column = Code; column <= Note; ++column) grd8Document->SetText(row, column, cells.at(column - 1));
     Tell("Record Updated", MessageStyle::Information);
     txt8Message1->setFocus();
-    done = true;
+    return true;
   });
-  return done;
+}
+
+bool ValidExceptions::MayUpdate(int row) {
+  if (cmb8DocumentSupply->Code().isEmpty())
+    return Refuse("Please select a record to Update.", MessageStyle::Stop, nullptr);
+  if (cmb8ProcessType->Code().isEmpty()) return Refuse(InvalidValue, MessageStyle::Stop, cmb8ProcessType);
+  // A pair that is in the table already may keep its missing reroute.
+  if (cmb8Reroute1->IsEmptyOrNone() && RowOfChoice() == 0)
+    return Refuse(InvalidValue, MessageStyle::Stop, cmb8Reroute1);
+  if (grd8Document->Rows() == 1)
+    return Refuse("This Code Does not exists. Please select a Valid Code to Update.", MessageStyle::Stop, nullptr);
+  return row > 0 || Refuse(Texts::NoSuchCode, MessageStyle::Stop, nullptr);
 }
 
 bool ValidExceptions::IsUnchanged(int row) const {
@@ -323,37 +333,25 @@ QString ValidExceptions::WherePairOf(int row) const {
 // --- Delete and Clear ---
 
 bool ValidExceptions::Delete() {
-  bool done = false;
-  Procedure procedure("frmTabulon.Exception_Delete", this);
-  procedure.OnFailure(DeleteFailureText).Run([&] {
+  return Procedure("frmTabulon.Exception_Delete", this).OnFailure(DeleteFailureText).Answers([&] {
     const int row = grd8Document->Row();
     const bool none = cmb8DocumentSupply->Code().isEmpty() || cmb8ProcessType->Code().isEmpty();
     // What is deleted must be what the lists show.
-    const bool shown = row > 0 && grd8Document->Text(row, Code) == cmb8DocumentSupply->Code() &&
-                       grd8Document->Text(row, Process) == cmb8ProcessType->Code();
-    if (none || !shown) {
-      Tell("Please select a valid record from the table.", MessageStyle::Stop);
-      return;
-    }
-    if (Tell(Texts::DeleteQuestion, MessageStyle::Question) != MessageAnswer::Yes) return;
-    ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + WherePairOf(row),
-                         "***** SQL error on OSTANA.ID_EXCEPTION_PROCESS (DELETE) *****");
+    if (none || row == 0 || row != RowOfChoice()) return Refuse(Texts::NoSuchRow, MessageStyle::Stop, nullptr);
+    if (!Confirm(this, Texts::DeleteQuestion)) return false;
+    if (ExecuteInTransaction("DELETE FROM " + Sql::Table(Table) + WherePairOf(row),
+                             "***** SQL error on OSTANA.ID_EXCEPTION_PROCESS (DELETE) *****") == 0)
+      return Refuse(Texts::NoSuchRow, MessageStyle::Stop, nullptr);
     LoadDataInGrid();
     Tell("Record Deleted", MessageStyle::Information);
-    done = true;
+    return true;
   });
-  return done;
 }
 
 bool ValidExceptions::Clear() {
   // The reject type stays as it is, its code goes.
-  const FillingFields filling;
   grd8Document->SetRowQuietly(0);
   if (!cmb8DocumentSupply->IsNone()) txt8ProcessCode->SetText({});
-  for (CodeComboBox* box : {cmb8ProcessType, cmb8Reroute1, cmb8DeliverySource}) box->SetIndex(0);
-  for (TextBox* box : {txt8Type, txt8ProcessType}) box->SetText({});
-  for (MemoBox* box : {txt8Message1, txtExceptionNote}) box->SetText({});
-  // Without a pair there is nothing that the notes could be held back for.
-  SwitchNotes(0, {});
+  EmptyRest();
   return true;
 }

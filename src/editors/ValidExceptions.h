@@ -9,6 +9,7 @@
 #include "platform/controls/Grid.h"
 #include "platform/controls/MemoBox.h"
 #include "platform/controls/TextBox.h"
+#include "shell/GridForm.h"
 #include "shell/TabPage.h"
 
 class ExceptionCodes;
@@ -21,11 +22,13 @@ class ValidExceptions : public SubPage {
  public:
   ValidExceptions(frmTabulon& shell, const ExceptionCodes& codes);
 
-  QString GridKey() const override { return "8 process"; }
+  void ConfigureGrid() override { form_.Shape(); }
+  void LoadGrid() override;
   bool Add() override;
   bool Update() override;
   bool Delete() override;
   bool Clear() override;
+  void CompareAgain() override;
 
   // As the tab is entered: the lists on their first entries, the boxes empty.
   void Reset();
@@ -52,6 +55,9 @@ class ValidExceptions : public SubPage {
   void NoteTouched();
 
   void FillFromRow(int row);
+  // Everything but the reject type and its code.
+  void EmptyRest();
+  bool MayUpdate(int row);
   // The note may be changed here unless the pair has several; a loan has none at all.
   void SwitchNotes(qint64 notesOfPair, const QString& process);
   void RefreshNote(int row);
@@ -78,4 +84,6 @@ class ValidExceptions : public SubPage {
   MemoBox* const txtExceptionNote = new MemoBox(this, "txtExceptionNote", 1000);
   QPushButton* const cmdMoreNotes = Form::Button(this, "cmdMoreNotes", "&More Notes");
   Grid* const grd8Document = new Grid(this, "grd8Document", 7);
+  // The lists and boxes are compared by hand: what is stored of them is not what they show.
+  GridForm form_{grd8Document, record()};
 };

@@ -30,6 +30,7 @@ inline const QString NoAccess = "You do not have access to this function";
 // A row that is not, or no longer, in the table.
 inline const QString NoSuchCode = "This Code does not exist in the table.  Please select a Valid Code to Update.";
 inline const QString NoSuchRow = "Please select a valid record from the table.";
+inline const QString NothingDeleted = "Nothing was deleted.  Make sure you have a valid record selected.";
 inline const QString DeleteQuestion = "Are you sure you wish to Delete this record?";
 }  // namespace Texts
 

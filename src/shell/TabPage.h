@@ -6,7 +6,6 @@
 #include "core/Record.h"
 
 class frmTabulon;
-class Grid;
 
 // Which of the three writing buttons a tab's present condition allows, apart from the user's rights. The menu entries
 // follow unless a page says that they are not touched.
@@ -25,17 +24,13 @@ class TabPage : public QWidget {
  public:
   explicit TabPage(frmTabulon& shell);
 
-  // Key of the layout and rows in force (GridTable.h); empty when there is none.
-  virtual QString GridKey() const { return {}; }
   virtual ButtonCondition Condition() const { return {}; }
-  // The page's part of ConfigureGrdTable and LoadDataInGrid; by default the grid table's row of GridKey.
-  virtual void ConfigureGrid();
-  virtual void LoadGrid();
+  // The page's part of ConfigureGrdTable and LoadDataInGrid.
+  virtual void ConfigureGrid() {}
+  virtual void LoadGrid() {}
   // Both in the frame that all of them have: a failure is told and logged, and the page goes on.
   void ConfigureGrdTable();
   bool LoadDataInGrid();
-  // The grid that GridKey means.
-  Grid* CurrentGrid() const;
   // The record in the fields on show; that of the sub-tab in front where a page has sub-tabs.
   virtual Record& CurrentRecord() { return record_; }
 
@@ -62,6 +57,8 @@ class SubPage : public TabPage {
 
   // The page comes to the front.
   virtual void Enter() {}
+  // Fields that were left as they stood are compared with the rows that were read anew.
+  virtual void CompareAgain() {}
   virtual bool Add() { return false; }
   virtual bool Update() { return false; }
   virtual bool Delete() { return false; }

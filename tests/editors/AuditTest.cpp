@@ -131,9 +131,9 @@ TEST_F(AuditTest, AddOfAFunctionOnASiteOfOneLanguage) {
 
 TEST_F(AuditTest, AddOfAFunctionNamesTheLocationsLanguageColumnsAndFailsWithoutThem) {
   EnterFunctions();
+  Click("opt10Display(0)");
   Type("txt10bCode", "q");
   Type("txt10bDescription", "Queued");
-  Click("opt10Display(0)");
   Prompt().Expect(DatabaseError, 16);
   Click("cmdAdd");
   EXPECT_EQ(Writing(),
@@ -325,6 +325,22 @@ TEST_F(AuditTest, Looks) {
   Picture("audit-locations");
   SelectTab("sstab10Audit", 1);
   Picture("audit-functions");
+}
+
+TEST_F(AuditTest, APairThatWasUnsetShowsTheLetterThatWasStored) {
+  Start();
+  SelectTab("sstabtables", frmTabulon::AuditTab);
+  SelectTab("sstab10Audit", 1);
+  Trigger("mnuOptionsClear");
+  // The languages of this table are named after the other one's, which a site of several languages has not.
+  Type("txt10bCode", "Z");
+  Type("txt10bDescription", "Zed");
+  gcolLanguageCode.clear();
+  Prompt().Expect("Record Added", 64);
+  Click("cmdAdd");
+  EXPECT_EQ(Ask("SELECT STAT_FUNCTION_DISP FROM ID_STAT_FUNCTION WHERE STAT_FUNCTION = 'Z'"), "N");
+  EXPECT_TRUE(IsChecked("opt10Display(1)"));
+  EXPECT_EQ(Text("txt10bCode"), "Z");
 }
 
 }  // namespace

@@ -372,4 +372,19 @@ TEST_F(AutoRejectsTest, AListThatCouldNotBeFilledLosesNoCode) {
   EXPECT_EQ(Writing(), QStringList{"INSERT INTO ID_REJ_CALL_NUMBER VALUES('NEW', 'ONL')"});
 }
 
+TEST_F(AutoRejectsTest, ARefusedUpdateStaysChangedWhateverWasTrimmed) {
+  Another("INSERT INTO ID_REJ_CALL_NUMBER (CALL_NUMBER, EXCEPTION_CODE) VALUES ('ZZ', 'ONL')");
+  EnterList("Call Number");
+  SelectRowOf("grd4AutoReject", "ZZ");
+  // The type differs, the code differs by a blank that is trimmed.
+  Choose("cmb4RejectType", Reject("NOH"));
+  Type("txt4Code", "ZZ ");
+  Another("DELETE FROM ID_REJ_CALL_NUMBER WHERE CALL_NUMBER = 'ZZ'");
+  Prompt().Expect("This Code does not exist in the table.  Please select a Valid Code to Update.", 16);
+  Click("cmdUpdate");
+  EXPECT_TRUE(gbRecordModified);
+  Prompt().Expect(DeleteQuestion, 36, MessageAnswer::Yes).Expect("Please select a valid record from the table.", 16);
+  Click("cmdDelete");
+}
+
 }  // namespace

@@ -580,4 +580,19 @@ TEST_F(CodeTablesTest, ARefusedRightToSearchIsSaidAndChangesNothing) {
   EXPECT_TRUE(gclsOF->CanAdd());
 }
 
+TEST_F(CodeTablesTest, ATableThatCannotBeReadShowsNothingOfTheOneBefore) {
+  Start();
+  Pick("ID_LANGUAGE_CODE");
+  EXPECT_TRUE(IsShown("chk0DefaultLanguage"));
+  Another("ALTER TABLE ID_LIBRARY_CAT RENAME TO ID_AWAY");
+  Prompt()
+      .Expect("***** SQL error on ID_LIBRARY_CAT (Select) *****", 16)
+      .Expect("***** SQL error onID_LIBRARY_CAT (Select) *****", 16);
+  Pick("ID_LIBRARY_CAT");
+  Another("ALTER TABLE ID_AWAY RENAME TO ID_LIBRARY_CAT");
+  for (const char* control : {"chk0DefaultLanguage", "lbl0CurrentLanguage", "cmdAdd", "cmdUpdate", "cmdDelete"})
+    EXPECT_FALSE(IsShown(control)) << control;
+  for (int col = 3; col <= 6; ++col) EXPECT_TRUE(Find<Grid>("grd0TableDesc")->ColHidden(col)) << col;
+}
+
 }  // namespace

@@ -144,4 +144,35 @@ TEST_F(ExceptionsTabTest, ARightThatIsMissingStaysMissingOnEverySubTab) {
   }
 }
 
+TEST_F(ExceptionsTabTest, AnEditThatStandsWhenOneComesBackCountsAgain) {
+  Enter(Valid);
+  SelectRow("grd8Document", 3);
+  Append("txt8Message1", "x");
+  Go(Iso);
+  EXPECT_FALSE(gbRecordModified);
+  Go(Valid);
+  EXPECT_EQ(Text("txt8Message1"), "Alpha requestx");
+  EXPECT_TRUE(gbRecordModified);
+  Prompt()
+      .Expect("A record has been modified.\nDo you wish to apply the updates before continuing?",
+              MessageStyle::Question, MessageAnswer::Yes)
+      .Expect("Record Updated", MessageStyle::Information);
+  SelectTab("sstabtables", frmTabulon::LoansTab);
+  EXPECT_EQ(Ask("SELECT MESSAGE FROM ID_EXCEPTION_PROCESS WHERE PROCESS_TYPE = 'REQ'"), "Alpha requestx");
+}
+
+TEST_F(ExceptionsTabTest, AnEditOfACodeCountsAgainAndClearLeavesNone) {
+  Enter();
+  SelectRowOf("grd8Table", "CCC");
+  Type("txt8Description", "Other");
+  Go(Groups);
+  Go(Codes);
+  EXPECT_EQ(Text("txt8Description"), "Other");
+  EXPECT_TRUE(gbRecordModified);
+  Click("cmdClear");
+  Go(Groups);
+  Go(Codes);
+  EXPECT_FALSE(gbRecordModified);
+}
+
 }  // namespace

@@ -1,3 +1,5 @@
+#include <QTest>
+
 #include "core/ModuleState.h"
 #include "support/Desk.h"
 
@@ -264,6 +266,29 @@ TEST_F(PrintersTest, TheNameTakesFortyCharacters) {
 TEST_F(PrintersTest, Looks) {
   Enter();
   Picture("printers");
+}
+
+TEST_F(PrintersTest, ARefusedUpdateStaysChangedWhateverWasTrimmed) {
+  Another("INSERT INTO ID_PRINTER (PRINTER, DEVICE) VALUES ('Aaa', NULL)");
+  Enter();
+  SelectRowOf("grd3Printer", "Aaa");
+  Type("txt3Printer", "Bbb ");
+  Append("txt3Printer", " ");
+  Prompt().Expect("Please select a Valid Device using the Device button.", 16);
+  Click("cmdUpdate");
+  EXPECT_EQ(Text("txt3Printer"), "Bbb");
+  EXPECT_TRUE(gbRecordModified);
+}
+
+TEST_F(PrintersTest, TheArrowKeysGoOnThroughTheList) {
+  for (const char* name : {"Aaa", "Bbb", "Ccc"})
+    Another(QString("INSERT INTO ID_PRINTER (PRINTER, DEVICE) VALUES ('%1', 'd')").arg(name));
+  Enter();
+  SelectRow("grd3Printer", 1);
+  for (const int row : {2, 3}) {
+    QTest::keyClick(Window()->focusWidget(), Qt::Key_Down);
+    EXPECT_EQ(Row("grd3Printer"), row);
+  }
 }
 
 }  // namespace

@@ -351,4 +351,18 @@ TEST_F(RateRowsTest, AfterAWriteTheRecordIsCurrentAgain) {
   EXPECT_EQ(Text("txt7aFlatFee"), "2.00");
 }
 
+TEST_F(RateRowsTest, ARateThatIsGoneIsNeitherUpdatedNorDeleted) {
+  Another("INSERT INTO ID_RATE_SERVICE (BILLING_RATE, SERVICE_LEVEL, SURCHARGE) VALUES ('C', 'U', 1)");
+  Enter();
+  Pick("Service Level Rates");
+  SelectRowOf("grd7Table", "1.00", 3);
+  Another("DELETE FROM ID_RATE_SERVICE WHERE BILLING_RATE = 'C'");
+  Type("txt7aFlatFee", "2");
+  Prompt().Expect("This Code does not exist in the table. Please select a Valid Code to Update.", 16);
+  Click("cmdUpdate");
+  AnswerDelete(MessageAnswer::Yes);
+  Prompt().Expect("Please select a valid record from the table.", 16);
+  Click("cmdDelete");
+}
+
 }  // namespace

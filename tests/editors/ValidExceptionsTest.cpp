@@ -560,4 +560,39 @@ TEST_F(ValidExceptionsTest, ATextKeepsTheLineEndsOfAnotherProgram) {
   EXPECT_EQ(Ask("SELECT EXCEPTION_NOTE FROM ID_EXCEPTION_PROCESS WHERE PROCESS_TYPE = 'REQ'"), "a\r\nb");
 }
 
+TEST_F(ValidExceptionsTest, AChannelThatIsInNoListIsKept) {
+  Another("UPDATE ID_EXCEPTION_PROCESS SET DELIVERY = 'X' WHERE PROCESS_TYPE = 'REQ'");
+  Enter(Valid);
+  SelectRow("grd8Document", 3);
+  EXPECT_EQ(Text("cmb8DeliverySource"), "X");
+  Type("txt8Message1", "Other");
+  Prompt().Expect("Record Updated", MessageStyle::Information);
+  Click("cmdUpdate");
+  EXPECT_EQ(Ask("SELECT DELIVERY FROM ID_EXCEPTION_PROCESS WHERE PROCESS_TYPE = 'REQ'"), "X");
+}
+
+TEST_F(ValidExceptionsTest, NotesThatCouldNotBeCountedAreLeftToTheDialog) {
+  Enter(Valid);
+  SelectRow("grd8Document", 3);
+  EXPECT_TRUE(IsEnabled("txtExceptionNote"));
+  Another("ALTER TABLE ID_EXCEPTION_NOTE RENAME TO ID_AWAY");
+  Prompt().Expect("***** SQL error on OSTANA.ID_EXCEPTION_NOTE (SELECT) *****", MessageStyle::Stop);
+  SelectRow("grd8Document", 2);
+  Another("ALTER TABLE ID_AWAY RENAME TO ID_EXCEPTION_NOTE");
+  EXPECT_FALSE(IsEnabled("txtExceptionNote"));
+}
+
+TEST_F(ValidExceptionsTest, ARowThatIsGoneIsNeitherUpdatedNorDeleted) {
+  Enter(Valid);
+  SelectRow("grd8Document", 1);
+  Another("DELETE FROM ID_EXCEPTION_PROCESS WHERE PROCESS_TYPE = 'LON'");
+  Type("txt8Message1", "Other");
+  Prompt().Expect("This Code does not exist in the table.  Please select a Valid Code to Update.", MessageStyle::Stop);
+  Click("cmdUpdate");
+  Prompt()
+      .Expect(DeleteQuestion, MessageStyle::Question, MessageAnswer::Yes)
+      .Expect("Please select a valid record from the table.", MessageStyle::Stop);
+  Click("cmdDelete");
+}
+
 }  // namespace
