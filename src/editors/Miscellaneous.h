@@ -22,7 +22,7 @@ class Miscellaneous : public TabPage {
   QPushButton* const cmdPatronMessages = Form::Button(this, "cmdPatronMessages", "&Patron Messages");
   QPushButton* const cmdGeneralMessages = Form::Button(this, "cmdGeneralMessages", "&General Messages");
   QPushButton* const cmdISO18626Connection = Form::Button(this, "cmdISO18626Connection", "IS&O 18626 Connection");
-  QPushButton* const cmdServiceCode = Form::Button(this, "cmdServiceCode", "&Service Code");
+  QPushButton* const cmdServiceCode = Form::Button(this, "cmdServiceCode", "Service Co&de");
   QPushButton* const cmdSuppliedItemType = Form::Button(this, "cmdSuppliedItemType", "Supplied Item &Type");
   QPushButton* const cmd11LevelsOfService = Form::Button(this, "cmd11LevelsOfService", "ISO Le&vels of Service");
   QPushButton* const cmd11Namespace = Form::Button(this, "cmd11Namespace", "ISO &Namespace");

@@ -61,7 +61,7 @@ void PickupLocations::BuildControls() {
   Form::Rows rows(fields);
   rows.Add("lbl5dCode", "C&ode:", txt5dCode);
   rows.Add("lbl5dDescription", "D&escription:", txt5dDescription);
-  rows.Add("lbl5dLibrarySymbol", "Library &Symbol:", txt5dLibrarySymbol, cmd5dFindLibrary);
+  rows.Add("lbl5dLibrarySymbol", "Librar&y Symbol:", txt5dLibrarySymbol, cmd5dFindLibrary);
   rows.Add("lbl5dILSCode", "ILS Code:", txt5dILSCode);
   rows.Add("lbl5dDeliverySystemCode", "Delivery Code:", txt5dDeliverySystemCode);
   rows.Add("lbl5dSelectLibrarySymbol", "Show Pickup Locations from:", cmb5dSelectLibrarySymbol);

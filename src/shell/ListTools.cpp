@@ -11,12 +11,15 @@
 #include "platform/controls/TextBox.h"
 
 ListTools::ListTools(QMainWindow& window, TextBox& field, QLabel& count)
-    : QObject(&window), window_(window), field_(field), count_(count) {
+    : window_(window), field_(field), count_(count) {
   field_.installEventFilter(this);
   connect(&field_, &TextBox::Edited, this, &ListTools::LookFor);
   field_.SetEnterAction([this] { Next(); });
   // A page that comes to the front moves the focus, or one of the rows of tabs has turned.
-  connect(qApp, &QApplication::focusChanged, this, &ListTools::Follow);
+  // The focus goes to nobody where a window is being destroyed, which must not be looked through then.
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (now != nullptr) Follow();
+  });
 }
 
 void ListTools::Follow() {

@@ -58,7 +58,7 @@ void frmLogon::BuildControls() {
   for (TextBox* field : {txtUser, txtPassword}) field->setFixedWidth(Form::FieldWidth(field, 30));
   // A test site and the real one have databases of the same name. Where the file comes from is what tells them apart.
   auto* const lblSite = new ElidedLabel(this);
-  lblSite->setObjectName("lblSite");
+  lblSite->setObjectName("lblSitePath");
   lblSite->setText("Site: " + gclsOF->ApplicationPath());
   auto* const column = Form::Column(this, {lblSite, fields});
   if (SiteStrip::IsSet()) column->insertWidget(0, new SiteStrip(this));

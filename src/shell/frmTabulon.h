@@ -3,6 +3,7 @@
 #include <QMainWindow>
 #include <array>
 #include <functional>
+#include <memory>
 #include <type_traits>
 
 #include "core/CommandLine.h"
@@ -16,6 +17,7 @@ class QLabel;
 class QMenu;
 class QPushButton;
 class QTabWidget;
+class ListTools;
 class TextBox;
 class Procedure;
 
@@ -160,6 +162,7 @@ class frmTabulon : public QMainWindow, public ActivatedForm {
   QPushButton* cmdClose_ = nullptr;
   QMenu* mnuOptions_ = nullptr;
   QLabel* status_ = nullptr;
+  std::unique_ptr<ListTools> listTools_;  // goes before the controls that it looks at
   QLabel* modified_ = nullptr;
   TextBox* find_ = nullptr;
   int tab_ = 0;               // the tab on screen

@@ -226,7 +226,7 @@ void frmTabulon::BuildStatusBar() {
   statusBar()->addPermanentWidget(status_, 1);
   statusBar()->addPermanentWidget(modified_);
   statusBar()->addPermanentWidget(rows);
-  new ListTools(*this, *find_, *rows);
+  listTools_ = std::make_unique<ListTools>(*this, *find_, *rows);
 }
 
 // Under the menu; nothing where the settings name no site.

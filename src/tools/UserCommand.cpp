@@ -28,8 +28,9 @@ std::optional<QString> NewRecord(const CommandArguments& command, const QString&
 // Letters, digits, signs and blanks. Control characters and those that only turn the direction of others would show a
 // name as another one.
 bool IsName(const QString& name) {
-  return std::all_of(name.begin(), name.end(),
-                     [](QChar letter) { return letter.isPrint() && letter.category() != QChar::Other_Format; });
+  return std::all_of(name.begin(), name.end(), [](QChar letter) {
+    return letter.isSurrogate() || (letter.isPrint() && letter.category() != QChar::Other_Format);
+  });
 }
 
 // A name that another program stored may hold anything.

@@ -419,7 +419,10 @@ TEST_F(InvoicingTest, AnEntryAndAToolButtonLeaveTheBoxFirst) {
     EXPECT_EQ(Focus(), "txt7aFlatFee") << entry;
   }
   auto* const bar = Find<QToolBar>("tlbButtons");
-  QWidget* const update = bar->widgetForAction(Find<QAction>("mnuOptionsUpdate"));
+  QWidget* update = nullptr;
+  for (QAction* tool : bar->actions())
+    if (tool->text() == Find<QAction>("mnuOptionsUpdate")->text()) update = bar->widgetForAction(tool);
+  ASSERT_NE(update, nullptr);
   Prompt().Expect("Surcharge: may not be greater than 99.99", 16);
   QTest::mouseClick(update, Qt::LeftButton);
   EXPECT_TRUE(Writing().isEmpty());

@@ -153,7 +153,7 @@ TEST_F(FormLayoutTest, ButtonsAreNotDefaultByThemselves) {
   EXPECT_FALSE(find->autoDefault());
   EXPECT_EQ(find->objectName(), "cmdFind");
   EXPECT_EQ(find->toolTip(), "Looks for a library");
-  EXPECT_GE(Form::Button(&page, "cmdOk", "OK")->minimumWidth(), 80);
+  EXPECT_GE(Form::Button(&page, "cmdOk", "OK")->minimumSizeHint().width(), 80);
 }
 
 TEST(FormTest, PlainCaptionDropsTheMnemonicMark) {

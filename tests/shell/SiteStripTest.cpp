@@ -61,6 +61,8 @@ TEST_F(SiteStripTest, LettersOnALightColourAreBlack) {
 TEST_F(SiteStripTest, AColourThatIsNoneIsTold) {
   Setting("Database", "SiteColour", "red");
   Prompt().ExpectStart("The setting 'SiteColour' in section [Database] of ", 16);
+  // The case goes on where the process has ended.
+  Prompt().Expect("***** SQL error on OSTANA.ID_TABLES (SELECT) *****", 16);
   Start();
   EXPECT_TRUE(ProcessEnded());
 }

@@ -84,7 +84,7 @@ TEST_F(frmLogonTest, TheSiteIsNamedBeforeAPasswordIsTyped) {
   QString shown;
   gLogonDialog = [&shown](QString&, QString&) {
     frmLogon dialog;
-    shown = dialog.findChild<QLabel*>("lblSite")->text();
+    shown = dialog.findChild<QLabel*>("lblSitePath")->text();
     return false;
   };
   Store("ostana.db", "");

@@ -231,7 +231,8 @@ void Desk::Append(const QString& name, const QString& text) {
   if (!box) return;
   Activate(box->window());
   box->setFocus();
-  if (!box->inherits("QLineEdit") || !text.isEmpty()) QTest::keyClick(box, Qt::Key_End, Qt::ControlModifier);
+  if (!text.isEmpty())
+    QTest::keyClick(box, Qt::Key_End, box->inherits("QLineEdit") ? Qt::NoModifier : Qt::ControlModifier);
   for (qsizetype at = 0; at < text.size(); ++at) {
     const QChar letter = text[at];
     if (letter == '\n') {
