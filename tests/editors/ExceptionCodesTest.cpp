@@ -496,7 +496,7 @@ TEST_F(ExceptionCodesTest, ClearLeavesTheType) {
 }
 
 TEST_F(ExceptionCodesTest, NoChargeIsNotAChargeOfZero) {
-  Enter();
+  UseWebService();
   SelectRowOf("grd8Table", "AAA");
   Type("txt8ServiceCharge", "0");
   Prompt().Expect("Record Updated", MessageStyle::Information);
