@@ -7,6 +7,7 @@
 #include "platform/ado/Dialect.h"
 #include "schema/SchemaSql.h"
 #include "schema/SchemaStatements.h"
+#include "schema/SecretColumns.h"
 
 namespace {
 

@@ -1,5 +1,6 @@
 #include "site/HistoryList.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSet>
@@ -14,14 +15,7 @@ namespace {
 
 // --- Reading ---
 
-HistoryValues ValuesOf(const SchemaTable& table, const QString& json) {
-  HistoryValues values;
-  if (json.isEmpty()) return values;
-  const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
-  if (!document.isObject())
-    throw std::runtime_error(
-        ("The history holds what is no record of " + table.name + ": " + json.left(80)).toStdString());
-  const QJsonObject object = document.object();
+void AddMembers(HistoryValues& values, const SchemaTable& table, const QJsonObject& object) {
   for (auto member = object.begin(); member != object.end(); ++member) {
     const std::vector<SchemaColumn> known = Content::KnownColumns(table, {member.key()});
     if (known.empty()) continue;  // a column that other programs know
@@ -29,7 +23,36 @@ HistoryValues ValuesOf(const SchemaTable& table, const QString& json) {
     value.secret = member.value().isBool();
     if (member.value().isString()) value.value = Content::Canonical(known.front(), member.value().toString());
   }
+}
+
+// An object, or an array of objects with some of the columns each.
+HistoryValues ValuesOf(const SchemaTable& table, const QString& json) {
+  HistoryValues values;
+  if (json.isEmpty()) return values;
+  const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
+  if (document.isNull())
+    throw std::runtime_error(
+        ("The history holds what is no record of " + table.name + ": " + json.left(80)).toStdString());
+  AddMembers(values, table, document.object());
+  const QJsonArray parts = document.array();
+  for (const QJsonValue& part : parts) AddMembers(values, table, part.toObject());
   return values;
+}
+
+// Without what a record may hold beyond what it tells: columns that are NULL in a whole row, or did not change.
+void KeepTold(HistoryChange& change) {
+  if (change.kind != HistoryChange::Changed) {
+    for (HistoryValues* values : {&change.before, &change.after})
+      std::erase_if(*values, [](const auto& value) { return value.second.IsNull(); });
+    return;
+  }
+  for (auto before = change.before.begin(); before != change.before.end();) {
+    const auto after = change.after.find(before->first);
+    const bool same = after != change.after.end() && !before->second.secret && !after->second.secret &&
+                      before->second.value == after->second.value;
+    if (same) change.after.erase(after);
+    before = same ? change.before.erase(before) : std::next(before);
+  }
 }
 
 HistoryChange::Kind KindOf(const QString& letter) {
@@ -44,8 +67,10 @@ const QString ChangeColumns =
 std::optional<HistoryChange> ChangeOf(const QStringList& row) {
   const SchemaTable* const table = SchemaModel::Get().Find(row[2]);
   if (!table) return std::nullopt;
-  return HistoryChange{row[0].toInt(),           row[1].toInt(),          table, row[3], KindOf(row[4]),
+  HistoryChange change{row[0].toInt(),           row[1].toInt(),          table, row[3], KindOf(row[4]),
                        ValuesOf(*table, row[5]), ValuesOf(*table, row[6])};
+  KeepTold(change);
+  return change;
 }
 
 std::vector<HistoryChange> Changes(Connection& connection, const QString& where) {
@@ -159,7 +184,7 @@ std::vector<HistoryTransaction> HistoryList::Since(Connection& connection, const
                               QString::number(change.id));
   std::vector<int> ids;
   for (const HistoryChange& each : changes)
-    if (each.transaction != 0) ids.push_back(each.transaction);
+    if (each.transaction > 0) ids.push_back(each.transaction);
   std::sort(ids.begin(), ids.end());
   ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
   return Read(connection, ids);

@@ -41,14 +41,14 @@ struct HistoryTransaction {
 };
 
 struct HistoryFilter {
-  QString from;  // moments, both included; may be the beginning of one
-  QString to;
-  QString user;
-  QStringList tables;
-  std::optional<QString> key;  // History::KeyText of a row of the one table that is named
-  QString text;                // stands in a value
-  int before = 0;              // transactions older than this one
-  int most = 100;              // transactions
+  QString from = {};  // moments, both included; may be the beginning of one
+  QString to = {};
+  QString user = {};
+  QStringList tables = {};
+  std::optional<QString> key = {};  // History::KeyText of a row of the one table that is named
+  QString text = {};                // stands in a value
+  int before = 0;                   // transactions older than this one
+  int most = 100;                   // transactions
 };
 
 namespace HistoryList {

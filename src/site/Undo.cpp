@@ -6,6 +6,7 @@
 #include "schema/ChangeRunner.h"
 #include "schema/History.h"
 #include "schema/SchemaSql.h"
+#include "schema/SecretColumns.h"
 
 namespace {
 
@@ -32,6 +33,17 @@ QString WhereOf(const Connection& connection, const SchemaTable& table, const st
   return conditions.contains(QString()) ? QString() : " WHERE " + conditions.join(" OR ");
 }
 
+QString KeyOf(const TableDifference& difference, const Row& row) {
+  Row key;
+  for (const size_t position : difference.Key()) key.push_back(row[position]);
+  return History::KeyText(key);
+}
+
+HistoryValue Told(const SchemaColumn& column, const Cell& cell) {
+  if (cell && NamesSecretColumn(column.name)) return {std::nullopt, true};
+  return {cell, false};
+}
+
 QString By(const HistoryTransaction& transaction) {
   return QStringLiteral("transaction %1 of %2 (UTC) by %3")
       .arg(transaction.id)
@@ -55,7 +67,7 @@ Undo::Undo(Connection& connection, const std::vector<int>& ids, bool keepSecrets
   std::sort(changes.begin(), changes.end(), [](const auto* one, const auto* other) { return one->id > other->id; });
   for (const HistoryChange* change : changes) {
     if (rewind.TakeBack(*change)) continue;
-    refusals_ += Told(*rewind.Failure(), transactions);
+    refusals_ += Refused(*rewind.Failure(), transactions);
     return;
   }
   TellUnknown(rewind);
@@ -83,7 +95,7 @@ void Undo::Read(const std::vector<HistoryTransaction>& transactions) {
   }
 }
 
-QString Undo::Told(const Rewind::Mismatch& mismatch, const std::vector<HistoryTransaction>& undone) {
+QString Undo::Refused(const Rewind::Mismatch& mismatch, const std::vector<HistoryTransaction>& undone) {
   const HistoryChange& change = mismatch.change;
   QString told = QStringLiteral("Transaction %1 cannot be undone: the row %2 of %3. %4")
                      .arg(change.transaction)
@@ -111,6 +123,26 @@ QStringList Undo::Lines() const {
   QStringList lines;
   for (const TableDifference& difference : differences_) lines += difference.Lines();
   return lines;
+}
+
+std::vector<HistoryChange> Undo::AsChanges() const {
+  std::vector<HistoryChange> changes;
+  for (const TableDifference& difference : differences_) {
+    const auto add = [&](HistoryChange::Kind kind, const Row* before, const Row* after) {
+      HistoryChange change{0, 0, difference.table, KeyOf(difference, before ? *before : *after), kind, {}, {}};
+      for (size_t i = 0; i < difference.columns.size(); ++i) {
+        if (before && after && (*before)[i] == (*after)[i]) continue;
+        if (before) change.before[difference.columns[i].name] = Told(difference.columns[i], (*before)[i]);
+        if (after) change.after[difference.columns[i].name] = Told(difference.columns[i], (*after)[i]);
+      }
+      changes.push_back(std::move(change));
+    };
+    for (const Row& row : difference.added) add(HistoryChange::Added, nullptr, &row);
+    for (const TableDifference::Change& change : difference.changed)
+      add(HistoryChange::Changed, &change.second, &change.first);
+    for (const Row& row : difference.removed) add(HistoryChange::Removed, &row, nullptr);
+  }
+  return changes;
 }
 
 size_t Undo::Rows() const {

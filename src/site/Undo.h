@@ -14,6 +14,8 @@ class Undo {
   const QStringList& Refusals() const { return refusals_; }
   // What would be written, as tabulon-db compare tells it.
   QStringList Lines() const;
+  // The same, a change for each row.
+  std::vector<HistoryChange> AsChanges() const;
   // What of it the history does not know, a sentence each.
   const QStringList& Notes() const { return notes_; }
   size_t Rows() const;
@@ -23,7 +25,7 @@ class Undo {
  private:
   void Read(const std::vector<HistoryTransaction>& transactions);
   void RefuseMissing(const std::vector<int>& ids, const std::vector<HistoryTransaction>& found);
-  QString Told(const Rewind::Mismatch& mismatch, const std::vector<HistoryTransaction>& undone);
+  QString Refused(const Rewind::Mismatch& mismatch, const std::vector<HistoryTransaction>& undone);
   void TellUnknown(const Rewind& rewind);
 
   Connection& connection_;

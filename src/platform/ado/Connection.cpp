@@ -214,6 +214,10 @@ void Connection::Define(const QString& text) {
   }
 }
 
+bool Connection::HasHistory() const {
+  return d_->session.HasHistory();
+}
+
 void Connection::Tell(const QString& user, const QString& program) {
   d_->driver.Call([&] { d_->session.Tell(user, program); });
 }

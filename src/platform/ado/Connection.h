@@ -65,6 +65,8 @@ class Connection {
   // One definition that holds statements of its own, such as a trigger, in the engine's own words; sent as it stands.
   void Define(const QString& text);
 
+  // Whether the database had a history of changes when the connection was opened.
+  bool HasHistory() const;
   // Tells who is at work to the recording of changes (tabulon-db history), now and each time the connection is opened.
   // No statement where the database has no history.
   void Tell(const QString& user, const QString& program);

@@ -38,9 +38,10 @@ struct RecordingObject {
 // How one engine records changes: in the transaction that makes them, whoever makes them, by triggers that write
 // ID_HISTORY_TRANSACTION and ID_HISTORY_CHANGE. One class for each engine, no state.
 //
-// A change is written with the key that the row has, its kind (I, U, D) and its values as a JSON object by column: all
-// that are not NULL of a row that came or went, those that differ of a row that was changed. Values are texts; true
-// stands for one that is secret. A key that changes is one row gone and one come.
+// A change is written with the key that the row has, its kind (I, U, D) and its values as a JSON object by column, or
+// an array of such objects: all of a row that came or went, where those that are NULL may be left out, and at least
+// those that differ of a row that was changed. Values are texts; true stands for one that is secret, in a row that was
+// changed for one that differs. A key that changes is one row gone and one come.
 class Recording {
  public:
   virtual ~Recording() = default;

@@ -120,6 +120,8 @@ void Session::RefuseSetUp(QSqlQuery& query) {
 }
 
 void Session::Tell(const QString& user, const QString& program) {
+  // Each screen of another function asks for the rights anew.
+  if (recorded_ && user == user_ && program == program_) return;
   told_ = true;
   user_ = user;
   program_ = program;

@@ -44,6 +44,7 @@ class Session {
 
   // Tells who is at work to the recording of changes, where the database has one; again each time it is opened.
   void Tell(const QString& user, const QString& program);
+  bool HasHistory() const { return hasHistory_; }
   // True where the recording was told the user.
   bool IsRecorded() const { return recorded_; }
   // A transaction, or a statement outside of one, is about to begin.

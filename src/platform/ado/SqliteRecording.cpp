@@ -18,11 +18,21 @@ QString Trigger(const QString& event, const QString& table, const QString& condi
          " BEGIN " + body + "END";
 }
 
-// Rows that REPLACE removes have been kept under transaction 0: nothing tells of them when they are gone.
+// Changes wait under a number that is none until they are given their transaction: 0 has rows that REPLACE may remove,
+// of which nothing tells when they are gone, -1 one of which it is known only when it is written that it is one.
 const QString Forget = QStringLiteral("DELETE FROM ID_HISTORY_CHANGE WHERE TRANSACTION_ID = 0; ");
 const QString Keep = QStringLiteral(
     "UPDATE ID_HISTORY_CHANGE SET TRANSACTION_ID = (SELECT MAX(TRANSACTION_ID) FROM ID_HISTORY_TRANSACTION) "
     "WHERE TRANSACTION_ID = 0; ");
+
+const QString OpenForChanged = QStringLiteral(
+    "INSERT INTO ID_HISTORY_TRANSACTION (MOMENT) SELECT strftime('%Y-%m-%d %H:%M:%f', 'now') FROM ID_HISTORY_CHANGE "
+    "WHERE TRANSACTION_ID = -1; ");
+const QString KeepChanged = QStringLiteral(
+    "UPDATE ID_HISTORY_CHANGE SET TRANSACTION_ID = (SELECT MAX(TRANSACTION_ID) FROM ID_HISTORY_TRANSACTION) "
+    "WHERE TRANSACTION_ID = -1; ");
+
+constexpr qsizetype ColumnsOfAnObject = 60;  // two arguments each, of which SQLite's functions take 127
 
 QStringList UniqueColumns(const RecordedTable& table) {
   QStringList columns;
@@ -44,6 +54,44 @@ std::vector<RecordingObject> SqliteRecording::Routines(const QString&) const {
                         "DELETE FROM ID_HISTORY_TRANSACTION WHERE TRANSACTION_ID = NEW.TRANSACTION_ID; "))};
 }
 
+QString SqliteRecording::Image(const RecordedTable& table, const QStringList& columns, const RowWords& row) const {
+  QStringList objects, members;
+  const auto finish = [&] {
+    objects += "json_object(" + members.join(", ") + ')';
+    members.clear();
+  };
+  for (const RecordedColumn& column : table.columns) {
+    if (!columns.contains(column.name)) continue;
+    const QString value = row.Of(column.name);
+    members += '\'' + column.name + "', " +
+               (column.secret ? "CASE WHEN " + value + " IS NULL THEN NULL ELSE json('true') END" : Text(value));
+    if (members.size() == ColumnsOfAnObject) finish();
+  }
+  if (!members.isEmpty()) finish();
+  return objects.size() == 1 ? objects.first() : "json_array(" + objects.join(", ") + ')';
+}
+
+// The columns before and after where any of them differs; secrets only where they differ themselves.
+QString SqliteRecording::Changed(const RecordedTable& table, const QStringList& columns) const {
+  QStringList secrets;
+  for (const RecordedColumn& column : table.columns)
+    if (column.secret) secrets += column.name;
+  const auto image = [&](const QString& row) {
+    QStringList changed;
+    for (const QString& secret : secrets)
+      changed += QStringLiteral("CASE WHEN OLD.%1 IS NOT NEW.%1 THEN %2%1 END").arg(secret, row);
+    return Image(table, columns, {row, secrets, changed});
+  };
+  const QString orSecret = secrets.isEmpty() ? QString() : " OR other";
+  // The limit keeps the engine from computing the images once for each place where they stand.
+  return QStringLiteral(
+             "INSERT INTO ID_HISTORY_CHANGE (TRANSACTION_ID, TABLE_NAME, ROW_KEY, KIND, OLD_VALUES, NEW_VALUES) "
+             "SELECT -1, '%1', %2, 'U', was, becomes FROM (SELECT %3 AS was, %4 AS becomes%5 LIMIT 1) "
+             "WHERE was <> becomes%6; ")
+      .arg(table.name, Key(table, {"NEW."}), image("OLD."), image("NEW."),
+           secrets.isEmpty() ? QString() : ", " + AnyDiffers(secrets, "OLD.", "NEW.") + " AS other", orSecret);
+}
+
 // The rows that stand in the way of the new one.
 QString SqliteRecording::Replaced(const RecordedTable& table, const QString& but) const {
   QStringList conflicts;
@@ -55,7 +103,7 @@ QString SqliteRecording::Replaced(const RecordedTable& table, const QString& but
   return QStringLiteral(
              "INSERT INTO ID_HISTORY_CHANGE (TRANSACTION_ID, TABLE_NAME, ROW_KEY, KIND, OLD_VALUES, NEW_VALUES) "
              "SELECT 0, '%1', %2, 'D', %3, NULL FROM %1 WHERE (%4)%5; ")
-      .arg(table.name, Key(table, {{}}), Values(table, {{}}), conflicts.join(" OR "), but);
+      .arg(table.name, Key(table, {{}}), Image(table, Names(table), {{}}), conflicts.join(" OR "), but);
 }
 
 std::vector<RecordingObject> SqliteRecording::OfReplacing(const RecordedTable& table) const {
@@ -72,8 +120,8 @@ std::vector<RecordingObject> SqliteRecording::OfReplacing(const RecordedTable& t
 std::vector<RecordingObject> SqliteRecording::Triggers(const RecordedTable& table, const QString&) const {
   const QString& name = table.name;
   const QString oldKey = Key(table, {"OLD."}), newKey = Key(table, {"NEW."});
-  const QString gone = Change(name, "D", oldKey, Values(table, {"OLD."}), "NULL");
-  const QString come = Change(name, "I", newKey, "NULL", Values(table, {"NEW."}));
+  const QString gone = Change(name, "D", oldKey, Image(table, Names(table), {"OLD."}), "NULL");
+  const QString come = Change(name, "I", newKey, "NULL", Image(table, Names(table), {"NEW."}));
   std::vector<RecordingObject> triggers = OfReplacing(table);
   const QString kept = table.uniques.empty() ? QString() : Keep;
   triggers.push_back(Named(name, "I", Trigger("AFTER INSERT", name, {}, Open + kept + come)));
@@ -86,12 +134,10 @@ std::vector<RecordingObject> SqliteRecording::Triggers(const RecordedTable& tabl
   for (const QString& column : Names(table))
     if (!table.key.contains(column)) others += column;
   if (others.isEmpty()) return triggers;
-  QString changed = '(' + AnyDiffers(others, "OLD.", "NEW.") + ')';
-  if (!table.key.isEmpty()) changed += " AND NOT (" + AnyDiffers(table.key, "OLD.", "NEW.") + ')';
-  triggers.push_back(Named(name, "U",
-                           Trigger("AFTER UPDATE", name, changed,
-                                   Open + Change(name, "U", newKey, Differences(table, "OLD.", "OLD.", "NEW."),
-                                                 Differences(table, "NEW.", "OLD.", "NEW.")))));
+  // Another key is another row.
+  const QString sameKey = table.key.isEmpty() ? QString() : "NOT (" + AnyDiffers(table.key, "OLD.", "NEW.") + ')';
+  triggers.push_back(
+      Named(name, "U", Trigger("AFTER UPDATE", name, sameKey, Changed(table, others) + OpenForChanged + KeepChanged)));
   return triggers;
 }
 

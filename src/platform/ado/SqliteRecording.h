@@ -5,7 +5,7 @@
 // SQLite's triggers know neither user nor transaction, and what they call must be there in every program that opens the
 // file. So they write a transaction without a user for each statement; a session that was told its user has a trigger
 // of its own, in its temporary database, which puts one with the user in its place for each unit that the session
-// marks.
+// marks. The engine compiles the triggers with each statement, which takes longer than running them: they are short.
 class SqliteRecording : public RecordingWords {
  public:
   QString IdentityType() const override { return QStringLiteral("INTEGER"); }
@@ -27,6 +27,9 @@ class SqliteRecording : public RecordingWords {
   QString Behind(const QString& text) const override { return "substr(" + text + ", 2)"; }
 
  private:
+  // The columns as JSON: an object, or an array of several where a function takes no more arguments.
+  QString Image(const RecordedTable& table, const QStringList& columns, const RowWords& row) const;
+  QString Changed(const RecordedTable& table, const QStringList& columns) const;
   QString Replaced(const RecordedTable& table, const QString& but) const;
   std::vector<RecordingObject> OfReplacing(const RecordedTable& table) const;
 };
