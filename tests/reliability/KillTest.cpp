@@ -15,6 +15,7 @@
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "platform/ado/Recordset.h"
+#include "reliability/HistoryProof.h"
 #include "reliability/KilledActions.h"
 
 namespace {
@@ -98,7 +99,10 @@ class KillTest : public ReliabilityDesk, public testing::WithParamInterface<int>
     ASSERT_TRUE(QTest::qWaitFor([&] { return Ask(others) == u"0"; }, 30000));
   }
 
+  bool WithHistory() const override { return true; }
+
   void NothingMustBeHalfDone() {
+    EXPECT_EQ(proof_->WhyNot(Database().OtherClient()), "");
     EXPECT_EQ(Subject().halfDone(Database().OtherClient()), "");
     if (TestDatabase::TestEngine() != Engine::Sqlite) return;
     EXPECT_EQ(Ask("SELECT integrity_check FROM pragma_integrity_check"), "ok");
@@ -148,7 +152,8 @@ class KillTest : public ReliabilityDesk, public testing::WithParamInterface<int>
     }
   }
 
-  QString left_;  // the folder of the process that is gone
+  std::optional<HistoryProof> proof_;  // of the changes and their records, which are stored together
+  QString left_;                       // the folder of the process that is gone
 };
 
 TEST_P(KillTest, NothingIsHalfDone) {
@@ -159,6 +164,7 @@ TEST_P(KillTest, NothingIsHalfDone) {
   SCOPED_TRACE(std::string(Subject().name) + ", behind statement " + std::to_string(behind) + ", after " +
                std::to_string(milliseconds) + " ms");
   Subject().prepare(Database().OtherClient());
+  proof_.emplace(Database().OtherClient());
   StartAndKill(behind, milliseconds);
   if (HasFatalFailure()) return;
   AwaitEndOfItsSession();

@@ -7,6 +7,7 @@
 #include "core/OstanaFunctions.h"
 #include "reliability/Effect.h"
 #include "reliability/FarDesk.h"
+#include "reliability/HistoryProof.h"
 #include "reliability/WritingScreens.h"
 
 namespace {
@@ -15,9 +16,11 @@ class LostLinkTest : public FarDesk, public testing::WithParamInterface<ScreenAc
  protected:
   const WritingScreen& Subject() const { return *GetParam().screen; }
 
+  bool WithHistory() const override { return true; }
   void SetUp() override {
     FarDesk::SetUp();
-    Database().OtherClient();  // so that cutting runs no statement of its own to open it
+    // On the other client, so that cutting runs no statement of its own to open it.
+    proof_.emplace(Database().OtherClient());
   }
 
   void Prepare() {
@@ -98,8 +101,9 @@ class LostLinkTest : public FarDesk, public testing::WithParamInterface<ScreenAc
     EnterTab(Shell().Tab() == frmTabulon::PrintersTab ? frmTabulon::RequestTypeTab : frmTabulon::PrintersTab);
   }
 
-  // Besides the tables that the action writes.
+  // Besides the tables that the action writes. What was written is recorded, and nothing else.
   void NothingElseMustHaveChanged() {
+    EXPECT_EQ(proof_->WhyNot(Database().OtherClient()), "");
     for (const QString& table : Differences(all_, ContentsOf(Database().OtherClient())))
       EXPECT_TRUE(whole_.contains(table) || Subject().counters.contains(table)) << table.toStdString();
   }
@@ -126,6 +130,7 @@ class LostLinkTest : public FarDesk, public testing::WithParamInterface<ScreenAc
   }
 
  private:
+  std::optional<HistoryProof> proof_;
   int round_ = 0;
   bool prepared_ = false;
   DatabaseContents all_, before_;

@@ -73,6 +73,22 @@ TEST_P(ActionStatementsTest, AreThoseOfTheTable) {
 INSTANTIATE_TEST_SUITE_P(Screens, ActionStatementsTest, testing::ValuesIn(ScreenActions()),
                          [](const auto& action) { return action.param.Name(); });
 
+// Not one more where changes are recorded.
+class RecordedStatementsTest : public ActionStatementsTest {
+ protected:
+  bool WithHistory() const override { return true; }
+};
+
+TEST_P(RecordedStatementsTest, AreThoseOfTheTable) {
+  const auto& [screen, action] = GetParam();
+  action.prepare(*this, 1);
+  Said().Forget();
+  Sends(screen->name, action.name, [&] { action.press(*this); });
+}
+
+INSTANTIATE_TEST_SUITE_P(Screens, RecordedStatementsTest, testing::ValuesIn(ScreenActions()),
+                         [](const auto& action) { return action.param.Name(); });
+
 // --- Opening and moving about ---
 
 class OpeningStatementsTest : public StatementsTest {

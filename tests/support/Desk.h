@@ -28,6 +28,7 @@ class Desk : public testing::Test {
 
   // --- What a case may change before the program starts ---
   virtual bool WithSample() const { return false; }
+  virtual bool WithHistory() const { return false; }
   // Replaces or adds a value of the settings file.
   void Setting(const QString& section, const QString& key, const QString& value);
   QString SettingsFile() const { return folder_.filePath("Ostana.ini"); }

@@ -10,6 +10,7 @@
 
 #include "core/PasswordCipher.h"
 #include "platform/ado/Recordset.h"
+#include "schema/History.h"
 #include "schema/Languages.h"
 #include "schema/SchemaModel.h"
 #include "schema/SchemaSql.h"
@@ -42,15 +43,29 @@ Connection& Administrator() {
   return *connection;
 }
 
+// What a database has besides the tables and rows of every site.
+struct Outfit {
+  bool sample = false;
+  bool history = false;
+  auto operator<=>(const Outfit&) const = default;
+};
+
+void TurnHistoryOn(const ConnectionSettings& settings) {
+  Connection connection(settings);
+  connection.Open();
+  History::TurnOn(connection);
+}
+
 // SQLite: a file that is made once a process and copied for each case.
 class FileCopies {
  public:
-  ConnectionSettings Take(bool sample) {
-    QString& original = originals_[sample];
+  ConnectionSettings Take(Outfit outfit) {
+    QString& original = originals_[outfit];
     if (original.isEmpty()) {
       const ConnectionSettings settings = TestDatabase::FreshSettings(folder_.path());
       DatabaseBuilder::MakeMissing(settings);
-      TestDatabase::Fill(settings, sample);
+      TestDatabase::Fill(settings, outfit.sample);
+      if (outfit.history) TurnHistoryOn(settings);
       original = settings.name;
     }
     const ConnectionSettings copy = TestDatabase::FreshSettings(folder_.path());
@@ -60,7 +75,7 @@ class FileCopies {
 
  private:
   QTemporaryDir folder_;
-  std::map<bool, QString> originals_;
+  std::map<Outfit, QString> originals_;
 };
 
 // A server takes a quarter of a second (PostgreSQL) or many (MariaDB) to make a database. So one serves all cases of a
@@ -68,21 +83,22 @@ class FileCopies {
 // changed the tables themselves leaves one that is thrown away.
 class ServerDatabases {
  public:
-  ConnectionSettings Take(bool sample) {
+  ConnectionSettings Take(Outfit outfit) {
     for (auto free = free_.begin(); free != free_.end(); ++free) {
-      if (free->sample != sample) continue;
+      if (free->outfit != outfit) continue;
       const Kept kept = *free;
       free_.erase(free);
       if (Restore(kept)) return Used(kept);
       TestDatabase::Remove(kept.settings);
       break;
     }
-    Kept made{sample, ServerSettings(NextName()), {}};
+    Kept made{outfit, ServerSettings(NextName()), {}};
     DatabaseBuilder::MakeMissing(made.settings);
-    TestDatabase::Fill(made.settings, sample);
+    TestDatabase::Fill(made.settings, outfit.sample);
+    if (outfit.history) TurnHistoryOn(made.settings);
     Connection connection(made.settings);
     connection.Open();
-    Keep(connection);
+    Keep(connection, outfit);
     made.shape = Shape(connection);
     return Used(made);
   }
@@ -94,7 +110,7 @@ class ServerDatabases {
 
  private:
   struct Kept {
-    bool sample;
+    Outfit outfit;
     ConnectionSettings settings;
     QString shape;  // changes with every table, column, key and trigger
   };
@@ -107,17 +123,25 @@ class ServerDatabases {
     return (IsPostgreSql() ? QString("kept") : connection.Settings().name + "_kept") + '.' + table;
   }
 
-  static void Keep(Connection& connection) {
+  static QStringList Tables(const SchemaModel& model) {
+    QStringList names;
+    for (const SchemaTable& table : model.tables) names += table.name;
+    return names;
+  }
+
+  static void Keep(Connection& connection, Outfit outfit) {
     connection.Execute(
         (IsPostgreSql() ? "CREATE SCHEMA kept" : "CREATE DATABASE " + connection.Settings().name + "_kept"));
     QString body;
-    for (const SchemaTable& table : SchemaModel::Get().tables) {
-      const QString kept = KeptTable(connection, table.name);
-      connection.Execute("CREATE TABLE " + kept + (IsPostgreSql() ? "" : " ENGINE=MEMORY") + " AS SELECT * FROM " +
-                         table.name);
+    const QStringList history = outfit.history ? Tables(SchemaModel::History()) : QStringList();
+    for (const QString& table : Tables(SchemaModel::Get()) + history) {
+      const QString kept = KeptTable(connection, table);
+      // Tables in memory hold no long texts.
+      const bool inMemory = !IsPostgreSql() && !history.contains(table);
+      connection.Execute("CREATE TABLE " + kept + (inMemory ? " ENGINE=MEMORY" : "") + " AS SELECT * FROM " + table);
       body +=
           QStringLiteral("IF EXISTS (SELECT 1 FROM %1) THEN DELETE FROM %1; END IF; INSERT INTO %1 SELECT * FROM %2; ")
-              .arg(table.name, kept);
+              .arg(table, kept);
     }
     if (IsPostgreSql())
       connection.Execute(
@@ -134,29 +158,32 @@ class ServerDatabases {
       connection.Open();
       if (Shape(connection) != kept.shape) return false;
       if (IsPostgreSql()) return SchemaSql::Values(connection, "SELECT kept.restore()").value(0) == "1";
-      RestoreOneByOne(connection);
+      RestoreOneByOne(connection, Tables(SchemaModel::Get()));
+      // The triggers have recorded that.
+      if (kept.outfit.history) RestoreOneByOne(connection, Tables(SchemaModel::History()));
       return true;
     } catch (const AdoError&) {
       return false;
     }
   }
 
-  static void RestoreOneByOne(Connection& connection) {
+  static void RestoreOneByOne(Connection& connection, const QStringList& tables) {
     connection.Execute("SET SESSION foreign_key_checks = 0");
     Transaction transaction(connection);
-    for (const QString& table : Filled(connection, [](const QString& name) { return name; }))
+    for (const QString& table : Filled(connection, tables, [](const QString& name) { return name; }))
       connection.Execute("DELETE FROM " + table);
-    for (const QString& table : Filled(connection, [&](const QString& name) { return KeptTable(connection, name); }))
+    for (const QString& table :
+         Filled(connection, tables, [&](const QString& name) { return KeptTable(connection, name); }))
       connection.Execute("INSERT INTO " + table + " SELECT * FROM " + KeptTable(connection, table));
     transaction.Commit();
   }
 
-  // The tables of the schema that hold rows, under the name that `place` gives them.
+  // The tables that hold rows, under the name that `place` gives them.
   template <class Place>
-  static QStringList Filled(Connection& connection, Place place) {
+  static QStringList Filled(Connection& connection, const QStringList& tables, Place place) {
     QStringList selects;
-    for (const SchemaTable& table : SchemaModel::Get().tables)
-      selects += "SELECT '" + table.name + "' FROM DUAL WHERE EXISTS (SELECT 1 FROM " + place(table.name) + ')';
+    for (const QString& table : tables)
+      selects += "SELECT '" + table + "' FROM DUAL WHERE EXISTS (SELECT 1 FROM " + place(table) + ')';
     return SchemaSql::Values(connection, selects.join(" UNION ALL "));
   }
 
@@ -214,13 +241,14 @@ ServerDatabases& Servers() {
 
 }  // namespace
 
-TestDatabase::TestDatabase(bool sample) {
+TestDatabase::TestDatabase(bool sample, bool history) {
+  const Outfit outfit{sample, history || qEnvironmentVariableIntValue("TABULON_TEST_HISTORY") == 1};
   const QString lent = qEnvironmentVariable(LentDatabase);
   lent_ = !lent.isEmpty();
   if (lent_) {
     settings_ = ServerSettings(lent);
   } else {
-    settings_ = TestEngine() == Engine::Sqlite ? Files().Take(sample) : Servers().Take(sample);
+    settings_ = TestEngine() == Engine::Sqlite ? Files().Take(outfit) : Servers().Take(outfit);
   }
 }
 

@@ -9,13 +9,14 @@
 class QProcessEnvironment;
 
 // A database of its own for a case: the full schema, the reference rows, the languages ENG, FRE and GER, and the user
-// "admin" with the password "secret" and all rights; with `sample`, the rows of the sample site as well. It lies on the
-// engine that TABULON_TEST_ENGINE names (sqlite, postgresql, mariadb; SQLite when it is not set), reached as
-// tests/support/with-engine tells, and is gone with the object. A process that a case starts beside itself is given the
-// case's own by TABULON_TEST_DATABASE, uses it as it is and leaves it.
+// "admin" with the password "secret" and all rights; with `sample`, the rows of the sample site as well, with
+// `history`, or where TABULON_TEST_HISTORY is 1, changes are recorded. It lies on the engine that TABULON_TEST_ENGINE
+// names (sqlite, postgresql, mariadb; SQLite when it is not set), reached as tests/support/with-engine tells, and is
+// gone with the object. A process that a case starts beside itself is given the case's own by TABULON_TEST_DATABASE,
+// uses it as it is and leaves it.
 class TestDatabase {
  public:
-  explicit TestDatabase(bool sample = false);
+  explicit TestDatabase(bool sample = false, bool history = false);
   ~TestDatabase();
   TestDatabase(const TestDatabase&) = delete;
   TestDatabase& operator=(const TestDatabase&) = delete;

@@ -1,5 +1,6 @@
 // Every change of settings and rights is recorded in the transaction that makes it, whoever makes it.
 #include <QFile>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlError>
@@ -356,6 +357,64 @@ TEST_F(HistoryTest, TenThousandRowsAreOneTransaction) {
   ASSERT_EQ(Ids().size(), 1);
   MustDo({"history", "undo", Ids().value(0)});
   EXPECT_EQ(Count("ID_PRINTER", "PRINTER LIKE 'P%'"), 0);
+}
+
+// --- A backup that is restored ---
+
+class HistoryBackupTest : public HistoryTest {
+ protected:
+  void TearDown() override {
+    HistoryTest::TearDown();
+    if (!restored_.name.isEmpty()) TestDatabase::Remove(restored_);
+  }
+  static void MustRun(const QString& command) {
+    QProcess shell;
+    shell.start("bash", {"-o", "pipefail", "-c", command});
+    ASSERT_TRUE(shell.waitForFinished(120000));
+    ASSERT_EQ(shell.exitCode(), 0) << command.toStdString() << '\n' << shell.readAllStandardError().toStdString();
+  }
+  // By the means that the manual names, into another database, which the settings name from then on.
+  void BackUpAndRestore() {
+    const ConnectionSettings site = Client().Settings();
+    restored_ = TestDatabase::FreshSettings(Folder());
+    if (site.engine == Engine::Sqlite) {
+      ASSERT_TRUE(QFile::copy(site.name, restored_.name));
+    } else if (site.engine == Engine::PostgreSql) {
+      const QString server = " -h " + site.host + " -U " + site.user + ' ';
+      MustRun("createdb" + server + restored_.name + " && pg_dump -n public" + server + site.name + " | psql -q" +
+              server + restored_.name);
+    } else {
+      const QString server = " --no-defaults -S " + site.host + " -u " + site.user + ' ';
+      MustRun("mariadb-admin" + server + "create " + restored_.name + " && mariadb-dump --single-transaction" + server +
+              site.name + " | mariadb" + server + restored_.name);
+    }
+    WriteSettings(TestDatabase::IniSection(restored_));
+  }
+
+  ConnectionSettings restored_;
+};
+
+TEST_F(HistoryBackupTest, GoesOnRecordingWhereItWas) {
+  LoggedOn("katrin")->Execute(AddCategory.arg("A"));
+  const QStringList before = Ids();
+  BackUpAndRestore();
+  ASSERT_FALSE(HasFailure());
+  MustDo({"check"});
+  Connection program(restored_);
+  program.Tell("paul", "Tabulon");
+  program.Open();
+  for (const QString& code : QStringList{"B", "C"}) {
+    Transaction transaction(program);
+    program.Execute(AddCategory.arg(code));
+    program.Execute(NoteOfNobody.arg(code));
+    transaction.Commit();
+  }
+  EXPECT_EQ(Ids().size(), 3);
+  EXPECT_EQ(Ids().last(), before.value(0));
+  EXPECT_EQ(Ids({"--user", "paul"}).size(), 2);
+  MustDo(QStringList{"history", "undo"} + Ids());
+  EXPECT_EQ(SchemaSql::Values(program, "SELECT COUNT(*) FROM ID_LIBRARY_CAT WHERE LIBRARY_CAT IN ('A', 'B', 'C')"),
+            QStringList{"0"});
 }
 
 // --- What list finds ---
