@@ -47,6 +47,7 @@
 #include "shell/Screen.h"
 #include "shell/Screens.h"
 #include "shell/frmTabulon.h"
+#include "sitescreens/frmChanges.h"
 
 void RegisterTabs(frmTabulon& shell) {
   shell.SetTab(frmTabulon::CodeTablesTab,
@@ -85,6 +86,8 @@ void RegisterTabs(frmTabulon& shell) {
 void RegisterDialogs() {
   RegisterScreen<frmSplash>("frmSplash");
   RegisterScreen<frmAboutOstana>("frmAboutOstana");
+  RegisterScreen<frmChanges>("frmChanges");
+  Grid::ExtendMenus(&frmChanges::AddEntry);
   RegisterScreen<frmAboutApp>("frmAboutApp");
   RegisterScreen<frmCurrencyCodes>("frmCurrencyCodes");
   RegisterScreen<frmISOServiceLevels>("frmISOServiceLevels");

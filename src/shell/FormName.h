@@ -28,7 +28,9 @@ class FormName {
       "frmRequestArticle", "frmRequestBook", "frmQueryRequests", "frmPatronRegistration", "frmSupplierRegistration",
       // Connections
       "frmISO18626Connect", "frmNCIPServerConnection", "frmAPIServerConnection", "frmNCIPStatusCodes",
-      "frmNCIPUnitLibraryMapping", "frmNCIPProfile"};
+      "frmNCIPUnitLibraryMapping", "frmNCIPProfile",
+      // The site as a whole
+      "frmChanges"};
 
  private:
   struct Checked {};

@@ -1,5 +1,7 @@
 #include "shell/GridTable.h"
 
+#include "shell/GridSubject.h"
+
 #include <algorithm>
 #include <optional>
 
@@ -227,6 +229,7 @@ class GridLoad {
 
 void FillGridFrom(Grid& grid, Recordset& rows, const std::vector<QString>& fields) {
   const SkipGridEvents skip;
+  GridSubject::Set(grid, rows.Source, fields);
   std::vector<std::optional<Field>> columns;
   for (const QString& field : fields)
     columns.push_back(field.isEmpty() ? std::nullopt : std::optional<Field>(rows.Fields(field)));

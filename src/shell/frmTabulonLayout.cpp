@@ -164,6 +164,7 @@ void frmTabulon::BuildMenu() {
 
   // The key is only told: it is a shortcut of every window.
   QMenu* const site = Form::Menu(this, "mnuSite", "&Site");
+  HelpEntry(site, "mnuSiteChanges", "&Changes...", "frmChanges");
   connect(Form::MenuEntry(site, "mnuSiteStatements", "&Statements\tF12"), &QAction::triggered, this,
           [this] { StatementsWindow::Open(this); });
   StatementsWindow::OpenByF12(*this);

@@ -11,10 +11,18 @@ namespace {
 // --- The table is whole ---
 
 // Places where nothing is written: those that open other dialogs, look something up or belong to other programs.
-const QSet<QString> ReadingPlaces{
-    "tab-06-loans",           "tab-11-miscellaneous", "frmSplash",      "frmAboutOstana",   "frmAboutApp",
-    "frmLibrarySearch",       "frmRequestArticle",    "frmRequestBook", "frmQueryRequests", "frmPatronRegistration",
-    "frmSupplierRegistration"};
+const QSet<QString> ReadingPlaces{"tab-06-loans",
+                                  "tab-11-miscellaneous",
+                                  "frmSplash",
+                                  "frmAboutOstana",
+                                  "frmAboutApp",
+                                  "frmLibrarySearch",
+                                  "frmRequestArticle",
+                                  "frmRequestBook",
+                                  "frmQueryRequests",
+                                  "frmPatronRegistration",
+                                  "frmSupplierRegistration",
+                                  "frmChanges"};
 
 // Buttons on a sub-tab that has nothing for them to do, where a dialog has one row of buttons for all.
 const QSet<QString> IdleButtons{"frmItemType-1 cmdUpdate", "frmServiceCode-1 cmdUpdate"};

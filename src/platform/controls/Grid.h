@@ -2,6 +2,7 @@
 
 #include <QMetaMethod>
 #include <QTableView>
+#include <functional>
 #include <optional>
 #include <span>
 #include <vector>
@@ -111,6 +112,10 @@ class Grid : public QTableView {
 
   // Somebody waits for RowEntered.
   bool HasRowEntered() const { return isSignalConnected(QMetaMethod::fromSignal(&Grid::RowEntered)); }
+
+  // What the program adds to the menu of every grid.
+  using MenuExtension = std::function<void(Grid& grid, QMenu& menu)>;
+  static void ExtendMenus(MenuExtension extension);
 
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;

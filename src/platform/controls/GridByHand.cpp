@@ -203,6 +203,17 @@ void Grid::HeadingClicked(int col) {
   Sort(col, downwards ? Qt::DescendingOrder : Qt::AscendingOrder, model_->IsNumeric(col));
 }
 
+namespace {
+Grid::MenuExtension& Extension() {
+  static Grid::MenuExtension extension;
+  return extension;
+}
+}  // namespace
+
+void Grid::ExtendMenus(MenuExtension extension) {
+  Extension() = std::move(extension);
+}
+
 // For those who work without the mouse (the menu key opens it), and for those who do not know the keys.
 void Grid::contextMenuEvent(QContextMenuEvent* event) {
   auto* menu = new QMenu(this);
@@ -229,6 +240,7 @@ void Grid::contextMenuEvent(QContextMenuEvent* event) {
   menu->addAction(tr("&Export to CSV..."), this, [this] { GridExport::AskAndSaveCsv(*this); })->setEnabled(any);
   menu->addAction(tr("Save as P&DF..."), this, [this] { GridExport::AskAndSavePdf(*this); })->setEnabled(any);
   menu->addAction(tr("&Print..."), this, [this] { GridExport::AskAndPrint(*this); })->setEnabled(any);
+  if (Extension()) Extension()(*this, *menu);
   menu->popup(event->globalPos());
 }
 
