@@ -124,6 +124,15 @@ std::optional<Engine> ReadEngine(const SectionReader& section) {
   return std::nullopt;
 }
 
+Encryption ReadEncryption(const SectionReader& section, const QString& host) {
+  const QString value = section.Text("Encryption").trimmed();
+  if (value.isEmpty()) return UsualEncryption(host);
+  for (const Encryption known : {Encryption::Off, Encryption::Required, Encryption::Verify})
+    if (value.compare(EncryptionName(known), Qt::CaseInsensitive) == 0) return known;
+  section.Refuse("Encryption", value, "Write off, required or verify.");
+  return Encryption::Verify;
+}
+
 QString ReadPassword(const SectionReader& section, const QString& settingsFile) {
   const QString encoded = section.Text("PasswordEncoded").trimmed();
   if (encoded.isEmpty()) return section.Text("Password");
@@ -153,6 +162,8 @@ void ReadDatabase(const SectionReader& section, SiteSettings& settings) {
     connection.name = BelowApplicationPath(connection.name, settings.applicationPath);
   connection.host = section.Text("Host").trimmed();
   connection.port = section.Number("Port", 1, 65535, 0);
+  if (connection.engine != Engine::Sqlite || !section.Text("Encryption").isEmpty())
+    connection.encryption = ReadEncryption(section, connection.host);
   connection.user = section.Text("User").trimmed();
   connection.password = ReadPassword(section, settings.settingsFile);
   connection.options = section.Text("Options").trimmed();

@@ -140,7 +140,9 @@ void frmTabulon::ShowStatus() {
   if (rights_.add) rights.append("Add");
   if (rights_.update) rights.append("Update");
   if (rights_.remove) rights.append("Delete");
-  const auto database = Procedure::Try([] { gclsOF->Connection(); }) ? QString() : gclsOF->Connection().Settings().name;
+  const bool open = !Procedure::Try([] { gclsOF->Connection(); });
+  const QString database = open ? gclsOF->Connection().Settings().name : QString();
+  status_->setToolTip("Link to the database: " + (open ? gclsOF->Connection().LinkDescription() : QString("not open")));
   const QString language = gclsOF->LanguageSuffix().isEmpty() ? QString("default") : gclsOF->LanguageSuffix().mid(1);
   status_->setText(QString("User: %1     Database: %2     Language: %3     Rights: %4")
                        .arg(gclsOF->UserId(), database, language, rights.isEmpty() ? "none" : rights.join(", ")));

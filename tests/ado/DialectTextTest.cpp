@@ -181,6 +181,27 @@ TEST(DialectText, UserAndPasswordOfOdbcAreEnclosedWhereTheyWouldEndTheirValue) {
   QSqlDatabase::removeDatabase("enclosed");
 }
 
+TEST(DialectText, EncryptionIsAskedOfOdbcInTheConnectionString) {
+  const std::pair<Encryption, const char*> words[] = {{Encryption::Off, "Encrypt=no"},
+                                                      {Encryption::Required, "Encrypt=yes;TrustServerCertificate=yes"},
+                                                      {Encryption::Verify, "Encrypt=yes;TrustServerCertificate=no"}};
+  QSqlDatabase database = QSqlDatabase::addDatabase("QODBC", "encrypted");
+  for (const auto& [encryption, expected] : words) {
+    ConnectionSettings settings;
+    settings.engine = Engine::SqlServer;
+    settings.host = "db.example.org";
+    settings.port = 1433;
+    settings.name = "ostana";
+    settings.encryption = encryption;
+    QString reason;
+    EXPECT_TRUE(Dialect::For(Engine::SqlServer).Prepare(database, settings, &reason));
+    EXPECT_EQ(database.databaseName(),
+              QString("DRIVER={ODBC Driver 18 for SQL Server};SERVER=db.example.org,1433;DATABASE=ostana;") + expected);
+  }
+  database = QSqlDatabase();
+  QSqlDatabase::removeDatabase("encrypted");
+}
+
 TEST(DialectText, DatabaseTypesAndDrivers) {
   const int types[] = {1, 2, 3, 5};
   const char* const drivers[] = {"QSQLITE", "QPSQL", "QMYSQL", "QODBC"};

@@ -153,6 +153,24 @@ TEST_F(SiteSettingsTest, ConnectionIsReadWhole) {
   EXPECT_EQ(Loaded(database).connection.ownerPrefix, "");
 }
 
+TEST_F(SiteSettingsTest, LinkToAnotherMachineIsVerifiedUnlessToldOtherwise) {
+  const QByteArray server = "[Database]\nEngine=POSTGRESQL\nName=ostana\n";
+  for (const char* host : {"db.example.org", "10.0.0.7", "128.0.0.1", "localhost.example.org", "2001:db8::1"})
+    EXPECT_EQ(Loaded(server + "Host=" + host + "\n").connection.encryption, Encryption::Verify) << host;
+  for (const char* host : {"", "/run/postgresql", "@socket", "localhost", "LOCALHOST", "127.0.0.1", "127.1.2.3", "::1"})
+    EXPECT_EQ(Loaded(server + "Host=" + host + "\n").connection.encryption, Encryption::Off) << host;
+  EXPECT_EQ(Loaded(database + "Host=db.example.org\n").connection.encryption, Encryption::Off);
+}
+
+TEST_F(SiteSettingsTest, EncryptionIsOneOfThreeWords) {
+  const QByteArray server = "[Database]\nEngine=MARIADB\nName=ostana\nHost=db.example.org\nEncryption=";
+  EXPECT_EQ(Loaded(server + "off\n").connection.encryption, Encryption::Off);
+  EXPECT_EQ(Loaded(server + " Required \n").connection.encryption, Encryption::Required);
+  EXPECT_EQ(Loaded(server + "VERIFY\n").connection.encryption, Encryption::Verify);
+  EXPECT_EQ(Refused(server + "perhaps\n"), "The setting 'Encryption' in section [Database] of '" + Path("Ostana.INI") +
+                                               "' is 'perhaps'.  Write off, required or verify.");
+}
+
 TEST_F(SiteSettingsTest, NumbersAreChecked) {
   for (const char* port : {"x", "0", "65536", "-1", "5432x"})
     EXPECT_TRUE(Refused(database + "Port=" + port + "\n").endsWith("Write a number from 1 to 65535.")) << port;

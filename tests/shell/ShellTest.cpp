@@ -269,6 +269,13 @@ TEST_F(ShellTest, TheStatusBarSaysWhoWorksWhere) {
   EXPECT_TRUE(status.contains("Rights: Add, Update, Delete")) << status.toStdString();
 }
 
+TEST_F(ShellTest, TheStatusBarsTipSaysHowTheLinkIs) {
+  Start();
+  EXPECT_EQ(Find<QLabel>("lblStatus")->toolTip(),
+            "Link to the database: " +
+                QString(TestDatabase::TestEngine() == Engine::Sqlite ? "a file" : "not encrypted"));
+}
+
 TEST_F(ShellTest, ALostConnectionIsOpenedAgainAtTheNextStatement) {
   PickCategories();
   gclsOF->Connection().Close();

@@ -200,6 +200,10 @@ const ConnectionSettings& Connection::Settings() const {
   return d_->session.Settings();
 }
 
+QString Connection::LinkDescription() const {
+  return d_->session.LinkDescription();
+}
+
 void Connection::AddObserver(std::function<void(const StatementRecord&)> observer) {
   d_->observers.push_back(std::move(observer));
 }

@@ -64,6 +64,8 @@ class Connection {
 
   const Dialect& dialect() const;
   const ConnectionSettings& Settings() const;
+  // How the link to the server is, for a user: "encrypted (TLSv1.3 ...); the server's certificate is verified".
+  QString LinkDescription() const;
 
   // Called after every statement, failed ones included. One observer is added, none is ever removed.
   void AddObserver(std::function<void(const StatementRecord&)> observer);

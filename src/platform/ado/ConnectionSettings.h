@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include "platform/ado/Encryption.h"
+
 enum class Engine { Sqlite, PostgreSql, MariaDb, SqlServer };
 
 // What a connection is opened with; it lies inside the Connection, so that Open takes empty strings.
@@ -12,6 +14,7 @@ struct ConnectionSettings {
   int port = 0;  // 0: the engine's own default
   QString user;
   QString password;
+  Encryption encryption = Encryption::Off;
   QString options;      // further options in the driver's own words, joined by ";"
   QString ownerPrefix;  // as it stands before table names in SQL, closing point included; may be empty
 };

@@ -3,32 +3,109 @@
 #include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
+#include <algorithm>
 
 #include "platform/ado/StatementWords.h"
+
+namespace {
+
+constexpr int PluginNotAllowed = 5011;  // CR_ERR_... of the client library
+
+// The driver ignores words that it does not know, and some that look like a demand.
+QString WhyRefused(const QString& option) {
+  static const QStringList known{QStringLiteral("CLIENT_COMPRESS"),
+                                 QStringLiteral("CLIENT_FOUND_ROWS"),
+                                 QStringLiteral("CLIENT_IGNORE_SPACE"),
+                                 QStringLiteral("CLIENT_INTERACTIVE"),
+                                 QStringLiteral("CLIENT_NO_SCHEMA"),
+                                 QStringLiteral("CLIENT_ODBC"),
+                                 QStringLiteral("MYSQL_OPT_CONNECT_TIMEOUT"),
+                                 QStringLiteral("MYSQL_OPT_READ_TIMEOUT"),
+                                 QStringLiteral("MYSQL_OPT_RECONNECT"),
+                                 QStringLiteral("MYSQL_OPT_WRITE_TIMEOUT"),
+                                 QStringLiteral("SSL_CA"),
+                                 QStringLiteral("SSL_CAPATH"),
+                                 QStringLiteral("SSL_CERT"),
+                                 QStringLiteral("SSL_CIPHER"),
+                                 QStringLiteral("SSL_KEY")};
+  const QString word = option.section(u'=', 0, 0).trimmed().toUpper();
+  if (known.contains(word)) return {};
+  QString advice = QStringLiteral("The words it knows are %1.").arg(known.join(QLatin1String(", ")));
+  if (word == u"UNIX_SOCKET") advice = QStringLiteral("Write the path of the socket as Host.");
+  if (word.contains(QLatin1String("SSL")) || word.contains(QLatin1String("TLS")))
+    advice = QStringLiteral("Encryption=required or Encryption=verify says what the link must promise.");
+  return QStringLiteral(
+             "MariaDB's driver does not know the word %1 in Options in the database section of the settings file. "
+             "Take it out. %2")
+      .arg(word, advice);
+}
+
+// The client library takes more than the driver hands on to it when its host is a text of "key=value;", in which it
+// reads no "}" beside one of ";", "=" and "{".
+bool Append(QString& text, const char* key, const QString& value, QString* reason) {
+  const bool enclosed = value.contains(u';') || value.contains(u'=') || value.contains(u'{');
+  if (enclosed && value.contains(u'}')) {
+    *reason = QStringLiteral(
+                  "MariaDB's driver cannot be given the %1 of the database section of the settings file: it holds a "
+                  "closing brace together with an opening one, a semicolon or an equals sign. Choose another one.")
+                  .arg(QLatin1String(key));
+    return false;
+  }
+  if (!value.isEmpty())
+    text += (enclosed ? QStringLiteral("%1={%2};") : QStringLiteral("%1=%2;")).arg(QLatin1String(key), value);
+  return true;
+}
+
+// Empty with a reason when the settings cannot be told to the library.
+QString Link(const ConnectionSettings& settings, QString* reason) {
+  // A plug-in that shows the password to whoever answers is never used.
+  QString text = QStringLiteral("restricted-auth=mysql_native_password,client_ed25519,auth_gssapi_client;");
+  const bool socket = settings.host.startsWith(u'/');
+  const QString path =
+      socket && QFileInfo(settings.host).isDir() ? settings.host + QLatin1String("/mysqld.sock") : settings.host;
+  if (!Append(text, socket ? "socket" : "host", path, reason) || !Append(text, "user", settings.user, reason) ||
+      !Append(text, "password", settings.password, reason))
+    return {};
+  if (settings.port != 0) text += QStringLiteral("port=%1;").arg(settings.port);
+  if (settings.encryption != Encryption::Off) text += QLatin1String("ssl-enforce=1;");
+  if (settings.encryption == Encryption::Verify) text += QLatin1String("ssl-verify-server-cert=1;");
+  return text;
+}
+
+bool NamesAuthority(const QStringList& options) {
+  return std::any_of(options.begin(), options.end(),
+                     [](const QString& option) { return option.trimmed().startsWith(QLatin1String("SSL_CA")); });
+}
+
+}  // namespace
 
 bool MariaDbDialect::Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const {
   if (settings.name.isEmpty()) {
     *reason = QStringLiteral("No database is named. Set Name in the database section of the settings file.");
     return false;
   }
+  if (settings.encryption != Encryption::Off && settings.host.compare(u"localhost", Qt::CaseInsensitive) == 0) {
+    *reason = QStringLiteral(
+                  "MariaDB's driver takes localhost for the socket of this machine, which Encryption=%1 does not fit. "
+                  "Write Encryption=off, or 127.0.0.1 as Host.")
+                  .arg(EncryptionName(settings.encryption));
+    return false;
+  }
   // CLIENT_FOUND_ROWS: a row that is set to the values it has counts as found, as on the other engines.
   QStringList options{QStringLiteral("CLIENT_FOUND_ROWS=1"), QStringLiteral("MYSQL_OPT_CONNECT_TIMEOUT=10"),
                       QStringLiteral("MYSQL_OPT_READ_TIMEOUT=300"), QStringLiteral("MYSQL_OPT_WRITE_TIMEOUT=60")};
-  if (settings.host.startsWith(u'/')) {
-    const bool folder = QFileInfo(settings.host).isDir();
-    options +=
-        QStringLiteral("UNIX_SOCKET=") + settings.host + (folder ? QLatin1String("/mysqld.sock") : QLatin1String());
-  } else {
-    database.setHostName(settings.host);
-    database.setPort(settings.port == 0 ? -1 : settings.port);
-  }
   for (const QString& option : settings.options.split(u';', Qt::SkipEmptyParts)) {
+    *reason = WhyRefused(option);
+    if (!reason->isEmpty()) return false;
     // A connection that came back by itself would go on outside of the transaction it was in.
     if (!option.trimmed().startsWith(QLatin1String("MYSQL_OPT_RECONNECT"), Qt::CaseInsensitive)) options += option;
   }
+  if (settings.encryption == Encryption::Verify && !NamesAuthority(options) && !TrustedCertificates().isEmpty())
+    options += QStringLiteral("SSL_CA=") + TrustedCertificates();
+  const QString link = Link(settings, reason);
+  if (link.isEmpty()) return false;
+  database.setHostName(link);
   database.setDatabaseName(settings.name);
-  database.setUserName(settings.user);
-  database.setPassword(settings.password);
   database.setConnectOptions(options.join(u';'));
   return true;
 }
@@ -42,6 +119,16 @@ QString MariaDbDialect::OpenAdvice(const QSqlError& error, const ConnectionSetti
       return QStringLiteral(
                  "MariaDB on %1 refused user \"%2\". Check User and Password in the database section of the "
                  "settings file.")
+          .arg(server, settings.user);
+    case 2026:
+      if (error.databaseText().contains(QLatin1String("does not support")))
+        return LinkAdvice::NotEncrypted(EngineName(), settings);
+      return LinkAdvice::NotVerified(EngineName(), settings, QStringLiteral("SSL_CA"));
+    case PluginNotAllowed:
+      return QStringLiteral(
+                 "MariaDB on %1 asked for the password of user \"%2\" in a way in which it is shown or that this "
+                 "program does not know; it was not sent. Identify the user at the server by ed25519 or by "
+                 "mysql_native_password.")
           .arg(server, settings.user);
     case 1049:
       return QStringLiteral(
@@ -71,7 +158,9 @@ QString MariaDbDialect::SessionCheck() const {
   return QStringLiteral(
       "SELECT FIND_IN_SET('NO_BACKSLASH_ESCAPES', @@sql_mode) > 0 AND FIND_IN_SET('STRICT_TRANS_TABLES', @@sql_mode) > "
       "0 "
-      "AND FIND_IN_SET('ANSI_QUOTES', @@sql_mode) > 0 AND @@autocommit = 1");
+      "AND FIND_IN_SET('ANSI_QUOTES', @@sql_mode) > 0 AND @@autocommit = 1, (SELECT GROUP_CONCAT(VARIABLE_VALUE ORDER "
+      "BY VARIABLE_NAME DESC SEPARATOR ' ') FROM INFORMATION_SCHEMA.SESSION_STATUS WHERE VARIABLE_NAME IN "
+      "('SSL_VERSION', 'SSL_CIPHER') AND VARIABLE_VALUE <> '')");
 }
 
 QString MariaDbDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {

@@ -1,9 +1,74 @@
 #include "platform/ado/PostgreSqlDialect.h"
 
+#include <QDir>
+#include <QFile>
 #include <QSqlDatabase>
 #include <QSqlError>
+#include <algorithm>
+#include <utility>
+#include <vector>
 
 #include "platform/ado/StatementWords.h"
+
+namespace {
+
+using Options = std::vector<std::pair<QString, QString>>;
+
+// What Encryption asks of the driver, in its own words.
+Options Asked(const ConnectionSettings& settings) {
+  switch (settings.encryption) {
+    case Encryption::Off:
+      break;
+    case Encryption::Required: {
+      Options asked{{QStringLiteral("sslmode"), QStringLiteral("require")},
+                    {QStringLiteral("gssencmode"), QStringLiteral("disable")}};
+      // Whoever answers could ask for the password in clear. It proves to know it instead, or is sent nothing.
+      if (!settings.password.isEmpty()) asked.emplace_back("channel_binding", "require");
+      return asked;
+    }
+    case Encryption::Verify:
+      return {{QStringLiteral("sslmode"), QStringLiteral("verify-full")},
+              {QStringLiteral("gssencmode"), QStringLiteral("disable")}};
+  }
+  return {};
+}
+
+bool IsAtLeast(const QString& value, const QString& asked) {
+  const QStringList modes{QStringLiteral("require"), QStringLiteral("verify-ca"), QStringLiteral("verify-full")};
+  return value == asked || (modes.contains(asked) && modes.indexOf(value) > modes.indexOf(asked));
+}
+
+// The file of trusted authorities where neither the settings nor the user's account have one.
+QString OwnAuthority(const Options& options) {
+  const auto named = [](const auto& option) { return option.first == u"sslrootcert"; };
+  if (std::any_of(options.begin(), options.end(), named) || qEnvironmentVariableIsSet("PGSSLROOTCERT") ||
+      QFile::exists(QDir::homePath() + QLatin1String("/.postgresql/root.crt")))
+    return {};
+  return TrustedCertificates();
+}
+
+// False with a reason when the options of the settings take back what Encryption asks for.
+bool AppendEncryption(QString& words, const ConnectionSettings& settings, QString* reason) {
+  Options given;
+  for (const QString& option : settings.options.split(u';', Qt::SkipEmptyParts))
+    given.emplace_back(option.section(u'=', 0, 0).trimmed(), option.section(u'=', 1).trimmed());
+  for (const auto& [word, asked] : Asked(settings)) {
+    words += QStringLiteral(";%1=%2").arg(word, asked);
+    for (const auto& [option, value] : given) {
+      if (option != word || IsAtLeast(value, asked)) continue;
+      *reason = QStringLiteral(
+                    "Options in the database section of the settings file says %1=%2, which is less than Encryption=%3 "
+                    "asks for. Take %1 out of Options.")
+                    .arg(word, value, EncryptionName(settings.encryption));
+      return false;
+    }
+  }
+  const QString authority = settings.encryption == Encryption::Verify ? OwnAuthority(given) : QString();
+  if (!authority.isEmpty()) words += QStringLiteral(";sslrootcert=") + authority;
+  return true;
+}
+
+}  // namespace
 
 bool PostgreSqlDialect::Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const {
   if (settings.name.isEmpty()) {
@@ -19,6 +84,7 @@ bool PostgreSqlDialect::Prepare(QSqlDatabase& database, const ConnectionSettings
   QString options = QStringLiteral(
       "application_name=Tabulon;connect_timeout=10;keepalives_idle=30;keepalives_interval=10;keepalives_count=3;"
       "tcp_user_timeout=30000");
+  if (!AppendEncryption(options, settings, reason)) return false;
   if (!settings.options.isEmpty()) options += u';' + settings.options;
   database.setConnectOptions(options);
   return true;
@@ -28,6 +94,16 @@ QString PostgreSqlDialect::OpenAdvice(const QSqlError& error, const ConnectionSe
   const QString server = settings.host.isEmpty() ? QStringLiteral("this machine") : settings.host;
   const QString text = error.databaseText();
   // The driver gives no code for these; a server that speaks another language gets the general advice.
+  if (text.contains(QLatin1String("channel binding"))) {
+    return QStringLiteral(
+               "PostgreSQL on %1 does not prove that it knows the password of user \"%2\", as Encryption=%3 in the "
+               "database section of the settings file asks. Set the password anew at the server under "
+               "password_encryption=scram-sha-256, or write Encryption=verify.")
+        .arg(server, settings.user, EncryptionName(settings.encryption));
+  }
+  if (text.contains(QLatin1String("does not support SSL"))) return LinkAdvice::NotEncrypted(EngineName(), settings);
+  if (text.contains(QLatin1String("certificate")))
+    return LinkAdvice::NotVerified(EngineName(), settings, QStringLiteral("sslrootcert"));
   if (text.contains(QLatin1String("password"))) {
     return QStringLiteral(
                "PostgreSQL on %1 refused user \"%2\". Check User and Password in the database section of the "
@@ -64,7 +140,8 @@ QStringList PostgreSqlDialect::SessionSetup(const ConnectionSettings& settings) 
 QString PostgreSqlDialect::SessionCheck() const {
   return QStringLiteral(
       "SELECT CASE WHEN current_setting('standard_conforming_strings') = 'on' AND "
-      "pg_client_encoding() = 'UTF8' THEN 1 ELSE 0 END");
+      "pg_client_encoding() = 'UTF8' THEN 1 ELSE 0 END, "
+      "(SELECT version || ' ' || cipher FROM pg_catalog.pg_stat_ssl WHERE pid = pg_backend_pid() AND ssl)");
 }
 
 QString PostgreSqlDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {

@@ -27,8 +27,9 @@ Session::~Session() {
 void Session::Open() {
   CheckDriver();
   if (!database_.isValid()) database_ = QSqlDatabase::addDatabase(dialect_.DriverName(), handle_);
-  QString reason;
-  if (!dialect_.Prepare(database_, settings_, &reason)) throw AdoError(AdoNumber::Unspecified, reason, OpenSource);
+  QString reason = WhyNoEncryption(settings_);
+  if (!reason.isEmpty() || !dialect_.Prepare(database_, settings_, &reason))
+    throw AdoError(AdoNumber::Unspecified, reason, OpenSource);
   database_.setNumericalPrecisionPolicy(QSql::HighPrecision);
   if (!database_.open()) {
     const QSqlError error = database_.lastError();
@@ -58,21 +59,46 @@ void Session::SetUp() {
     const quint32 number = dialect_.Translate(error, OpenSource).Number();
     const QString advice = dialect_.OpenAdvice(error, settings_);
     query = QSqlQuery();
-    Close();
-    throw AdoError(number, WithoutPassword(advice + u'\n' + dialect_.EngineText(error)), OpenSource);
+    GiveUp(advice + u'\n' + dialect_.EngineText(error), number);
   }
-  if (check.isEmpty() || (query.next() && query.value(0).toString() == u"1")) return;
+  if (check.isEmpty()) return;
+  const bool accepted = query.next() && query.value(0).toString() == u"1";
+  cipher_ = dialect_.KnowsEncryption() ? query.value(1).toString() : QString();
   query = QSqlQuery();
+  if (!accepted) {
+    GiveUp(QStringLiteral("%1 did not accept the settings that every session needs. Ask the database's "
+                          "administrator to lift the server's limits on session settings.")
+               .arg(dialect_.EngineName()));
+  }
+  if (settings_.encryption != Encryption::Off && dialect_.KnowsEncryption() && cipher_.isEmpty())
+    GiveUp(LinkAdvice::NotEncrypted(dialect_.EngineName(), settings_));
+}
+
+void Session::GiveUp(const QString& reason, quint32 number) {
   Close();
-  throw AdoError(AdoNumber::Unspecified,
-                 QStringLiteral("%1 did not accept the settings that every session needs. Ask the database's "
-                                "administrator to lift the server's limits on session settings.")
-                     .arg(dialect_.EngineName()),
-                 OpenSource);
+  throw AdoError(number, WithoutPassword(reason), OpenSource);
+}
+
+QString Session::LinkDescription() const {
+  if (!open_) return QStringLiteral("not open");
+  if (settings_.engine == Engine::Sqlite) return QStringLiteral("a file");
+  const QString cipher = cipher_.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(cipher_);
+  switch (settings_.encryption) {
+    case Encryption::Off:
+      break;
+    case Encryption::Required:
+      return QStringLiteral("encrypted%1; the server's certificate is not verified").arg(cipher);
+    case Encryption::Verify:
+      return QStringLiteral("encrypted%1; the server's certificate is verified").arg(cipher);
+  }
+  if (!cipher.isEmpty()) return QStringLiteral("encrypted") + cipher;
+  if (!dialect_.KnowsEncryption()) return QStringLiteral("as the driver was told to make it");
+  return QStringLiteral("not encrypted");
 }
 
 void Session::Close() {
   open_ = false;
+  cipher_.clear();
   if (database_.isValid()) database_.close();
 }
 

@@ -26,6 +26,9 @@ class Session {
   // The engine rolls back what is open.
   void Close();
 
+  // How the link to the server is, for a user.
+  QString LinkDescription() const;
+
   // One statement of the shared words. The query stands before its first row.
   QSqlQuery Run(const QString& statement, const QString& source);
   // Names and types of its columns, without a word to the server.
@@ -38,6 +41,8 @@ class Session {
  private:
   void CheckDriver() const;
   void SetUp();
+  // Closes, and tells why.
+  [[noreturn]] void GiveUp(const QString& reason, quint32 number = AdoNumber::Unspecified);
   QString WithoutPassword(QString text) const;
 
   const ConnectionSettings settings_;
@@ -45,4 +50,5 @@ class Session {
   const QString handle_;  // QtSql's name of the connection
   QSqlDatabase database_;
   bool open_ = false;
+  QString cipher_;  // of the open session; empty when it is not encrypted or that is not known
 };

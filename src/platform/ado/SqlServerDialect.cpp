@@ -16,6 +16,23 @@ QString Enclosed(const QString& value) {
 
 }  // namespace
 
+namespace {
+
+// In the words of Microsoft's driver.
+QString EncryptionWords(Encryption encryption) {
+  switch (encryption) {
+    case Encryption::Off:
+      break;
+    case Encryption::Required:
+      return QStringLiteral("Encrypt=yes;TrustServerCertificate=yes");
+    case Encryption::Verify:
+      return QStringLiteral("Encrypt=yes;TrustServerCertificate=no");
+  }
+  return QStringLiteral("Encrypt=no");
+}
+
+}  // namespace
+
 bool SqlServerDialect::Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const {
   if (settings.name.isEmpty()) {
     *reason = QStringLiteral("No database is named. Set Name in the database section of the settings file.");
@@ -24,8 +41,8 @@ bool SqlServerDialect::Prepare(QSqlDatabase& database, const ConnectionSettings&
   QString source = settings.name;  // a data source or a whole connection string
   if (!settings.host.isEmpty()) {
     const QString port = settings.port == 0 ? QString() : u',' + QString::number(settings.port);
-    source = QStringLiteral("DRIVER={ODBC Driver 18 for SQL Server};SERVER=%1%2;DATABASE=%3")
-                 .arg(settings.host, port, Enclosed(settings.name));
+    source = QStringLiteral("DRIVER={ODBC Driver 18 for SQL Server};SERVER=%1%2;DATABASE=%3;%4")
+                 .arg(settings.host, port, Enclosed(settings.name), EncryptionWords(settings.encryption));
   }
   database.setDatabaseName(source);
   database.setUserName(Enclosed(settings.user));

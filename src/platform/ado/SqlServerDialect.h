@@ -14,6 +14,7 @@ class SqlServerDialect : public Dialect {
   bool Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const override;
   QString OpenAdvice(const QSqlError& error, const ConnectionSettings& settings) const override;
   QStringList SessionSetup(const ConnectionSettings& settings) const override;
+  bool KnowsEncryption() const override { return false; }
   QString BeginStatement() const override { return QStringLiteral("BEGIN TRANSACTION"); }
   bool ReadsForwardOnly() const override { return true; }
   QString Carry(const QString& statement, const ConnectionSettings& settings) const override;

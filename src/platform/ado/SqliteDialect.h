@@ -15,6 +15,7 @@ class SqliteDialect : public Dialect {
   QString OpenAdvice(const QSqlError& error, const ConnectionSettings& settings) const override;
   QStringList SessionSetup(const ConnectionSettings& settings) const override;
   QString SessionCheck() const override;
+  bool KnowsEncryption() const override { return false; }
   QString BeginStatement() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
   // Qt's driver counts a statement's columns once; when another client has added a column since the session last
   // looked, the engine prepares the statement anew with more of them while it runs, and the driver writes past its row.

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <optional>
+
+#include "platform/ado/ConnectionSettings.h"
+
+// A database server of a case's own on a port of loopback, gone with the object. Its database is "site", its user
+// "clerk" has a password and owns it. Throws std::runtime_error with the server's log when it does not start.
+class OwnServer {
+ public:
+  // Whom the certificate it shows names, and who says so.
+  enum class Certificate { Right, OfAnotherName, Expired, OfAnotherAuthority };
+
+  explicit OwnServer(Engine engine);
+  ~OwnServer();
+  OwnServer(const OwnServer&) = delete;
+  OwnServer& operator=(const OwnServer&) = delete;
+
+  // Starts anew, with that certificate or without encryption.
+  void Show(std::optional<Certificate> certificate);
+  // A statement of the server's own administrator.
+  void Administer(const QString& statement);
+
+  ConnectionSettings Settings() const;
+  QString Authority() const { return folder_.filePath("authority.pem"); }
+  QString File(Certificate certificate) const;  // PEM; the key lies beside it with the ending ".key"
+
+ private:
+  void MakeCertificates();
+  void MakeCluster();
+  void Start(const QStringList& arguments);
+  void Stop();
+  bool Answers();
+  QStringList AsServer(const QStringList& command) const;
+  QByteArray Run(const QStringList& command);
+
+  const Engine engine_;
+  QTemporaryDir folder_;
+  int port_ = 0;
+  QString account_;  // that runs the server, which refuses to run as root; empty for our own
+  QProcess server_;
+};
