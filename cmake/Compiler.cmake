@@ -23,6 +23,17 @@ else()
     -Werror $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
 endif()
 
+# What Debian builds its packages with (dpkg-buildflags, hardening=+all).
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux" AND CMAKE_BUILD_TYPE STREQUAL "Release")
+  set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+  add_compile_options(-U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong -fstack-clash-protection
+    -Wformat -Werror=format-security)
+  if(CMAKE_SYSTEM_PROCESSOR STREQUAL "x86_64")
+    add_compile_options(-fcf-protection)
+  endif()
+  add_link_options(-pie -Wl,-z,relro,-z,now)
+endif()
+
 if(TABULON_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

@@ -2,8 +2,13 @@
 #include <QTimer>
 #include <cstdio>
 
+#ifndef Q_OS_WIN
+#include <sys/resource.h>
+#endif
+
 #include "Screens.h"
 #include "core/CommandLine.h"
+#include "core/Logon.h"
 #include "platform/desktop/TerminalPrompts.h"
 #include "shell/frmTabulon.h"
 
@@ -39,19 +44,31 @@ bool AnsweredOnTerminal(int argc, char** argv) {
   return false;
 }
 
+// The password stays in memory as long as the program runs: a crash leaves no copy of it on the disk.
+void KeepMemoryPrivate() {
+#ifndef Q_OS_WIN
+  const rlimit none{0, 0};
+  setrlimit(RLIMIT_CORE, &none);
+#endif
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (AnsweredOnTerminal(argc, argv)) return 0;
+  if (AnsweredOnTerminal(argc, argv)) return std::fflush(stdout) == 0 && std::ferror(stdout) == 0 ? 0 : 1;
   const QString commandLine = QuotedCommandLine(argc, argv);
   ForgetPassword(argc, argv);
+  KeepMemoryPrivate();
   QApplication application(argc, argv);
   QApplication::setApplicationName("Tabulon");
   QApplication::setOrganizationName("Ostana");
   QApplication::setApplicationVersion(Version());
 
   TerminalPrompts terminal;
-  if (qEnvironmentVariableIntValue("OSTANA_UNATTENDED") == 1) SetPrompts(&terminal);
+  if (qEnvironmentVariableIntValue("OSTANA_UNATTENDED") == 1) {
+    SetPrompts(&terminal);
+    gLogonDialog = [](QString&, QString&) { return false; };  // nobody would answer it
+  }
   RegisterDialogs();
   frmTabulon window(commandLine);
   OpenMainScreen(window);

@@ -13,6 +13,9 @@ namespace {
 const QString Title = QStringLiteral("Tabulon");
 constexpr int VersionLineLength = 65;  // characters, all of the line
 constexpr int ContinuationIndent = 24;
+constexpr QFileDevice::Permissions OwnerAndGroup = QFileDevice::ReadOwner | QFileDevice::WriteOwner |
+                                                   QFileDevice::ExeOwner | QFileDevice::ReadGroup |
+                                                   QFileDevice::WriteGroup | QFileDevice::ExeGroup;
 
 QString Directory() {
   return QDir::toNativeSeparators(QDir::currentPath() + "/Logs");
@@ -27,12 +30,18 @@ QString Moment() {
   return QLocale::c().toString(Clock::Now(), "yyyy-MM-dd hh:mm:ss AP");
 }
 
+// A line end inside of a text, such as a trigger's, begins no entry of its own.
+QString Indented(QString text) {
+  text.replace("\r\n", "\n").replace('\r', '\n');
+  return text.replace('\n', '\n' + QString(ContinuationIndent + 2, ' '));
+}
+
 QString EntryLine(const QString& text) {
-  return Moment() + "  * " + text;
+  return Moment() + "  * " + Indented(text);
 }
 
 QString ContinuationLine(const QString& text) {
-  return QString(ContinuationIndent, ' ') + "* " + text;
+  return QString(ContinuationIndent, ' ') + "* " + Indented(text);
 }
 
 QString VersionLine() {
@@ -42,7 +51,7 @@ QString VersionLine() {
 // A missing directory is made once and the write repeated once.
 void Append(const QString& path, const QStringList& lines) {
   if (WideTextFile::AppendLines(path, lines) != WideTextFile::Result::NoDirectory) return;
-  if (QDir().mkdir(Directory())) WideTextFile::AppendLines(path, lines);
+  if (QDir().mkdir(Directory(), OwnerAndGroup)) WideTextFile::AppendLines(path, lines);
 }
 
 void Rotate(const QString& log, const QString& old) {
@@ -54,7 +63,10 @@ void Rotate(const QString& log, const QString& old) {
 }  // namespace
 
 QString LogFilePath(const QString& application, const QString& qualifier, const QString& extension) {
-  const QString name = qualifier.isEmpty() ? application : application + " - " + qualifier;
+  QString name = qualifier.isEmpty() ? application : application + " - " + qualifier;
+  // A site that is refused for its name is told of in the log all the same.
+  for (QChar& letter : name)
+    if (letter == u'/' || letter == u'\\' || !letter.isPrint()) letter = u'_';
   return Directory() + QDir::separator() + name + extension;
 }
 

@@ -212,6 +212,7 @@ bool OstanaFunctions::LoadApplicationSettings(const QString& application, const 
   if (!OpenConnection()) return false;
   d_->cipher = std::make_unique<PasswordCipherHelper>(KeyFileOf(d_->settings.settingsFile));
 
+  for (const QString& sentence : ReadableByOthers(d_->settings)) WriteLog(sentence, {}, "L");
   QString givenUser = user, givenPassword = password;
   if (givenUser.isEmpty() && !AskForLogon(givenUser, givenPassword)) return d_->Refuse("The logon was cancelled.");
   d_->user = givenUser;

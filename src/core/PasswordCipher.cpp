@@ -82,6 +82,9 @@ void MakeKeyFile(const QString& path) {
 }
 
 QByteArray ReadKeyFile(const QString& path) {
+  // A pipe would hold the program up.
+  if (const QFileInfo info(path); info.exists() && !info.isFile())
+    Fail(QStringLiteral("The key file '%1' cannot be read: it is not a file.").arg(path));
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly))
     Fail(QStringLiteral("The key file '%1' cannot be read: %2.").arg(path, file.errorString()));

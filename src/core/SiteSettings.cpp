@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 #include <array>
 #include <exception>
 #include <optional>
@@ -11,6 +12,10 @@
 #include "platform/ado/Dialect.h"
 #include "platform/files/IniFile.h"
 #include "platform/files/IniText.h"
+
+#ifndef Q_OS_WIN
+#include <unistd.h>
+#endif
 
 namespace {
 
@@ -85,6 +90,17 @@ QString BelowApplicationPath(const QString& name, const QString& applicationPath
   return name.isEmpty() ? QString() : QDir::cleanPath(QDir(applicationPath).absoluteFilePath(name));
 }
 
+// Of this user or the machine's administrator, and closed to the writing of others.
+bool IsTrustworthy(const QString& file) {
+#ifdef Q_OS_WIN
+  Q_UNUSED(file)
+  return true;
+#else
+  const QFileInfo info(file);
+  return (info.ownerId() == ::geteuid() || info.ownerId() == 0) && !info.permission(QFileDevice::WriteOther);
+#endif
+}
+
 bool ReadSettingsFile(SiteSettings& settings, IniText& text, QString& error) {
   settings.applicationPath = FindApplicationPath();
   settings.settingsFile = Files::FindIgnoringCase(settings.applicationPath, SettingsName);
@@ -95,11 +111,24 @@ bool ReadSettingsFile(SiteSettings& settings, IniText& text, QString& error) {
                 .arg(SettingsName, settings.applicationPath);
     return false;
   }
+  if (qEnvironmentVariableIsEmpty("OSTANA_HOME") && !IsTrustworthy(settings.settingsFile)) {
+    error = QStringLiteral(
+                "The settings file '%1' belongs to another user, or everybody may write it.  Set OSTANA_HOME to its "
+                "directory if you trust it.")
+                .arg(settings.settingsFile);
+    return false;
+  }
   QString reason;
   if (IniFile::Read(settings.settingsFile, text, &reason)) return true;
   error = QStringLiteral("The settings file cannot be used.  %1  Put a copy of a sound settings file in its place.")
               .arg(reason);
   return false;
+}
+
+// The site's name becomes part of the name of its log.
+bool IsSiteName(const QString& site) {
+  return std::none_of(site.begin(), site.end(),
+                      [](QChar letter) { return letter == u'/' || letter == u'\\' || !letter.isPrint(); });
 }
 
 std::optional<QString> FindDatabaseSection(const QString& site, const IniText& text, const QString& file,
@@ -193,12 +222,31 @@ QString FindApplicationPath() {
   return WithSeparator(QCoreApplication::applicationDirPath());
 }
 
+QStringList ReadableByOthers(const SiteSettings& settings) {
+  QStringList sentences;
+  const auto look = [&](const QString& file, const QString& what) {
+    const QFileInfo info(file);
+    if (info.exists() && info.permission(QFileDevice::ReadOther))
+      sentences += QStringLiteral("The file '%1' %2, and everybody on this machine may read it.").arg(file, what);
+  };
+  if (!settings.connection.password.isEmpty()) look(settings.settingsFile, "holds the password of the database");
+  look(KeyFileOf(settings.settingsFile), "is the key of encoded passwords");
+  if (settings.connection.engine == Engine::Sqlite) look(settings.connection.name, "is the database");
+  return sentences;
+}
+
 QString KeyFileOf(const QString& settingsFile) {
   return Files::FindIgnoringCase(QFileInfo(settingsFile).absolutePath(), "Ostana.key");
 }
 
 bool LoadSiteSettings(const QString& site, SiteSettings& settings, QString& error) {
   error.clear();
+  if (!IsSiteName(site)) {
+    error = QStringLiteral(
+        "The name of the site holds a path separator or a control character.  Write the name of a "
+        "section [Database NAME] of the settings file.");
+    return false;
+  }
   SiteSettings read;
   IniText text;
   if (!ReadSettingsFile(read, text, error)) return false;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "platform/ado/ConnectionSettings.h"
 
@@ -23,8 +24,13 @@ struct SiteSettings {
 };
 
 // Root directory of the system, ending in a separator: OSTANA_HOME of the environment, else the current directory when
-// it holds the settings file, else the folder of the program.
+// it holds the settings file, else the folder of the program. The current directory is nobody's choice: a file of it
+// that belongs to another user, or that everybody may write, is refused by LoadSiteSettings.
 QString FindApplicationPath();
+
+// What everybody on the machine could read of the site's secrets: a sentence for each such file. Empty where others are
+// kept out, and where the file system knows no such rights.
+QStringList ReadableByOthers(const SiteSettings& settings);
 
 // Key file of the site, beside its settings file.
 QString KeyFileOf(const QString& settingsFile);

@@ -17,6 +17,15 @@ QString National(const QString& text) {
   return "N'" + gclsOF->SqlEscape(text) + "'";
 }
 
+QString NationalAsItStands(const QString& text) {
+  if (text.contains(u'\'')) {
+    throw AdoError(AdoNumber::TextRefused,
+                   "The statement was not sent: a value that goes into it as it stands holds a quote.",
+                   "Connection.Execute");
+  }
+  return "N'" + text + "'";
+}
+
 QString PlainOr(const QString& text, const QString& nullWord) {
   return text.isEmpty() ? nullWord : Plain(text);
 }

@@ -13,6 +13,9 @@ namespace Sql {
 QString Table(const QString& name);     // owner prefix and name
 QString Plain(const QString& text);     // '...'
 QString National(const QString& text);  // N'...'
+// N'...' with the text as it stands, for a value that other programs read so. A quote would end the literal: the
+// failure of the statement (AdoError TextRefused), before anything is sent.
+QString NationalAsItStands(const QString& text);
 // Empty text gives the word in the letters its statement uses: "NULL" or "Null".
 QString PlainOr(const QString& text, const QString& nullWord);
 QString NationalOr(const QString& text, const QString& nullWord);

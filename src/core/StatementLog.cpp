@@ -3,11 +3,12 @@
 #include "core/Clock.h"
 #include "core/SecretMask.h"
 #include "platform/ado/Connection.h"
+#include "platform/files/AppendedFile.h"
 
-StatementLog::StatementLog(const QString& path) : file_(path) {}
+StatementLog::StatementLog(const QString& path) : path_(path) {}
 
 bool StatementLog::Write(const StatementRecord& statement) {
-  if (!file_.isOpen() && !file_.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered)) return false;
+  if (!file_.isOpen() && !OpenToAppend(file_, path_)) return false;
   QString rows = statement.affectedRows < 0 ? QStringLiteral("-") : QString::number(statement.affectedRows);
   if (statement.failed) rows = QStringLiteral("failed");
   QString text = MaskSecrets(statement.text);

@@ -16,5 +16,6 @@ class StatementLog {
   bool Write(const StatementRecord& statement);
 
  private:
+  QString path_;
   QFile file_;
 };

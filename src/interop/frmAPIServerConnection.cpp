@@ -68,9 +68,7 @@ void frmAPIServerConnection::TrimFields() {
 
 ServerConnection::Columns frmAPIServerConnection::Values() const {
   const bool all = rdUseAllLocations->IsSet(0);
-  // The URL goes into its literal as it stands. One that breaks the statement is refused by Connection before anything
-  // is sent.
-  const QString url = txtAPIURL->Text().isEmpty() ? QString("Null") : "N'" + txtAPIURL->Text() + "'";
+  const QString url = txtAPIURL->Text().isEmpty() ? QString("Null") : Sql::NationalAsItStands(txtAPIURL->Text());
   return {{"API_ILS_SYSTEM", Sql::National(cmbILSSystem->Code())},
           {"API_CONNECT_TYPE", Sql::National(cmbConnect->Code())},
           {"API_HOST_ADDRESS", Sql::National(txtServerAddress->Text())},

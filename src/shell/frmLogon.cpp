@@ -1,10 +1,13 @@
 #include "shell/frmLogon.h"
 
+#include <QLabel>
 #include <QPushButton>
 #include <QSettings>
 #include <QVBoxLayout>
 
 #include "core/Logon.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "platform/controls/FormLayout.h"
 #include "shell/Help.h"
 
@@ -49,7 +52,11 @@ void frmLogon::BuildControls() {
   rows.Add("lblPassword", "&Password:", txtPassword);
   // Both as wide as most entries need; a longer password scrolls.
   for (TextBox* field : {txtUser, txtPassword}) field->setFixedWidth(Form::FieldWidth(field, 30));
-  auto* const column = Form::Column(this, {fields});
+  // A test site and the real one have databases of the same name. Where the file comes from is what tells them apart.
+  auto* const lblSite = new QLabel("Site: " + gclsOF->ApplicationPath(), this);
+  lblSite->setObjectName("lblSite");
+  lblSite->setTextFormat(Qt::PlainText);
+  auto* const column = Form::Column(this, {lblSite, fields});
   column->addLayout(Form::ButtonRow({nullptr, cmdOK, cmdCancel}));
 
   connect(txtUser, &TextBox::Change, this, &frmLogon::EnableOK);

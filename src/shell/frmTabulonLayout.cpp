@@ -144,6 +144,7 @@ void frmTabulon::ShowStatus() {
   const QString database = open ? gclsOF->Connection().Settings().name : QString();
   status_->setToolTip("Link to the database: " + (open ? gclsOF->Connection().LinkDescription() : QString("not open")));
   const QString language = gclsOF->LanguageSuffix().isEmpty() ? QString("default") : gclsOF->LanguageSuffix().mid(1);
-  status_->setText(QString("User: %1     Database: %2     Language: %3     Rights: %4")
-                       .arg(gclsOF->UserId(), database, language, rights.isEmpty() ? "none" : rights.join(", ")));
+  status_->setText(QString("User: %1     Database: %2     Language: %3     Rights: %4     Site: %5")
+                       .arg(gclsOF->UserId(), database, language, rights.isEmpty() ? "none" : rights.join(", "),
+                            gclsOF->ApplicationPath()));
 }

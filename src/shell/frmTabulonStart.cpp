@@ -1,4 +1,5 @@
 // Start-up of the main screen: from the quoted command line to the first tab.
+#include "core/Clock.h"
 #include "core/CommandLine.h"
 #include "core/Languages.h"
 #include "core/LogFiles.h"
@@ -12,6 +13,8 @@
 #include "shell/WebServiceReading.h"
 #include "shell/frmTabulon.h"
 
+#include <QCoreApplication>
+#include <QSysInfo>
 #include <QTabWidget>
 #include <optional>
 
@@ -22,6 +25,16 @@ const QString ClassFailed = "Failed to Load the Application Class Settings.  Ter
 
 QString TrueOrFalse(bool value) {
   return value ? "True" : "False";
+}
+
+// Whoever tries passwords has to wait for each answer.
+constexpr std::chrono::seconds RefusalTakes{2};
+
+// Who logged on from where, for those who look into it later.
+QString WhoAndWhere(const QString& user) {
+  return QString("user '%1', machine '%2', process %3")
+      .arg(user, QSysInfo::machineHostName())
+      .arg(QCoreApplication::applicationPid());
 }
 
 // An underscore at the start or a length of four lets a working language pass.
@@ -95,7 +108,13 @@ bool frmTabulon::Logon(Procedure& procedure) {
   bool valid = false;
   procedure.Step(
       [&] { valid = gclsOF->ID_ValidateLogin(gclsOF->UserId(), gclsOF->UserPassword(), gclsOF->ApplicationName()); });
-  if (valid) return true;
+  const QString who = WhoAndWhere(gclsOF->UserId());
+  if (valid) {
+    gclsOF->WriteLog("Logon: " + who, {}, "L");
+    return true;
+  }
+  gclsOF->WriteLog("Logon refused: " + who, gclsOF->LastError(), "L");
+  Clock::Pause(RefusalTakes);
   if (gclsOF->Tracing()) gclsOF->WriteLog("gclsOF.ID_ValidateLogin: Not valid. ", {}, "L");
   ShowMessage(gclsOF->LastError(), MessageStyle::Stop, Caption());
   EndProcess(1);

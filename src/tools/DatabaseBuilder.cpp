@@ -21,7 +21,10 @@ bool MakeFile(const QString& path) {
   const QFileInfo info(path);
   if (info.exists()) return false;
   QFile file(path);
-  if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) return true;
+  // Passwords lie in it.
+  constexpr QFileDevice::Permissions ownerAndGroup =
+      QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup | QFileDevice::WriteGroup;
+  if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly, ownerAndGroup)) return true;
   throw AdoError(
       AdoNumber::Unspecified,
       QStringLiteral("The database file \"%1\" could not be made (%2). Check that its folder exists and that "

@@ -1,10 +1,10 @@
 #include "tools/ExportFile.h"
 
 #include <QDir>
-#include <QSaveFile>
 #include <cstdio>
 #include <stdexcept>
 
+#include "platform/files/WholeFile.h"
 #include "schema/ExportText.h"
 
 #ifdef Q_OS_WIN
@@ -13,6 +13,8 @@
 #endif
 
 namespace {
+
+constexpr qint64 LargestFile = 256 * 1024 * 1024;  // bytes; a device never ends
 
 [[noreturn]] void Fail(const QString& path, const QString& what, const QString& reason) {
   throw std::runtime_error(
@@ -23,7 +25,9 @@ QByteArray ReadAll(const QString& path) {
   QFile file(path);
   const bool open = path == u"-" ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
   if (!open) Fail(path, "cannot be read", file.errorString());
-  return file.readAll();
+  QByteArray text = file.read(LargestFile + 1);
+  if (text.size() > LargestFile) Fail(path, "cannot be used", "it is larger than 256 MB");
+  return text;
 }
 
 void Print(const QByteArray& text) {
@@ -52,10 +56,7 @@ void ExportFile::Save(const QString& path, const std::vector<TableContent>& tabl
     Print(text);
     return;
   }
-  QSaveFile file(path);
-  bool written = file.open(QIODevice::WriteOnly);
-  // Before the text is in it.
-  if (written && secret) written = file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-  written = written && file.write(text) == text.size() && file.commit();
-  if (!written) Fail(path, "cannot be written", file.errorString());
+  QString reason;
+  if (!WholeFile::Write(path, text, &reason, secret ? WholeFile::Readers::OwnerOnly : WholeFile::Readers::AsBefore))
+    Fail(path, "cannot be written", reason);
 }

@@ -10,14 +10,36 @@ namespace {
 
 const QCommandLineOption PasswordOption("password", "The password; asked for when it is not given.", "PASSWORD");
 
+constexpr qsizetype UsualLength = 8;  // characters
+
 // The record of the new password, given or asked for. Nothing when there is none.
 std::optional<QString> NewRecord(const CommandArguments& command, const QString& user) {
   const std::optional<QString> password =
       command.IsSet("password") ? command.Value("password") : Terminal::AskNewPassword(user);
   if (!password) return std::nullopt;
+  if (password->size() < UsualLength && !password->isEmpty())
+    Terminal::Complain(
+        QStringLiteral("Note: a password of fewer than %1 characters is soon guessed.").arg(UsualLength));
   if (!password->isEmpty()) return PasswordRecord::Make(*password);
   Terminal::Complain("A password may not be empty.");
   return std::nullopt;
+}
+
+// Letters, digits, signs and blanks. Control characters and those that only turn the direction of others would show a
+// name as another one.
+bool IsName(const QString& name) {
+  return std::all_of(name.begin(), name.end(),
+                     [](QChar letter) { return letter.isPrint() && letter.category() != QChar::Other_Format; });
+}
+
+// A name that another program stored may hold anything.
+QString Shown(const QString& name) {
+  QString shown;
+  for (const QChar letter : name)
+    shown += IsName(letter) || letter.isSurrogate()
+                 ? QString(letter)
+                 : QStringLiteral("\\u{%1}").arg(letter.unicode(), 4, 16, QChar('0'));
+  return shown;
 }
 
 int RefuseUnknown(const QString& name) {
@@ -34,6 +56,7 @@ int Add(const QStringList& arguments) {
   const QString name = command.Positional()[0].trimmed();
   if (name.isEmpty() || name.size() > Users::LongestName)
     return RefuseUsage("A user's name has 1 to 20 characters.", "user add");
+  if (!IsName(name)) return RefuseUsage("A user's name holds no control characters.", "user add");
   return WithDatabase(command, [&](Connection& connection, const SiteSettings&) {
     if (Users::Exists(connection, name)) return Refuse("The user \"" + name + "\" exists already.");
     const std::optional<QString> record = NewRecord(command, name);
@@ -120,6 +143,14 @@ int Rights(const QStringList& arguments) {
   });
 }
 
+bool NobodyGetsIn(Connection& connection) {
+  const std::vector<Users::User> users = Users::List(connection);
+  return std::none_of(users.begin(), users.end(), [](const Users::User& user) {
+    return std::any_of(user.rights.begin(), user.rights.end(),
+                       [](const Users::Right& right) { return right.function == u"Tabulon"; });
+  });
+}
+
 int Remove(const QStringList& arguments) {
   CommandArguments command("user remove NAME [--site NAME]", "Removes a user with all rights.");
   command.AddPositional("NAME", "the user");
@@ -130,6 +161,7 @@ int Remove(const QStringList& arguments) {
     if (!Users::Exists(connection, name)) return RefuseUnknown(name);
     Users::Remove(connection, name);
     Terminal::Print("Removed the user " + name + '.');
+    if (NobodyGetsIn(connection)) Terminal::Complain("Note: nobody has access to Tabulon any more.");
     return ExitCode::Done;
   });
 }
@@ -140,8 +172,9 @@ int List(const QStringList& arguments) {
   if (!command.Parse(arguments, 0, 0, exitCode)) return exitCode;
   return WithDatabase(command, [](Connection& connection, const SiteSettings&) {
     for (const Users::User& user : Users::List(connection)) {
-      Terminal::Print(user.name);
-      for (const Users::Right& right : user.rights) Terminal::Print("  " + right.function + ": " + RightWords(right));
+      Terminal::Print(Shown(user.name));
+      for (const Users::Right& right : user.rights)
+        Terminal::Print("  " + Shown(right.function) + ": " + RightWords(right));
     }
     return ExitCode::Done;
   });

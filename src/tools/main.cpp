@@ -1,4 +1,5 @@
 #include <QCoreApplication>
+#include <cstdio>
 #include <cstring>
 
 #include "tools/Command.h"
@@ -26,5 +27,9 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName("tabulon-db");
   const QStringList arguments = QCoreApplication::arguments().mid(1);
   ForgetPassword(argc, argv);
-  return RunTabulonDb(arguments);
+  const int exitCode = RunTabulonDb(arguments);
+  // Whoever reads the answer from a file that is full must not take it for whole.
+  if (std::fflush(stdout) == 0 && std::ferror(stdout) == 0) return exitCode;
+  std::fputs("The output could not be written.\n", stderr);
+  return exitCode == ExitCode::Done ? ExitCode::Refused : exitCode;
 }

@@ -202,6 +202,32 @@ TEST(DialectText, EncryptionIsAskedOfOdbcInTheConnectionString) {
   QSqlDatabase::removeDatabase("encrypted");
 }
 
+// What the server's reference tells of a literal: a backslash before LF or CR LF is taken away with it.
+QString AsSqlServerReads(const QString& literal) {
+  QString text;
+  for (qsizetype i = 0; i < literal.size(); ++i) {
+    if (literal[i] == u'\\' && literal.mid(i + 1).startsWith(u"\r\n")) {
+      i += 2;
+    } else if (literal[i] == u'\\' && literal.mid(i + 1).startsWith(u'\n')) {
+      ++i;
+    } else {
+      if (literal[i] == u'\'') ++i;
+      text += literal[i];
+    }
+  }
+  return text;
+}
+
+TEST(DialectText, ABackslashAtTheEndOfALineStaysOnSqlServer) {
+  const Dialect& dialect = Dialect::For(Engine::SqlServer);
+  for (const QString& text : QStringList{"\\\\server\\share\\\r\nnext line", "a\\\nb", "\\\\\n\n", "\\\r\n\r\n",
+                                         "\\\n\\\r\n\\", "a\\", "it's\\\n", "\\\rx"})
+    EXPECT_EQ(AsSqlServerReads(dialect.Escape(text)), text) << text.toStdString();
+  EXPECT_EQ(dialect.Escape("a\\\r\nb"), "a\\\\\r\n\r\nb");
+  for (const Engine other : {Engine::Sqlite, Engine::PostgreSql, Engine::MariaDb})
+    EXPECT_EQ(Dialect::For(other).Escape("a\\\nb'c"), "a\\\nb''c");
+}
+
 TEST(DialectText, DatabaseTypesAndDrivers) {
   const int types[] = {1, 2, 3, 5};
   const char* const drivers[] = {"QSQLITE", "QPSQL", "QMYSQL", "QODBC"};

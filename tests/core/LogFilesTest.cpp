@@ -1,7 +1,13 @@
 #include "core/LogFiles.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
 
 #include "core/WorkFolder.h"
 #include "platform/files/WideTextFile.h"
@@ -163,3 +169,38 @@ TEST_F(LogFilesTest, LogThatCannotBeWrittenIsNoFailure) {
   WriteLogLines("Tabulon", "", "text", "detail", "C");
   EXPECT_TRUE(QFileInfo(Path("Logs/Tabulon.log")).isDir());
 }
+
+TEST_F(LogFilesTest, ALineEndInsideOfATextBeginsNoEntry) {
+  WriteLogLines("Tabulon", "", "first\n2026-01-01 00:00:00 AM  * forged", "a\r\nb\rc", "L");
+  const QStringList lines = WideTextFile::ReadLines(LogFilePath("Tabulon", "", ".log"));
+  ASSERT_EQ(lines.size(), 5);
+  EXPECT_EQ(lines[1], QString(26, ' ') + "2026-01-01 00:00:00 AM  * forged");
+  EXPECT_EQ(lines[2], QString(24, ' ') + "* a");
+  EXPECT_EQ(lines[3], QString(26, ' ') + 'b');
+}
+
+#ifndef Q_OS_WIN
+TEST_F(LogFilesTest, OnlyOwnerAndGroupReadALog) {
+  const mode_t before = ::umask(0);
+  WriteLogLines("Tabulon", "", "text", {}, "L");
+  ::umask(before);
+  const QString log = LogFilePath("Tabulon", "", ".log");
+  for (const QString& path : {log, QFileInfo(log).path()})
+    EXPECT_FALSE(QFileInfo(path).permissions() & (QFile::ReadOther | QFile::WriteOther | QFile::ExeOther))
+        << path.toStdString();
+}
+
+TEST_F(LogFilesTest, ALogThatIsALinkOrAPipeIsLeftAlone) {
+  const QString log = LogFilePath("Tabulon", "", ".log");
+  ASSERT_TRUE(QDir().mkpath(QFileInfo(log).path()));
+  Store("victim", "mine");
+  ASSERT_TRUE(QFile::link(Path("victim"), log));
+  WriteLogLines("Tabulon", "", "text", {}, "L");
+  QFile victim(Path("victim"));
+  ASSERT_TRUE(victim.open(QIODevice::ReadOnly));
+  EXPECT_EQ(victim.readAll(), "mine");
+  ASSERT_TRUE(QFile::remove(log));
+  ASSERT_EQ(::mkfifo(QFile::encodeName(log).constData(), 0600), 0);
+  WriteLogLines("Tabulon", "", "text", {}, "L");  // nobody reads the other end
+}
+#endif

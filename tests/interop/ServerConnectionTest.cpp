@@ -331,11 +331,29 @@ TEST_F(ServerConnectionTest, TheLabelsBesideTheOptionsChooseThem) {
 TEST_F(ServerConnectionTest, AnAPIURLGoesIntoItsLiteralAsItStands) {
   OpenForm(ApiForm);
   FillRequired("cmbILSSystem");
-  Type("txtAPIURL", "/o''neill");
+  Type("txtAPIURL", "/a\\b\"c%_{d}");
   Prompt().Expect("Settings added.", 64);
   Click("cmdOK");
-  EXPECT_TRUE(Writing().value(0).contains(", N'/o''neill', "));
-  EXPECT_EQ(ApiRow("API_HOST_URL"), "/o'neill");
+  EXPECT_TRUE(Writing().value(0).contains(", N'/a\\b\"c%_{d}', "));
+  EXPECT_EQ(ApiRow("API_HOST_URL"), "/a\\b\"c%_{d}");
+}
+
+// Whoever may open the dialog would read any value of the database through it otherwise.
+TEST_F(ServerConnectionTest, NoValueOfAnotherTableComesBackThroughTheAPIURL) {
+  AddApi(Own);
+  const QString before = ApiRow("API_HOST_URL");
+  OpenForm(ApiForm);
+  Statements();
+  for (const char* url :
+       {"'||(SELECT MAX(USER_PASSWORD) FROM ID_USER)||'", "' || (SELECT 'x') || '", "/o''neill", "'"}) {
+    Type("txtAPIURL", url);
+    Prompt().ExpectTitled(WriteFailed, 16, ApiCaption);
+    Click("cmdOK");
+    EXPECT_EQ(Text("txtAPIURL"), url);
+    EXPECT_EQ(Statements(), QStringList()) << url;
+    EXPECT_TRUE(LogHolds("Error: -2147217900 - The statement was not sent")) << url;
+  }
+  EXPECT_EQ(ApiRow("API_HOST_URL"), before);
 }
 
 TEST_F(ServerConnectionTest, AnAPIURLThatBreaksTheStatementEndsInTheFailureMessageAndNothingElse) {

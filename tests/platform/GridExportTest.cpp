@@ -5,6 +5,7 @@
 #include <QPrinter>
 #include <QTemporaryDir>
 
+#include "platform/FileSizeLimit.h"
 #include "platform/Window.h"
 #include "platform/controls/Grid.h"
 #include "platform/controls/GridExport.h"
@@ -95,7 +96,7 @@ TEST_F(GridExportTest, AFileThatCannotBeWrittenIsTold) {
   answers.message.clear();
   answers.file = folder.filePath("no such folder/rows.pdf");
   GridExport::AskAndSavePdf(*grid);
-  EXPECT_EQ(answers.message, "The file " + *answers.file + " could not be written.");
+  EXPECT_TRUE(answers.message.startsWith("The file " + *answers.file + " could not be written.\n\n"));
 }
 
 TEST_F(GridExportTest, CancelledExportsDoNothing) {
@@ -121,6 +122,23 @@ TEST_F(GridExportTest, APageHoldsNoMoreThanFitsAndOneRowIsOnePage) {
   GridExport::AskAndSavePdf(*grid);
   EXPECT_EQ(Saved(*answers.file).count("/Type /Page\n"), 1);
 }
+
+#ifndef Q_OS_WIN
+TEST_F(GridExportTest, AFullDiskLeavesTheOldPdfAndIsSaid) {
+  answers.file = folder.filePath("rows.pdf");
+  QFile old(*answers.file);
+  ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+  old.write(QByteArray(8000, 'o'));
+  old.close();
+  {
+    const FileSizeLimit limit(512);
+    GridExport::AskAndSavePdf(*grid);
+  }
+  EXPECT_TRUE(answers.message.contains("could not be written.\n\n")) << answers.message.toStdString();
+  ASSERT_TRUE(old.open(QIODevice::ReadOnly));
+  EXPECT_EQ(old.readAll(), QByteArray(8000, 'o'));
+}
+#endif
 
 TEST_F(GridExportTest, WithoutAPrinterThatIsSaid) {
   GridExport::AskAndPrint(*grid);

@@ -40,6 +40,24 @@ TEST(SingleInstanceTest, CrashedProcessLocksNobodyOut) {
   EXPECT_FALSE(SingleInstance::AnotherIsRunning("TabulonCrashed"));
 }
 
+TEST(SingleInstanceTest, WhatIsNoLockKeepsNobodyOut) {
+  const QByteArray contents[] = {"", "garbage", "12345\nTabulon\nanother machine\n\n\n", QByteArray(1, '\0')};
+  for (const QByteArray& content : contents) {
+    static int count = 0;
+    const QString name = "TabulonOdd" + QString::number(++count);
+    QFile file(LockFile(name));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+    file.close();
+    EXPECT_FALSE(SingleInstance::AnotherIsRunning(name)) << content.constData();
+    EXPECT_EQ(AskInAnotherProcess(name), "another") << content.constData();
+  }
+  ASSERT_TRUE(QDir().mkpath(LockFile("TabulonFolder") + "/inside"));
+  EXPECT_FALSE(SingleInstance::AnotherIsRunning("TabulonFolder"));
+  ASSERT_TRUE(QFile::link("/dev/null", LockFile("TabulonLink")));
+  EXPECT_FALSE(SingleInstance::AnotherIsRunning("TabulonLink"));
+}
+
 TEST(SingleInstanceTest, LiveProcessIsNeverTakenForStale) {
   QLockFile other(LockFile("TabulonOther"));
   ASSERT_TRUE(other.tryLock(0));

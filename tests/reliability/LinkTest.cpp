@@ -158,7 +158,8 @@ TEST_F(LinkTest, OptionsThatPromiseLessAreRefused) {
 // The user's name and password reach the server as they are.
 TEST_F(LinkTest, NamesAndPasswordsOfAllLettersAreCarried) {
   Server().Show(Certificate::Right);
-  for (const QString& word : {"a;b", "a=b", "{a", "a}", "}}", " blank ", "a'b\"c\\d", "#%&\u00e9\u2013", "a;host=x"}) {
+  for (const QString& word :
+       QStringList{"a;b", "a=b", "{a", "a}", "}}", " blank ", "a'b\"c\\d", "#%&\u00e9\u2013", "a;host=x"}) {
     QString literal = word;
     literal.replace('\'', "''");
     if (IsPostgreSql()) {

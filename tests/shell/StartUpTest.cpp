@@ -172,8 +172,62 @@ TEST_F(StartUpTest, AWrongPasswordAndAnUnknownUserAreToldAlike) {
   EXPECT_EQ(password.exitCode, 1);
   EXPECT_EQ(password.output, "Ostana - System Maintenance: The user id or the password is not valid.\n");
   EXPECT_EQ(password.output, user.output);
-  ASSERT_EQ(password.log.size(), 3);
-  EXPECT_TRUE(password.log[2].endsWith("  * gclsOF.ID_ValidateLogin: Not valid. "));
+  ASSERT_EQ(password.log.size(), 5);
+  EXPECT_TRUE(password.log[2].contains("  * Logon refused: user 'admin', machine '" + QSysInfo::machineHostName() +
+                                       "', process "))
+      << password.log[2].toStdString();
+  EXPECT_EQ(password.log[3], QString(24, ' ') + "* The user id or the password is not valid.");
+  EXPECT_TRUE(password.log[4].endsWith("  * gclsOF.ID_ValidateLogin: Not valid. "));
+}
+
+TEST_F(StartUpTest, LogonsAndRefusalsAreLoggedWithoutTracingToo) {
+  Setting("System", "Tracing", "N");
+  EXPECT_TRUE(Holds(Run({"", "nobody", "secret"}).log, "Logon refused: user 'nobody', machine '"));
+  TakeAway("ADD_FLAG");
+  Another("DELETE FROM ID_USER_FUNCTION WHERE FUNCTION_NAME = 'Tabulon'");
+  const Outcome withoutAccess = Run({"", "admin", "secret"});
+  EXPECT_TRUE(Holds(withoutAccess.log, "* You do not have access to this function"));
+}
+
+TEST_F(StartUpTest, ASiteOfAStrangeNameIsRefusedAndLogged) {
+  for (const QString& site : QStringList{"a/b", "../x", "a\\b"}) {
+    const Outcome outcome = Run({site, "admin", "secret"});
+    EXPECT_EQ(outcome.exitCode, 1);
+    EXPECT_TRUE(outcome.output.contains("The name of the site holds a path separator or a control character."))
+        << outcome.output.toStdString();
+  }
+  EXPECT_TRUE(QFile::exists(QDir(Folder()).filePath("Logs/Tabulon - a_b.log")));
+}
+
+TEST_F(StartUpTest, WithoutAUserAnUnattendedRunEndsAtOnce) {
+  MustBeRefused(Run({}), "The logon was cancelled.");
+}
+
+TEST_F(StartUpTest, TheSiteOfACurrentDirectoryThatEverybodyMayWriteIsRefused) {
+  QFile::setPermissions(SettingsFile(), QFileDevice::Permissions(0x6666));
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.remove("OSTANA_HOME");
+  environment.insert("OSTANA_UNATTENDED", "1");
+  environment.insert("QT_QPA_PLATFORM", "offscreen");
+  QProcess process;
+  process.setProcessEnvironment(environment);
+  process.setWorkingDirectory(Folder());
+  process.start(BuildFolder() + "/Tabulon", {"", "admin", "secret"});
+  ASSERT_TRUE(process.waitForFinished(60000));
+  EXPECT_EQ(process.exitCode(), 1);
+  const QString said = QString::fromUtf8(process.readAllStandardOutput());
+  EXPECT_TRUE(said.contains("belongs to another user, or everybody may write it.  Set OSTANA_HOME"))
+      << said.toStdString();
+}
+
+TEST_F(StartUpTest, SecretsThatEverybodyMayReadAreToldOfInTheLog) {
+  Setting("Database", "Password", "db$Secr3t");
+  QFile::setPermissions(SettingsFile(), QFileDevice::Permissions(0x6644));
+  EXPECT_TRUE(Holds(Run({"", "admin", "wrong"}).log,
+                    "holds the password of the database, and everybody on this machine may read it."));
+  QFile::setPermissions(SettingsFile(), QFileDevice::Permissions(0x6640));
+  QFile::remove(LogFile());
+  EXPECT_FALSE(Holds(Run({"", "admin", "wrong"}).log, "everybody on this machine may read it."));
 }
 
 TEST_F(StartUpTest, ALogonThatTheDatabaseFailsIsLoggedLikeAnyFailure) {
@@ -192,15 +246,16 @@ TEST_F(StartUpTest, ALogonThatTheDatabaseFailsIsLoggedLikeAnyFailure) {
 TEST_F(StartUpTest, AGoodStartRunsOnAndLogsItsRights) {
   const Outcome outcome = RunUp({"", "admin", "secret"});
   EXPECT_FALSE(outcome.ended) << outcome.output.toStdString();
-  ASSERT_EQ(outcome.log.size(), 4);
-  EXPECT_TRUE(outcome.log[2].endsWith("  * ADD: True , Update: True , Delete: True"));
-  EXPECT_TRUE(outcome.log[3].endsWith("  * Form_Activate - Logon Worked"));
+  ASSERT_EQ(outcome.log.size(), 5);
+  EXPECT_TRUE(outcome.log[2].contains("  * Logon: user 'admin', machine '")) << outcome.log[2].toStdString();
+  EXPECT_TRUE(outcome.log[3].endsWith("  * ADD: True , Update: True , Delete: True"));
+  EXPECT_TRUE(outcome.log[4].endsWith("  * Form_Activate - Logon Worked"));
 }
 
 TEST_F(StartUpTest, ASiteHasItsOwnLog) {
   const Outcome outcome = RunUp({"north", "admin", "secret"}, "Tabulon - north");
   EXPECT_FALSE(outcome.ended) << outcome.output.toStdString();
-  ASSERT_EQ(outcome.log.size(), 4);
+  ASSERT_EQ(outcome.log.size(), 5);
   EXPECT_FALSE(QFile::exists(LogFile()));
 }
 

@@ -1,11 +1,14 @@
 #include "shell/frmLogon.h"
 
+#include <QLabel>
 #include <QPushButton>
 #include <QSettings>
 #include <QTest>
 #include <QTimer>
 
 #include "core/Logon.h"
+#include "core/ModuleState.h"
+#include "core/OstanaFunctions.h"
 #include "core/WorkFolder.h"
 
 namespace {
@@ -64,6 +67,20 @@ TEST_F(frmLogonTest, CancelAndEscapeAnswerFalseAndChangeNothing) {
   EXPECT_FALSE(Ask());
   EXPECT_EQ(user, "before");
   EXPECT_EQ(password, "before");
+}
+
+TEST_F(frmLogonTest, TheSiteIsNamedBeforeAPasswordIsTyped) {
+  Store("Ostana.ini", "[Database]\nEngine=SQLITE\nName=ostana.db\n");
+  QString shown;
+  gLogonDialog = [&shown](QString&, QString&) {
+    frmLogon dialog;
+    shown = dialog.findChild<QLabel*>("lblSite")->text();
+    return false;
+  };
+  Store("ostana.db", "");
+  EXPECT_FALSE(gclsOF->LoadApplicationSettings("Tabulon", "", "", ""));
+  ResetModuleState();
+  EXPECT_EQ(shown, "Site: " + QDir::toNativeSeparators(Path("") + "/"));
 }
 
 TEST_F(frmLogonTest, WithoutAUserThereIsNoOk) {

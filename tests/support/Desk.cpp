@@ -74,6 +74,7 @@ void Desk::SetUp() {
   QSettings().clear();
   ResetModuleState();
   SetDecimalSeparator();
+  Clock::SetPause([](std::chrono::milliseconds) {});  // nobody waits for what is only there to be waited for
   script_ = std::make_unique<Script>();
   SetProcessEnd([this](int code) { exitCode_ = code; });
   database_ = std::make_unique<TestDatabase>(WithSample());

@@ -2,6 +2,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <QProcess>
+
 #include "core/PasswordCipher.h"
 #include "core/UserRights.h"
 #include "support/Folders.h"
@@ -154,5 +156,43 @@ TEST_F(UserTest, TheListTellsNamesAndRightsAndNoPassword) {
   EXPECT_TRUE(list.out.contains("admin\n"));
   EXPECT_FALSE(list.out.contains("pbkdf2"));
 }
+
+TEST_F(UserTest, NamesThatWouldShowAsOthersAreRefused) {
+  for (const QString& name :
+       {QString("a\nroot"), QString("a\x1b[2Jb"), QString("a") + QChar(0x202E) + "b", QString("a") + QChar(0x200B)}) {
+    const Result refused = Run({"user", "add", name, "--password", "a long password"});
+    EXPECT_EQ(refused.exitCode, 2);
+    EXPECT_TRUE(refused.err.contains("A user's name holds no control characters.")) << refused.err.toStdString();
+  }
+  EXPECT_EQ(Count("ID_USER"), 1);
+  EXPECT_EQ(Run({"user", "add", QString::fromUtf8("Zoë 漢 𝄞"), "--password", "a long password"}).exitCode, 0);
+  Execute("INSERT INTO ID_USER (USER_ID, USER_PASSWORD) VALUES ('x\n\x1b[2Jy', 'z')");
+  const Result list = Run({"user", "list"});
+  EXPECT_TRUE(list.out.contains("x\\u{000a}\\u{001b}[2Jy\n")) << list.out.toStdString();
+  EXPECT_TRUE(list.out.contains(QString::fromUtf8("Zoë 漢 𝄞\n"))) << list.out.toStdString();
+}
+
+TEST_F(UserTest, AShortPasswordAndTheLastAdministratorAreNoted) {
+  EXPECT_TRUE(Run({"user", "add", "eva", "--password", "1234567"}).err.contains("fewer than 8 characters"));
+  EXPECT_EQ(Run({"user", "password", "eva", "--password", "12345678"}).err, "");
+  EXPECT_TRUE(Run({"user", "remove", "admin"}).err.contains("Note: nobody has access to Tabulon any more."));
+  EXPECT_EQ(Run({"user", "remove", "eva"}).exitCode, 0);
+}
+
+#ifdef Q_OS_LINUX
+TEST_F(UserTest, AnAnswerThatFindsNoRoomIsAFailure) {
+  for (const QStringList& arguments : {QStringList{"user", "list"}, QStringList{"--help"}, QStringList{"check"}}) {
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("OSTANA_HOME", Folder());
+    process.setProcessEnvironment(environment);
+    process.setStandardOutputFile("/dev/full");
+    process.start(BuildFolder() + "/tabulon-db", arguments);
+    ASSERT_TRUE(process.waitForFinished(60000));
+    EXPECT_EQ(process.exitCode(), 1) << arguments.join(' ').toStdString();
+    EXPECT_TRUE(process.readAllStandardError().contains("The output could not be written."));
+  }
+}
+#endif
 
 }  // namespace

@@ -52,8 +52,8 @@ class Dialect {
 
   virtual QString DateLiteral(const QDate& date) const;
   virtual QString DateTimeLiteral(const QDateTime& moment) const;
-  // Doubles each single quote; a backslash is an ordinary character on every engine.
-  QString Escape(const QString& text) const;
+  // The text as it stands inside of a literal: each single quote is doubled.
+  virtual QString Escape(const QString& text) const;
 
   AdoError Translate(const QSqlError& error, const QString& source) const;
   // True when the error says that the server is gone.

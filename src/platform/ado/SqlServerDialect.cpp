@@ -105,6 +105,14 @@ QString SqlServerDialect::Carry(const QString& statement, const ConnectionSettin
   return Join(tokens);
 }
 
+// A backslash before a line end joins the lines, and both are gone ("Backslash (Line Continuation)" of the server's
+// reference): they stand twice.
+QString SqlServerDialect::Escape(const QString& text) const {
+  QString escaped = Dialect::Escape(text);
+  return escaped.replace(QLatin1String("\\\r\n"), QLatin1String("\\\\\r\n\r\n"))
+      .replace(QLatin1String("\\\n"), QLatin1String("\\\\\n\n"));
+}
+
 // Without hyphens a date is read in the same way under every language and date format of the server.
 QString SqlServerDialect::DateLiteral(const QDate& date) const {
   return date.toString(u"''yyyyMMdd''");

@@ -18,6 +18,7 @@ class SqlServerDialect : public Dialect {
   QString BeginStatement() const override { return QStringLiteral("BEGIN TRANSACTION"); }
   bool ReadsForwardOnly() const override { return true; }
   QString Carry(const QString& statement, const ConnectionSettings& settings) const override;
+  QString Escape(const QString& text) const override;
   QString DateLiteral(const QDate& date) const override;
   QString DateTimeLiteral(const QDateTime& moment) const override;
 

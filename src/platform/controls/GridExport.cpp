@@ -1,9 +1,10 @@
 #include "platform/controls/GridExport.h"
 
+#include <QBuffer>
 #include <QLocale>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrinter>
-#include <QSaveFile>
 #include <QStandardPaths>
 #include <algorithm>
 #include <numeric>
@@ -11,6 +12,7 @@
 
 #include "platform/controls/Grid.h"
 #include "platform/desktop/Prompts.h"
+#include "platform/files/WholeFile.h"
 
 namespace {
 
@@ -33,14 +35,14 @@ void ForShownRows(const Grid& grid, Visit visit) {
 // One table drawn over as many pages as it takes. Lengths are in the printer's dots.
 class Sheet {
  public:
-  Sheet(const Grid& grid, const QString& title, QPrinter& printer, QPainter& painter)
+  Sheet(const Grid& grid, const QString& title, QPagedPaintDevice& printer, QPainter& painter)
       : grid_(grid),
         title_(title),
         printer_(printer),
         painter_(painter),
         columns_(grid.VisibleCols()),
-        padding_(CellPadding * printer.resolution() / 72.0),
-        page_(QPointF(0, 0), printer.pageLayout().paintRectPixels(printer.resolution()).size()) {
+        padding_(CellPadding * printer.logicalDpiX() / 72.0),
+        page_(QPointF(0, 0), printer.pageLayout().paintRectPixels(printer.logicalDpiX()).size()) {
     MeasureColumns();
   }
 
@@ -114,7 +116,7 @@ class Sheet {
 
   const Grid& grid_;
   const QString& title_;
-  QPrinter& printer_;
+  QPagedPaintDevice& printer_;
   QPainter& painter_;
   std::vector<int> columns_;
   std::vector<qreal> widths_;
@@ -142,6 +144,12 @@ std::optional<QString> AskForFile(const Grid& grid, const QString& title, const 
       {title, QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), pattern, OwnerOf(grid)});
 }
 
+void SaveAs(const Grid& grid, const QString& path, const QByteArray& bytes) {
+  QString reason;
+  if (!WholeFile::Write(path, bytes, &reason))
+    Tell(grid, Grid::tr("The file %1 could not be written.\n\n%2").arg(path, reason));
+}
+
 }  // namespace
 
 namespace GridExport {
@@ -159,7 +167,7 @@ QByteArray Csv(const Grid& grid) {
   return csv;
 }
 
-bool Print(const Grid& grid, const QString& title, QPrinter& printer) {
+bool Print(const Grid& grid, const QString& title, QPagedPaintDevice& printer) {
   if (grid.VisibleCols().size() > 4) printer.setPageOrientation(QPageLayout::Landscape);
   QPainter painter;
   if (!painter.begin(&printer)) return false;
@@ -171,21 +179,18 @@ bool Print(const Grid& grid, const QString& title, QPrinter& printer) {
 void AskAndSaveCsv(const Grid& grid) {
   const std::optional<QString> path = AskForFile(grid, Grid::tr("Export to CSV"), QStringLiteral("*.csv"));
   if (!path.has_value()) return;
-  // Written beside the old file and put in its place at the end: a full disk leaves the old one whole.
-  QSaveFile file(*path);
-  const QByteArray csv = Csv(grid);
-  if (!file.open(QIODevice::WriteOnly) || file.write(csv) != csv.size() || !file.commit())
-    Tell(grid, Grid::tr("The file %1 could not be written.\n\n%2").arg(*path, file.errorString()));
+  SaveAs(grid, *path, Csv(grid));
 }
 
 void AskAndSavePdf(const Grid& grid) {
   const std::optional<QString> path = AskForFile(grid, Grid::tr("Save as PDF"), QStringLiteral("*.pdf"));
   if (!path.has_value()) return;
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(*path);
-  printer.setDocName(TitleOf(grid));
-  if (!Print(grid, TitleOf(grid), printer)) Tell(grid, Grid::tr("The file %1 could not be written.").arg(*path));
+  QBuffer pdf;
+  pdf.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&pdf);
+  writer.setTitle(TitleOf(grid));
+  if (!Print(grid, TitleOf(grid), writer)) return Tell(grid, Grid::tr("The file %1 could not be written.").arg(*path));
+  SaveAs(grid, *path, pdf.data());
 }
 
 void AskAndPrint(const Grid& grid) {

@@ -5,7 +5,14 @@
 int TerminalPrompts::ShowMessage(const MessageRequest& request) {
   std::printf("%s: %s\n", qPrintable(request.title), qPrintable(request.text));
   std::fflush(stdout);
-  return (request.style & MessageStyle::ButtonMask) == 0 ? MessageAnswer::Ok : MessageAnswer::Yes;
+  switch (request.style & MessageStyle::ButtonMask) {
+    case MessageStyle::YesNo:
+    case MessageStyle::YesNoCancel:
+      // The default button is what a person gives who only presses Enter.
+      return (request.style & MessageStyle::DefaultButton2) != 0 ? MessageAnswer::No : MessageAnswer::Yes;
+    default:
+      return MessageAnswer::Ok;
+  }
 }
 
 std::optional<QString> TerminalPrompts::OpenFile(const FileRequest&) {

@@ -2,8 +2,8 @@
 
 #include "platform/desktop/Prompts.h"
 
-// Stands in for the person where nobody sits before the screen: messages go to the terminal and get the answer that
-// goes on (OK, Yes); file and printer dialogs are cancelled. Used with OSTANA_UNATTENDED=1.
+// Stands in for the person where nobody sits before the screen: messages go to the terminal and get the answer of
+// their default button; file and printer dialogs are cancelled. Used with OSTANA_UNATTENDED=1.
 class TerminalPrompts : public PromptService {
  public:
   int ShowMessage(const MessageRequest& request) override;

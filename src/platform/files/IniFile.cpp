@@ -2,9 +2,9 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include "platform/files/IniText.h"
+#include "platform/files/WholeFile.h"
 
 namespace IniFile {
 
@@ -13,12 +13,9 @@ namespace {
 constexpr qint64 LargestFile = 16 * 1024 * 1024;  // bytes
 
 bool Store(const QString& path, const QByteArray& bytes, QString* reason) {
-  QSaveFile file(path);
-  // Committing alone does not notice that the last buffer found no room.
-  const bool stored =
-      file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
-  if (stored) return true;
-  if (reason) *reason = QStringLiteral("The file '%1' cannot be written: %2.").arg(path, file.errorString());
+  QString why;
+  if (WholeFile::Write(path, bytes, &why)) return true;
+  if (reason) *reason = QStringLiteral("The file '%1' cannot be written: %2.").arg(path, why);
   return false;
 }
 

@@ -1,8 +1,10 @@
 #include "platform/files/SingleInstance.h"
 
 #include <QDir>
+#include <QFile>
 #include <QLockFile>
 #include <QStandardPaths>
+#include <QSysInfo>
 #include <map>
 #include <memory>
 
@@ -29,6 +31,16 @@ bool AnotherIsRunning(const QString& applicationName) {
   lock->setStaleLockTime(0);
   if (lock->tryLock(0)) {
     held.emplace(applicationName, std::move(lock));
+    return false;
+  }
+  // What is no lock of a process of this machine (a file with other content, a link, a folder, a lock that came with
+  // somebody else's files) keeps nobody out. A file is taken away, so that this copy can tell the next one.
+  qint64 process = 0;
+  QString machine, program;
+  const bool isLock = lock->getLockInfo(&process, &machine, &program) && process > 0 &&
+                      (machine.isEmpty() || machine == QSysInfo::machineHostName());
+  if (lock->error() == QLockFile::LockFailedError && !isLock) {
+    if (QFile::remove(lock->fileName()) && lock->tryLock(0)) held.emplace(applicationName, std::move(lock));
     return false;
   }
   // A folder that cannot be written says nothing about another copy, and must not keep the user out.

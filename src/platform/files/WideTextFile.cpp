@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QStringConverter>
 
+#include "platform/files/AppendedFile.h"
+
 namespace WideTextFile {
 
 namespace {
@@ -31,10 +33,9 @@ QByteArray Bytes(const QString& text) {
 }  // namespace
 
 Result AppendLines(const QString& path, const QStringList& lines) {
-  QFile file(path);
-  // Unbuffered, so that the lines of two processes do not mix: one append is one write.
-  if (!file.open(QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered))
-    return QFileInfo(path).absoluteDir().exists() ? Result::Failed : Result::NoDirectory;
+  QFile file;
+  // Unbuffered, so that the lines of two processes do not mix.
+  if (!OpenToAppend(file, path)) return QFileInfo(path).absoluteDir().exists() ? Result::Failed : Result::NoDirectory;
   const qint64 size = file.size();
   QByteArray bytes;
   if (size == 0) bytes = "\xFF\xFE";
