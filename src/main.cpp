@@ -10,6 +10,7 @@
 #include "core/CommandLine.h"
 #include "core/Logon.h"
 #include "platform/desktop/TerminalPrompts.h"
+#include "shell/WaitingWindow.h"
 #include "shell/frmTabulon.h"
 
 namespace {
@@ -70,6 +71,7 @@ int main(int argc, char** argv) {
     gLogonDialog = [](QString&, QString&) { return false; };  // nobody would answer it
   }
   RegisterDialogs();
+  WaitingWindow::Install();
   frmTabulon window(commandLine);
   OpenMainScreen(window);
   return QApplication::exec();

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QThread>
+#include <csignal>
 #include <map>
 #include <stdexcept>
 

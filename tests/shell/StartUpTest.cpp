@@ -378,8 +378,8 @@ TEST_F(StartUpTest, WithoutTheAddressOfTheWebServiceTheProgramEnds) {
   EXPECT_EQ(outcome.exitCode, 1);
   EXPECT_EQ(outcome.output,
             "Tabulon: The BL Web Service settings have not been configured.  See the application log for details.\n");
-  ASSERT_EQ(outcome.log.size(), 4);
-  EXPECT_TRUE(outcome.log[3].endsWith("  * The Web Service 'ServerAddress' setting has not been configured."));
+  ASSERT_EQ(outcome.log.size(), 5);
+  EXPECT_TRUE(outcome.log[4].endsWith("  * The Web Service 'ServerAddress' setting has not been configured."));
 }
 
 TEST_F(StartUpTest, WithGapsInTheWebServiceSettingsTheProgramEndsAndTheLogListsThem) {

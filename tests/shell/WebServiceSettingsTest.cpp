@@ -121,7 +121,7 @@ TEST_F(WebServiceSettingsTest, MissingFileIsToldLoggedAndEndsTheProgram) {
   const QStringList lines = WideTextFile::ReadLines(LogFile());
   ASSERT_EQ(lines.size(), 4);
   EXPECT_TRUE(lines[0].endsWith("  * " + message.section('\n', 0, 0)));
-  EXPECT_EQ(lines[2], message.section('\n', 2));
+  EXPECT_EQ(lines[2], QString(26, ' ') + message.section('\n', 2));  // below its entry, like every further line
   EXPECT_TRUE(lines[3].startsWith("**** Version: "));
 }
 

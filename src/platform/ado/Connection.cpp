@@ -14,7 +14,7 @@ const QString ExecuteSource = QStringLiteral("Connection.Execute");
 void Connection::Private::EnsureOpen() {
   if (session.IsOpen()) return;
   columns.clear();
-  session.Open();
+  driver.Call([this] { session.Open(); });
   unit = Unit::None;
 }
 
@@ -56,7 +56,7 @@ qint64 Connection::Private::Observed(const QString& text, int allowed, const QSt
     const QString refusal = WhyRefused(text, allowed);
     if (!refusal.isEmpty()) throw AdoError(AdoNumber::TextRefused, refusal, source);
     CheckReady(source);
-    affected = body();
+    driver.Call([&] { affected = body(); });
   } catch (const AdoError& error) {
     NoteFailure();
     tell(-1, true);
@@ -100,7 +100,7 @@ void Connection::Open(const QString&, const QString&, const QString&, int) {
 
 void Connection::Close() {
   RollbackTrans();
-  d_->session.Close();
+  d_->driver.Call([this] { d_->session.Close(); });
 }
 
 void Connection::EnsureOpen() {
@@ -114,7 +114,7 @@ void Connection::BeginTrans() {
   }
   d_->unit = Private::Unit::None;
   d_->EnsureOpen();
-  d_->session.Run(d_->session.dialect().BeginStatement(), source);
+  d_->driver.Call([&] { d_->session.Run(d_->session.dialect().BeginStatement(), source); });
   d_->unit = Private::Unit::Open;
   d_->lastOfUnit.clear();
 }
@@ -126,7 +126,7 @@ void Connection::CommitTrans() {
   }
   try {
     d_->CheckReady(source);
-    d_->session.Run(QStringLiteral("COMMIT"), source);
+    d_->driver.Call([&] { d_->session.Run(QStringLiteral("COMMIT"), source); });
     d_->unit = Private::Unit::None;
   } catch (const AdoError& error) {
     d_->NoteFailure();
@@ -139,11 +139,13 @@ void Connection::RollbackTrans() {
   const Private::Unit unit = d_->unit;
   d_->unit = Private::Unit::None;
   if (unit == Private::Unit::None || unit == Private::Unit::Lost || !d_->session.IsOpen()) return;
-  QSqlQuery query(d_->session.Database());
-  if (query.exec(QStringLiteral("ROLLBACK"))) return;
-  // Either the engine has rolled back by itself, or the transaction is in doubt: it ends with the session.
-  query = QSqlQuery();
-  d_->session.Close();
+  d_->driver.Call([this] {
+    QSqlQuery query(d_->session.Database());
+    if (query.exec(QStringLiteral("ROLLBACK"))) return;
+    // Either the engine has rolled back by itself, or the transaction is in doubt: it ends with the session.
+    query = QSqlQuery();
+    d_->session.Close();
+  });
 }
 
 bool Connection::InTransaction() const {
@@ -172,10 +174,11 @@ const std::vector<ColumnInfo>& Connection::Columns(const QString& table) {
   if (known != d_->columns.end()) return known->second;
   d_->CheckReady(QStringLiteral("Connection.Columns"));
   try {
-    auto columns = d_->session.dialect().ReadColumns(d_->session.Database(), key);
+    std::vector<ColumnInfo> columns;
+    d_->driver.Call([&] { columns = d_->session.dialect().ReadColumns(d_->session.Database(), key); });
     return d_->columns[key] = std::move(columns);
   } catch (const AdoError& error) {
-    if (error.ConnectionLost()) d_->session.Close();
+    if (error.ConnectionLost()) d_->driver.Call([this] { d_->session.Close(); });
     d_->NoteFailure();
     throw;
   }
@@ -184,9 +187,11 @@ const std::vector<ColumnInfo>& Connection::Columns(const QString& table) {
 QStringList Connection::Tables() {
   d_->CheckReady(QStringLiteral("Connection.Tables"));
   try {
-    return d_->session.dialect().ReadTables(d_->session.Database());
+    QStringList tables;
+    d_->driver.Call([&] { tables = d_->session.dialect().ReadTables(d_->session.Database()); });
+    return tables;
   } catch (const AdoError& error) {
-    if (error.ConnectionLost()) d_->session.Close();
+    if (error.ConnectionLost()) d_->driver.Call([this] { d_->session.Close(); });
     d_->NoteFailure();
     throw;
   }

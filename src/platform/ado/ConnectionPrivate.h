@@ -4,6 +4,7 @@
 #include <map>
 
 #include "platform/ado/Connection.h"
+#include "platform/ado/DriverThread.h"
 #include "platform/ado/Session.h"
 
 // The state behind a Connection, which recordsets share.
@@ -11,8 +12,14 @@ struct Connection::Private {
   enum class Unit { None, Open, Broken, Lost };  // a transaction: none, fine, with a failed statement, its server gone
 
   Private(ConnectionSettings settings, const Dialect& dialect) : session(std::move(settings), dialect) {}
+  ~Private() {
+    driver.Call([this] { session.End(); });
+  }
+  Private(const Private&) = delete;
+  Private& operator=(const Private&) = delete;
 
-  Session session;
+  Session session;  // used in calls of the driver only, but for questions that it answers by itself
+  DriverThread driver{[this] { session.Stop(); }, [this] { session.CutLink(); }};
   Unit unit = Unit::None;
   QString lastOfUnit;  // the statement that the transaction ran last
   std::vector<std::function<void(const StatementRecord&)>> observers;

@@ -11,6 +11,10 @@
 #include "platform/ado/SqlServerDialect.h"
 #include "platform/ado/SqliteDialect.h"
 
+QString Dialect::StopStatement(const QString&) const {
+  return {};
+}
+
 QString Dialect::DateLiteral(const QDate& date) const {
   return date.toString(u"''yyyy-MM-dd''");
 }

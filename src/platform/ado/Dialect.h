@@ -35,10 +35,14 @@ class Dialect {
   // Statements that every session begins with.
   virtual QStringList SessionSetup(const ConnectionSettings& settings) const = 0;
   // A SELECT that verifies the set-up: its first value must equal "1". The second is how the server encrypts this
-  // session, such as "TLSv1.3", and empty when it does not. Empty where there is nothing to verify.
+  // session, such as "TLSv1.3", and empty when it does not; the third the server's name of the session. Empty where
+  // there is nothing to verify.
   virtual QString SessionCheck() const { return {}; }
   // True where a session that should be encrypted is known by the second value of the check.
   virtual bool KnowsEncryption() const { return true; }
+  // Ends the statement under way of another session, known by the third value of its check. Empty where that takes
+  // more than a statement.
+  virtual QString StopStatement(const QString& session) const;
   virtual QString BeginStatement() const = 0;
   // Run before each statement where the session itself keeps an image of the tables that another client may have made
   // stale. Empty where the server looks after that.

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr int PluginNotAllowed = 5011;  // CR_ERR_... of the client library
+constexpr int PluginNotAllowed = 5010;  // CR_ERR_... of the client library
 
 // The driver ignores words that it does not know, and some that look like a demand.
 QString WhyRefused(const QString& option) {
@@ -160,7 +160,7 @@ QString MariaDbDialect::SessionCheck() const {
       "0 "
       "AND FIND_IN_SET('ANSI_QUOTES', @@sql_mode) > 0 AND @@autocommit = 1, (SELECT GROUP_CONCAT(VARIABLE_VALUE ORDER "
       "BY VARIABLE_NAME DESC SEPARATOR ' ') FROM INFORMATION_SCHEMA.SESSION_STATUS WHERE VARIABLE_NAME IN "
-      "('SSL_VERSION', 'SSL_CIPHER') AND VARIABLE_VALUE <> '')");
+      "('SSL_VERSION', 'SSL_CIPHER') AND VARIABLE_VALUE <> ''), CONNECTION_ID()");
 }
 
 QString MariaDbDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
@@ -206,6 +206,7 @@ Dialect::Failure MariaDbDialect::Classify(const QSqlError& error) const {
     case 1927:
     case 2006:
     case 2013:
+    case 2026:  // an encrypted link that ended
     case 2055:
     case 4031:
       return Failure::Lost;

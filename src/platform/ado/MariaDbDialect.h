@@ -13,6 +13,7 @@ class MariaDbDialect : public Dialect {
   QString OpenAdvice(const QSqlError& error, const ConnectionSettings& settings) const override;
   QStringList SessionSetup(const ConnectionSettings& settings) const override;
   QString SessionCheck() const override;
+  QString StopStatement(const QString& session) const override { return QStringLiteral("KILL QUERY %1").arg(session); }
   QString BeginStatement() const override { return QStringLiteral("START TRANSACTION"); }
   bool ReadsForwardOnly() const override { return false; }
   QString Carry(const QString& statement, const ConnectionSettings& settings) const override;

@@ -41,7 +41,7 @@ bool IsAtLeast(const QString& value, const QString& asked) {
 // The file of trusted authorities where neither the settings nor the user's account have one.
 QString OwnAuthority(const Options& options) {
   const auto named = [](const auto& option) { return option.first == u"sslrootcert"; };
-  if (std::any_of(options.begin(), options.end(), named) || qEnvironmentVariableIsSet("PGSSLROOTCERT") ||
+  if (std::any_of(options.begin(), options.end(), named) ||
       QFile::exists(QDir::homePath() + QLatin1String("/.postgresql/root.crt")))
     return {};
   return TrustedCertificates();
@@ -141,7 +141,8 @@ QString PostgreSqlDialect::SessionCheck() const {
   return QStringLiteral(
       "SELECT CASE WHEN current_setting('standard_conforming_strings') = 'on' AND "
       "pg_client_encoding() = 'UTF8' THEN 1 ELSE 0 END, "
-      "(SELECT version || ' ' || cipher FROM pg_catalog.pg_stat_ssl WHERE pid = pg_backend_pid() AND ssl)");
+      "(SELECT version || ' ' || cipher FROM pg_catalog.pg_stat_ssl WHERE pid = pg_backend_pid() AND ssl), "
+      "pg_backend_pid()");
 }
 
 QString PostgreSqlDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {

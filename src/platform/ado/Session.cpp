@@ -4,6 +4,8 @@
 #include <QVariant>
 #include <atomic>
 
+#include "platform/ado/DriverLink.h"
+
 namespace {
 
 const QString OpenSource = QStringLiteral("Connection.Open");
@@ -19,6 +21,11 @@ Session::Session(ConnectionSettings settings, const Dialect& dialect)
     : settings_(std::move(settings)), dialect_(dialect), handle_(NextHandle()) {}
 
 Session::~Session() {
+  End();
+  for (std::thread& stopper : stoppers_) stopper.join();
+}
+
+void Session::End() {
   Close();
   database_ = QSqlDatabase();
   if (QSqlDatabase::contains(handle_)) QSqlDatabase::removeDatabase(handle_);
@@ -37,6 +44,7 @@ void Session::Open() {
     throw AdoError(AdoNumber::Unspecified, WithoutPassword(advice + u'\n' + dialect_.EngineText(error)), OpenSource);
   }
   open_ = true;
+  KnowLink(true);
   SetUp();
 }
 
@@ -64,6 +72,10 @@ void Session::SetUp() {
   if (check.isEmpty()) return;
   const bool accepted = query.next() && query.value(0).toString() == u"1";
   cipher_ = dialect_.KnowsEncryption() ? query.value(1).toString() : QString();
+  if (dialect_.KnowsEncryption()) {
+    const std::lock_guard<std::mutex> lock(link_);
+    name_ = query.value(2).toString();
+  }
   query = QSqlQuery();
   if (!accepted) {
     GiveUp(QStringLiteral("%1 did not accept the settings that every session needs. Ask the database's "
@@ -97,12 +109,55 @@ QString Session::LinkDescription() const {
 }
 
 void Session::Close() {
+  KnowLink(false);
   open_ = false;
   cipher_.clear();
   if (database_.isValid()) database_.close();
 }
 
+// --- A statement that another thread wants to end ---
+
+void Session::KnowLink(bool open) {
+  const std::lock_guard<std::mutex> lock(link_);
+  socket_ = open ? DriverLink::SocketOf(database_) : -1;
+  embedded_ = open ? DriverLink::EmbeddedEngineOf(database_) : nullptr;
+  name_.clear();
+}
+
+void Session::Stop() {
+  const int number = statement_;
+  stopped_ = number;
+  const std::lock_guard<std::mutex> lock(link_);
+  if (embedded_) return DriverLink::Interrupt(embedded_);
+  const QString statement = name_.isEmpty() ? QString() : dialect_.StopStatement(name_);
+  if (statement.isEmpty()) return;
+  // Where the server hangs this hangs as well.
+  stoppers_.emplace_back([this, statement, number] {
+    AskToStop(settings_, dialect_, statement, [this, number] { return statement_ == number; });
+  });
+}
+
+void Session::AskToStop(const ConnectionSettings& settings, const Dialect& dialect, const QString& statement,
+                        const std::function<bool()>& stillRuns) {
+  try {
+    Session session(settings, dialect);
+    session.Open();
+    // The next statement is another one, which nobody wants to stop.
+    if (stillRuns()) session.Run(statement, OpenSource);
+  } catch (const AdoError&) {
+    // The link is cut in the end.
+  }
+}
+
+void Session::CutLink() {
+  const std::lock_guard<std::mutex> lock(link_);
+  DriverLink::Cut(socket_);
+}
+
+// --- Statements ---
+
 QSqlQuery Session::Run(const QString& statement, const QString& source) {
+  ++statement_;
   // A failure here comes again with the statement itself.
   if (const QString refresh = dialect_.SchemaRefresh(); !refresh.isEmpty()) QSqlQuery(database_).exec(refresh);
   QSqlQuery query(database_);
@@ -131,6 +186,8 @@ AdoError Session::Failed(const QSqlError& error, const QString& source) {
   AdoError translated = dialect_.Translate(error, source);
   // PostgreSQL's driver sometimes tells a loss only by being closed.
   const bool lost = translated.ConnectionLost() || !database_.isOpen();
+  if (!lost && stopped_ == statement_)
+    return {AdoNumber::Unspecified, QStringLiteral("The statement was stopped. ") + dialect_.EngineText(error), source};
   if (!lost) return translated;
   Close();
   if (translated.ConnectionLost()) return translated;

@@ -3,12 +3,18 @@
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QSqlRecord>
+#include <atomic>
+#include <functional>
+#include <mutex>
+#include <thread>
+#include <vector>
 
 #include "platform/ado/ConnectionSettings.h"
 #include "platform/ado/Dialect.h"
 
 // The session with the engine behind a Connection: opening, one statement at a time, and what an error means for the
-// session itself. A session that an error shows dead is closed at once.
+// session itself. A session that an error shows dead is closed at once. One thread uses it; only Stop and CutLink come
+// from another one.
 class Session {
  public:
   Session(ConnectionSettings settings, const Dialect& dialect);
@@ -25,6 +31,13 @@ class Session {
   void Open();
   // The engine rolls back what is open.
   void Close();
+  // Closes, and gives the driver's object back; in the thread that opened.
+  void End();
+
+  // From another thread, while a statement runs: asks the engine to stop it, which fails it.
+  void Stop();
+  // The same: ends the link under it, which fails it as lost.
+  void CutLink();
 
   // How the link to the server is, for a user.
   QString LinkDescription() const;
@@ -44,6 +57,9 @@ class Session {
   // Closes, and tells why.
   [[noreturn]] void GiveUp(const QString& reason, quint32 number = AdoNumber::Unspecified);
   QString WithoutPassword(QString text) const;
+  void KnowLink(bool open);
+  static void AskToStop(const ConnectionSettings& settings, const Dialect& dialect, const QString& statement,
+                        const std::function<bool()>& stillRuns);
 
   const ConnectionSettings settings_;
   const Dialect& dialect_;
@@ -51,4 +67,12 @@ class Session {
   QSqlDatabase database_;
   bool open_ = false;
   QString cipher_;  // of the open session; empty when it is not encrypted or that is not known
+
+  std::mutex link_;  // guards the three below, so that what is closed is not cut
+  QString name_;     // the server's of the open session
+  int socket_ = -1;
+  void* embedded_ = nullptr;
+  std::atomic<int> statement_{0};      // number of the statement under way
+  std::atomic<int> stopped_{-1};       // the one that was asked to stop
+  std::vector<std::thread> stoppers_;  // each asks in a session of its own
 };
