@@ -35,11 +35,14 @@ QString PostgreSqlProgram(const QString& name) {
 
 }  // namespace
 
-OwnServer::OwnServer(Engine engine) : engine_(engine), port_(FreePort()) {
+OwnServer::OwnServer(Engine engine, Bare) : engine_(engine), port_(FreePort()) {
   if (::geteuid() == 0) account_ = engine == Engine::MariaDb ? "mysql" : "postgres";
   QFile::setPermissions(folder_.path(), QFile::Permissions(0x7755));
   if (!account_.isEmpty()) Run({"chown", account_, folder_.path()});
   MakeCertificates();
+}
+
+OwnServer::OwnServer(Engine engine) : OwnServer(engine, Bare{}) {
   MakeCluster();
   Show(Certificate::Right);
   if (engine_ == Engine::PostgreSql) {
@@ -50,6 +53,24 @@ OwnServer::OwnServer(Engine engine) : engine_(engine), port_(FreePort()) {
     Administer("CREATE USER clerk@'%' IDENTIFIED BY 'Secr3tWord'");
     Administer("GRANT ALL ON site.* TO clerk@'%'");
   }
+}
+
+std::unique_ptr<OwnServer> OwnServer::StandbyOf(OwnServer& primary) {
+  std::unique_ptr<OwnServer> standby(new OwnServer(primary.engine_, Bare{}));
+  standby->Run(standby->AsServer({PostgreSqlProgram("pg_basebackup"), "--pgdata=" + standby->folder_.filePath("data"),
+                                  "--write-recovery-conf", "--checkpoint=fast", "--no-sync", "--username=tabulon",
+                                  "--host=" + primary.folder_.path(), "--port=" + QString::number(primary.port_)}));
+  standby->Show(Certificate::Right);
+  return standby;
+}
+
+void OwnServer::Promote() {
+  Run(AsServer({PostgreSqlProgram("pg_ctl"), "promote", "--wait", "--pgdata=" + folder_.filePath("data")}));
+}
+
+void OwnServer::Kill() {
+  ::kill(pid_t(server_.processId()), SIGKILL);
+  server_.waitForFinished();
 }
 
 OwnServer::~OwnServer() {

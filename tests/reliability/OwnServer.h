@@ -2,6 +2,7 @@
 
 #include <QProcess>
 #include <QTemporaryDir>
+#include <memory>
 #include <optional>
 
 #include "platform/ado/ConnectionSettings.h"
@@ -14,12 +15,17 @@ class OwnServer {
   enum class Certificate { Right, OfAnotherName, Expired, OfAnotherAuthority };
 
   explicit OwnServer(Engine engine);
+  // A standby of a server of PostgreSQL, which it follows until it is promoted.
+  static std::unique_ptr<OwnServer> StandbyOf(OwnServer& primary);
   ~OwnServer();
   OwnServer(const OwnServer&) = delete;
   OwnServer& operator=(const OwnServer&) = delete;
 
   // Starts anew, with that certificate or without encryption.
   void Show(std::optional<Certificate> certificate);
+  void Promote();
+  // At once, as a machine that loses its power.
+  void Kill();
   // A statement of the server's own administrator.
   void Administer(const QString& statement);
 
@@ -28,6 +34,8 @@ class OwnServer {
   QString File(Certificate certificate) const;  // PEM; the key lies beside it with the ending ".key"
 
  private:
+  struct Bare {};
+  OwnServer(Engine engine, Bare);
   void MakeCertificates();
   void MakeCluster();
   void Start(const QStringList& arguments);

@@ -10,7 +10,7 @@ enum class Engine { Sqlite, PostgreSql, MariaDb, SqlServer };
 struct ConnectionSettings {
   Engine engine = Engine::Sqlite;
   QString name;  // file of SQLite, database of a server, connection string or DSN of ODBC
-  QString host;  // a leading "/" is the folder of a unix socket
+  QString host;  // a leading "/" is the folder of a unix socket; several servers of one cluster joined by ","
   int port = 0;  // 0: the engine's own default
   QString user;
   QString password;

@@ -35,7 +35,8 @@ class Dialect {
   // Statements that every session begins with.
   virtual QStringList SessionSetup(const ConnectionSettings& settings) const = 0;
   // A SELECT that verifies the set-up: its first value must equal "1". The second is how the server encrypts this
-  // session, such as "TLSv1.3", and empty when it does not; the third the server's name of the session. Empty where
+  // session, such as "TLSv1.3", and empty when it does not; the third the server's name of the session; the fourth
+  // equals "1" when the server takes changes. Empty where
   // there is nothing to verify.
   virtual QString SessionCheck() const { return {}; }
   // True where a session that should be encrypted is known by the second value of the check.

@@ -2,8 +2,10 @@
 
 #include <QFile>
 #include <QRegularExpression>
+#include <algorithm>
 
 #include "platform/ado/ConnectionSettings.h"
+#include "platform/ado/Nodes.h"
 
 QString EncryptionName(Encryption encryption) {
   switch (encryption) {
@@ -24,12 +26,19 @@ bool IsSocket(const QString& host) {
   return host.startsWith(u'/') || host.startsWith(u'@');
 }
 
-}  // namespace
-
-bool IsOtherMachine(const QString& host) {
+bool IsFar(const QString& host) {
   static const QRegularExpression loopback(QStringLiteral("^(localhost|127(\\.\\d{1,3}){3}|\\[?::1\\]?)$"),
                                            QRegularExpression::CaseInsensitiveOption);
   return !host.isEmpty() && !IsSocket(host) && !loopback.match(host).hasMatch();
+}
+
+}  // namespace
+
+bool IsOtherMachine(const QString& hosts) {
+  ConnectionSettings settings;
+  settings.host = hosts;
+  const std::vector<ConnectionSettings> nodes = NodesOf(settings);
+  return std::any_of(nodes.begin(), nodes.end(), [](const ConnectionSettings& node) { return IsFar(node.host); });
 }
 
 Encryption UsualEncryption(const QString& host) {

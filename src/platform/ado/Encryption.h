@@ -14,8 +14,9 @@ enum class Encryption {
 // As the settings file writes it: "off", "required", "verify".
 QString EncryptionName(Encryption encryption);
 
-// False for no host, the folder or file of a unix socket, and the addresses of this machine.
-bool IsOtherMachine(const QString& host);
+// False for no host, the folder or file of a unix socket, and the addresses of this machine; of several servers one is
+// enough.
+bool IsOtherMachine(const QString& hosts);
 // Verify for another machine, else Off: what holds where the settings file says nothing.
 Encryption UsualEncryption(const QString& host);
 

@@ -160,7 +160,9 @@ QString MariaDbDialect::SessionCheck() const {
       "0 "
       "AND FIND_IN_SET('ANSI_QUOTES', @@sql_mode) > 0 AND @@autocommit = 1, (SELECT GROUP_CONCAT(VARIABLE_VALUE ORDER "
       "BY VARIABLE_NAME DESC SEPARATOR ' ') FROM INFORMATION_SCHEMA.SESSION_STATUS WHERE VARIABLE_NAME IN "
-      "('SSL_VERSION', 'SSL_CIPHER') AND VARIABLE_VALUE <> ''), CONNECTION_ID()");
+      "('SSL_VERSION', 'SSL_CIPHER') AND VARIABLE_VALUE <> ''), CONNECTION_ID(), @@global.read_only = 0 AND "
+      "NOT EXISTS (SELECT 1 FROM INFORMATION_SCHEMA.GLOBAL_STATUS WHERE VARIABLE_NAME = 'WSREP_CLUSTER_STATUS' AND "
+      "VARIABLE_VALUE = 'non-Primary')");
 }
 
 QString MariaDbDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
@@ -202,6 +204,7 @@ Dialect::Failure MariaDbDialect::Classify(const QSqlError& error) const {
     case 1213:
     case 1969:
       return Failure::Busy;
+    case 1047:  // a node that is cut off from its cluster
     case 1053:
     case 1927:
     case 2006:

@@ -142,7 +142,7 @@ QString PostgreSqlDialect::SessionCheck() const {
       "SELECT CASE WHEN current_setting('standard_conforming_strings') = 'on' AND "
       "pg_client_encoding() = 'UTF8' THEN 1 ELSE 0 END, "
       "(SELECT version || ' ' || cipher FROM pg_catalog.pg_stat_ssl WHERE pid = pg_backend_pid() AND ssl), "
-      "pg_backend_pid()");
+      "pg_backend_pid(), CASE WHEN pg_is_in_recovery() THEN 0 ELSE 1 END");
 }
 
 QString PostgreSqlDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {

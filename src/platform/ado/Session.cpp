@@ -5,6 +5,7 @@
 #include <atomic>
 
 #include "platform/ado/DriverLink.h"
+#include "platform/ado/Nodes.h"
 
 namespace {
 
@@ -34,18 +35,37 @@ void Session::End() {
 void Session::Open() {
   CheckDriver();
   if (!database_.isValid()) database_ = QSqlDatabase::addDatabase(dialect_.DriverName(), handle_);
-  QString reason = WhyNoEncryption(settings_);
-  if (!reason.isEmpty() || !dialect_.Prepare(database_, settings_, &reason))
+  const std::vector<ConnectionSettings> nodes = NodesOf(settings_);
+  QStringList reasons;
+  for (size_t tried = 0; tried < nodes.size(); ++tried) {
+    try {
+      OpenNode(nodes[node_]);
+      if (nodes.size() == 1 || takesChanges_) return;
+      Close();
+      reasons += QStringLiteral("%1 on %2 takes no changes.").arg(dialect_.EngineName(), nodes[node_].host);
+    } catch (const AdoError& error) {
+      if (nodes.size() == 1) throw;
+      reasons += error.Description();
+    }
+    const std::lock_guard<std::mutex> lock(link_);
+    node_ = (node_ + 1) % nodes.size();
+  }
+  throw AdoError(AdoNumber::Unspecified, reasons.join(u'\n'), OpenSource);
+}
+
+void Session::OpenNode(const ConnectionSettings& node) {
+  QString reason = WhyNoEncryption(node);
+  if (!reason.isEmpty() || !dialect_.Prepare(database_, node, &reason))
     throw AdoError(AdoNumber::Unspecified, reason, OpenSource);
   database_.setNumericalPrecisionPolicy(QSql::HighPrecision);
   if (!database_.open()) {
     const QSqlError error = database_.lastError();
-    const QString advice = dialect_.OpenAdvice(error, settings_);
+    const QString advice = dialect_.OpenAdvice(error, node);
     throw AdoError(AdoNumber::Unspecified, WithoutPassword(advice + u'\n' + dialect_.EngineText(error)), OpenSource);
   }
   open_ = true;
   KnowLink(true);
-  SetUp();
+  SetUp(node);
 }
 
 void Session::CheckDriver() const {
@@ -56,16 +76,16 @@ void Session::CheckDriver() const {
                  OpenSource);
 }
 
-void Session::SetUp() {
+void Session::SetUp(const ConnectionSettings& node) {
   QSqlQuery query(database_);
-  QStringList statements = dialect_.SessionSetup(settings_);
+  QStringList statements = dialect_.SessionSetup(node);
   const QString check = dialect_.SessionCheck();
   if (!check.isEmpty()) statements += check;
   for (const QString& statement : statements) {
     if (query.exec(statement)) continue;
     const QSqlError error = query.lastError();
     const quint32 number = dialect_.Translate(error, OpenSource).Number();
-    const QString advice = dialect_.OpenAdvice(error, settings_);
+    const QString advice = dialect_.OpenAdvice(error, node);
     query = QSqlQuery();
     GiveUp(advice + u'\n' + dialect_.EngineText(error), number);
   }
@@ -75,6 +95,7 @@ void Session::SetUp() {
   if (dialect_.KnowsEncryption()) {
     const std::lock_guard<std::mutex> lock(link_);
     name_ = query.value(2).toString();
+    takesChanges_ = query.value(3).toString() == u"1";
   }
   query = QSqlQuery();
   if (!accepted) {
@@ -82,8 +103,8 @@ void Session::SetUp() {
                           "administrator to lift the server's limits on session settings.")
                .arg(dialect_.EngineName()));
   }
-  if (settings_.encryption != Encryption::Off && dialect_.KnowsEncryption() && cipher_.isEmpty())
-    GiveUp(LinkAdvice::NotEncrypted(dialect_.EngineName(), settings_));
+  if (node.encryption != Encryption::Off && dialect_.KnowsEncryption() && cipher_.isEmpty())
+    GiveUp(LinkAdvice::NotEncrypted(dialect_.EngineName(), node));
 }
 
 void Session::GiveUp(const QString& reason, quint32 number) {
@@ -132,8 +153,8 @@ void Session::Stop() {
   const QString statement = name_.isEmpty() ? QString() : dialect_.StopStatement(name_);
   if (statement.isEmpty()) return;
   // Where the server hangs this hangs as well.
-  stoppers_.emplace_back([this, statement, number] {
-    AskToStop(settings_, dialect_, statement, [this, number] { return statement_ == number; });
+  stoppers_.emplace_back([this, node = NodesOf(settings_)[node_], statement, number] {
+    AskToStop(node, dialect_, statement, [this, number] { return statement_ == number; });
   });
 }
 

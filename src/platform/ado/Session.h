@@ -27,7 +27,8 @@ class Session {
   QSqlDatabase& Database() { return database_; }
   bool IsOpen() const { return open_; }
 
-  // AdoError with what a user can do about it; it never holds the password.
+  // The server of the settings; of several one that takes changes, beginning with the one of before. AdoError with what
+  // a user can do about it; it never holds the password.
   void Open();
   // The engine rolls back what is open.
   void Close();
@@ -53,7 +54,8 @@ class Session {
 
  private:
   void CheckDriver() const;
-  void SetUp();
+  void OpenNode(const ConnectionSettings& node);
+  void SetUp(const ConnectionSettings& node);
   // Closes, and tells why.
   [[noreturn]] void GiveUp(const QString& reason, quint32 number = AdoNumber::Unspecified);
   QString WithoutPassword(QString text) const;
@@ -66,10 +68,12 @@ class Session {
   const QString handle_;  // QtSql's name of the connection
   QSqlDatabase database_;
   bool open_ = false;
+  bool takesChanges_ = true;
   QString cipher_;  // of the open session; empty when it is not encrypted or that is not known
 
-  std::mutex link_;  // guards the three below, so that what is closed is not cut
+  std::mutex link_;  // guards the four below, so that what is closed is not cut
   QString name_;     // the server's of the open session
+  size_t node_ = 0;  // of those that the settings name: the one of the open session, or of the last
   int socket_ = -1;
   void* embedded_ = nullptr;
   std::atomic<int> statement_{0};      // number of the statement under way
