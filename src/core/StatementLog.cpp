@@ -16,5 +16,8 @@ bool StatementLog::Write(const StatementRecord& statement) {
   const QStringList parts{Clock::Now().toString("yyyy-MM-dd hh:mm:ss.zzz"), QString::number(statement.milliseconds),
                           rows, text};
   const QByteArray line = parts.join('\t').toUtf8() + '\n';
-  return file_.write(line) == line.size();
+  const qint64 before = file_.size();
+  if (file_.write(line) == line.size()) return true;
+  file_.resize(before);  // half a line would stand before the next one
+  return false;
 }

@@ -4,6 +4,11 @@
 #include <stdexcept>
 
 #include "core/WorkFolder.h"
+#include "platform/FileSizeLimit.h"
+
+#ifndef Q_OS_WIN
+#include <sys/stat.h>
+#endif
 
 namespace {
 
@@ -128,3 +133,29 @@ TEST(PasswordRecordTest, BrokenRecordsMatchNothing) {
                            "pbkdf2-sha256$1000$" + salt + "$"};
   for (const QString& record : broken) EXPECT_FALSE(PasswordRecord::Matches("secret", record)) << record.toStdString();
 }
+
+#ifndef Q_OS_WIN
+TEST_F(PasswordCipherTest, AFullDiskAtEveryByteLeavesNoKeyFile) {
+  for (rlim_t room = 0; room < 32; ++room) {
+    const FileSizeLimit limit(room);
+    try {
+      PasswordCipherHelper(Path("Ostana.key")).Encode("secret");
+      ADD_FAILURE() << "a key was made in " << room << " bytes";
+    } catch (const std::exception& failure) {
+      EXPECT_TRUE(QString(failure.what()).contains(Path("Ostana.key"))) << failure.what();
+    }
+    ASSERT_TRUE(QDir(Path("")).isEmpty()) << room;
+  }
+  EXPECT_FALSE(PasswordCipherHelper(Path("Ostana.key")).Encode("secret").isEmpty());
+}
+
+TEST_F(PasswordCipherTest, APipeIsNoKeyFile) {
+  ASSERT_EQ(::mkfifo(QFile::encodeName(Path("Ostana.key")).constData(), 0600), 0);
+  try {
+    PasswordCipherHelper(Path("Ostana.key")).Encode("secret");
+    ADD_FAILURE() << "a pipe was read";
+  } catch (const std::exception& failure) {
+    EXPECT_TRUE(QString(failure.what()).contains("it is not a file")) << failure.what();
+  }
+}
+#endif

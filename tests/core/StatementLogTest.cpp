@@ -1,6 +1,7 @@
 #include "core/StatementLog.h"
 
 #include "core/WorkFolder.h"
+#include "platform/FileSizeLimit.h"
 #include "platform/ado/Connection.h"
 
 namespace {
@@ -54,3 +55,20 @@ TEST_F(StatementLogTest, FileThatCannotBeWrittenIsTold) {
   EXPECT_FALSE(StatementLog(Path("absent/s.log")).Write({"SELECT 1", 0, -1, false}));
   EXPECT_FALSE(StatementLog(Path("")).Write({"SELECT 1", 0, -1, false}));
 }
+
+#ifndef Q_OS_WIN
+TEST_F(StatementLogTest, AFullDiskAtEveryByteLeavesNoHalfLine) {
+  StatementLog log(Path("s.log"));
+  ASSERT_TRUE(log.Write({"SELECT 1", 0, -1, false}));
+  const QByteArray whole = Bytes("s.log");
+  for (int room = 0; room < whole.size(); ++room) {
+    {
+      const FileSizeLimit limit(rlim_t(whole.size() + room));
+      EXPECT_FALSE(log.Write({"SELECT 2", 0, -1, false}));
+    }
+    ASSERT_EQ(Bytes("s.log"), whole) << room;
+  }
+  EXPECT_TRUE(log.Write({"SELECT 2", 0, -1, false}));
+  EXPECT_EQ(Lines().size(), 2);
+}
+#endif
