@@ -45,6 +45,10 @@ OwnServer::OwnServer(Engine engine, Bare) : engine_(engine), port_(FreePort()) {
 OwnServer::OwnServer(Engine engine) : OwnServer(engine, Bare{}) {
   MakeCluster();
   Show(Certificate::Right);
+  MakeSite();
+}
+
+void OwnServer::MakeSite() {
   if (engine_ == Engine::PostgreSql) {
     Administer("CREATE USER clerk PASSWORD 'Secr3tWord'");
     Administer("CREATE DATABASE site OWNER clerk");
@@ -62,6 +66,44 @@ std::unique_ptr<OwnServer> OwnServer::StandbyOf(OwnServer& primary) {
                                   "--host=" + primary.folder_.path(), "--port=" + QString::number(primary.port_)}));
   standby->Show(Certificate::Right);
   return standby;
+}
+
+namespace {
+
+const QString GaleraLibrary = QStringLiteral("/usr/lib/galera/libgalera_smm.so");
+
+}  // namespace
+
+bool OwnServer::HasGalera() {
+  return QFile::exists(GaleraLibrary) && QFile::exists("/usr/bin/rsync");
+}
+
+std::unique_ptr<OwnServer> OwnServer::GaleraNode(const OwnServer* first) {
+  std::unique_ptr<OwnServer> node(new OwnServer(Engine::MariaDb, Bare{}));
+  node->MakeCluster();
+  node->clusterPort_ = FreePort();
+  const QString own = "127.0.0.1:" + QString::number(node->clusterPort_);
+  const QString peer = first ? "127.0.0.1:" + QString::number(first->clusterPort_) : QString();
+  node->further_ = {
+      "--binlog-format=ROW",
+      "--default-storage-engine=InnoDB",
+      "--innodb-autoinc-lock-mode=2",
+      "--wsrep-on=ON",
+      "--wsrep-provider=" + GaleraLibrary,
+      "--wsrep-cluster-name=tests",
+      "--wsrep-node-name=" + QString::number(node->port_),
+      "--wsrep-cluster-address=gcomm://" + peer,
+      "--wsrep-node-address=127.0.0.1",
+      "--wsrep-sst-method=rsync",
+      "--wsrep-sst-receive-address=127.0.0.1:" + QString::number(FreePort()),
+      QString("--wsrep-provider-options=base_port=%1;gmcast.listen_addr=tcp://%2;ist.recv_addr=127.0.0.1:%3;"
+              "evs.suspect_timeout=PT1S;evs.inactive_timeout=PT2S;evs.keepalive_period=PT0.5S")
+          .arg(node->clusterPort_)
+          .arg(own)
+          .arg(FreePort())};
+  node->Show({});
+  if (!first) node->MakeSite();
+  return node;
 }
 
 void OwnServer::Promote() {
@@ -142,7 +184,7 @@ void OwnServer::Show(std::optional<Certificate> certificate) {
   } else {
     arguments += "--skip-ssl";
   }
-  Start(arguments);
+  Start(arguments + further_);
 }
 
 void OwnServer::Start(const QStringList& arguments) {

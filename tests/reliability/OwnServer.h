@@ -17,6 +17,9 @@ class OwnServer {
   explicit OwnServer(Engine engine);
   // A standby of a server of PostgreSQL, which it follows until it is promoted.
   static std::unique_ptr<OwnServer> StandbyOf(OwnServer& primary);
+  // A node of a Galera cluster of MariaDB: the first, or one that joins it. False where the machine cannot.
+  static bool HasGalera();
+  static std::unique_ptr<OwnServer> GaleraNode(const OwnServer* first = nullptr);
   ~OwnServer();
   OwnServer(const OwnServer&) = delete;
   OwnServer& operator=(const OwnServer&) = delete;
@@ -38,6 +41,7 @@ class OwnServer {
   OwnServer(Engine engine, Bare);
   void MakeCertificates();
   void MakeCluster();
+  void MakeSite();
   void Start(const QStringList& arguments);
   void Stop();
   bool Answers();
@@ -47,6 +51,8 @@ class OwnServer {
   const Engine engine_;
   QTemporaryDir folder_;
   int port_ = 0;
-  QString account_;  // that runs the server, which refuses to run as root; empty for our own
+  QString account_;      // that runs the server, which refuses to run as root; empty for our own
+  int clusterPort_ = 0;  // of Galera's own traffic
+  QStringList further_;  // arguments of the server
   QProcess server_;
 };
