@@ -11,6 +11,7 @@
 #include "platform/ado/Dialect.h"
 #include "platform/files/IniFile.h"
 #include "platform/files/IniText.h"
+#include "schema/TableContent.h"
 
 namespace {
 
@@ -157,6 +158,7 @@ void ReadDatabase(const SectionReader& section, SiteSettings& settings) {
   connection.password = ReadPassword(section, settings.settingsFile);
   connection.options = section.Text("Options").trimmed();
   connection.ownerPrefix = ReadOwnerPrefix(section);
+  connection.keyOf = Content::OrderOf;
   settings.databaseType = section.Number("DatabaseType", 0, 32767, Dialect::For(connection.engine).DatabaseType());
 }
 

@@ -41,6 +41,8 @@ QString SchemaStatements::Type(const SchemaColumn& column) const {
       // The collation tells codes apart that differ in letter case or accents alone, as SQLite and PostgreSQL do.
       if (engine_ == Engine::SqlServer)
         return QStringLiteral("NVARCHAR(%1) COLLATE Latin1_General_100_BIN2").arg(column.size);
+      // Of another collation of a PostgreSQL database, lists would have a language's order there alone.
+      if (engine_ == Engine::PostgreSql) return QStringLiteral("VARCHAR(%1) COLLATE \"C\"").arg(column.size);
       return QStringLiteral("VARCHAR(%1)").arg(column.size);
     case SchemaColumn::Integer:
       return QStringLiteral("INTEGER");

@@ -151,6 +151,15 @@ std::optional<QStringList> Content::RowKey(const SchemaTable& table) {
   return std::nullopt;
 }
 
+QStringList Content::OrderOf(const QString& table) {
+  const SchemaTable* const known = SchemaModel::Get().Find(table);
+  if (known == nullptr) return {};
+  if (const std::optional<QStringList> key = RowKey(*known)) return *key;
+  QStringList columns;
+  for (const SchemaColumn& column : known->columns) columns += column.name;
+  return columns;
+}
+
 Cell Content::Canonical(const SchemaColumn& column, const QString& text) {
   switch (column.type) {
     case SchemaColumn::Text:

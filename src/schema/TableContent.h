@@ -60,6 +60,9 @@ std::vector<SchemaColumn> KnownColumns(const SchemaTable& table, const QStringLi
 // The columns by which a row is told from the others: those of the primary key, else of a UNIQUE in which NULL counts
 // as a value. No columns mean that all rows are one, as in a counter; nothing means that only a whole row is itself.
 std::optional<QStringList> RowKey(const SchemaTable& table);
+// The columns in whose order rows stand that a statement leaves in any: those of the key, else all. None for a table
+// that the system does not know.
+QStringList OrderOf(const QString& table);
 
 // The one form of a value; nothing when the text is no value of the column's type. Lengths are the database's matter.
 Cell Canonical(const SchemaColumn& column, const QString& text);

@@ -70,6 +70,19 @@ TEST_F(LibraryLookUpTest, OnlyPercentIsAWildcard) {
   EXPECT_EQ(gLibraryMatches.front().LibrarySymbol, "A!_2");
 }
 
+TEST_F(LibraryLookUpTest, LetterCaseDoesNotCountAndAccentsDo) {
+  AddLibrary(200, "Éa1");
+  AddLibrary(201, "ÉB2");
+  AddLibrary(202, "EC3");
+  Begin();
+  EXPECT_TRUE(Search("éA%"));
+  EXPECT_EQ(count, 1);
+  EXPECT_TRUE(Search("é%"));
+  EXPECT_EQ(count, 2);
+  EXPECT_TRUE(Search("e%3"));
+  EXPECT_EQ(count, 1);
+}
+
 TEST_F(LibraryLookUpTest, QuotesInTheTextAreHarmless) {
   AddLibrary(200, "O''HARE");
   Begin();
@@ -163,6 +176,22 @@ TEST_F(AdvancedSearchTest, InstitutionAndLibraryNameAreOneSearch) {
                         "ORDER By LIBRARY_SYMBOL "));
   EXPECT_EQ(Text("lblValue"), "1");
   EXPECT_EQ(Cell("grdViewSearchResults", 1, 1), "NORTH");
+}
+
+// The boxes make capitals of what is typed.
+TEST_F(AdvancedSearchTest, NamesAreFoundInTheLettersOfTheirOwn) {
+  AddLibrary(110, "X1", {{"INSTITUTION_NAME", "'Université X'"}, {"CONTACT", "'Jürgen Groß'"}});
+  AddLibrary(111, "X2", {{"INSTITUTION_NAME", "'UNIVERSITE Y'"}, {"CONTACT", "'Jurgen Gros'"}});
+  for (const auto& [box, typed] : {std::pair{"txtInstitution", "université"},
+                                   {"txtContact", "jürgen"},
+                                   {"txtContact", "Groß"},
+                                   {"txtContact", "GROSS"}}) {
+    Click("cmdClear");
+    Type(box, typed);
+    Click("cmdSearch");
+    EXPECT_EQ(Text("lblValue"), "1") << typed;
+    EXPECT_EQ(Cell("grdViewSearchResults", 1, 1), "X1") << typed;
+  }
 }
 
 TEST_F(AdvancedSearchTest, RowsThatAreNoLibraryAreLeftOut) {

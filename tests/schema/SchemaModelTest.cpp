@@ -132,10 +132,12 @@ TEST(SchemaStatementsTest, SqlServerGetsNationalTextAndItsOwnWords) {
 
 TEST(SchemaStatementsTest, LanguageColumnsStandBehindAllOthers) {
   const SchemaTable& type = *SchemaModel::Get().Find("ID_SERVICE_TYPE");
-  EXPECT_EQ(SchemaStatements(Engine::PostgreSql, {}).Create(type, {"ENG", "FRE"}),
-            "CREATE TABLE ID_SERVICE_TYPE (SERVICE_TYPE VARCHAR(1) NOT NULL, SERVICE_TYPE_DESC VARCHAR(50), "
-            "DELIVERY_TYPE VARCHAR(1), WEB_FLAG VARCHAR(1), SERVICE_TYPE_DESC_ENG VARCHAR(50), SERVICE_TYPE_DESC_FRE "
-            "VARCHAR(50), PRIMARY KEY (SERVICE_TYPE))");
+  EXPECT_EQ(
+      SchemaStatements(Engine::PostgreSql, {}).Create(type, {"ENG", "FRE"}),
+      "CREATE TABLE ID_SERVICE_TYPE (SERVICE_TYPE VARCHAR(1) COLLATE \"C\" NOT NULL, SERVICE_TYPE_DESC VARCHAR(50) "
+      "COLLATE \"C\", DELIVERY_TYPE VARCHAR(1) COLLATE \"C\", WEB_FLAG VARCHAR(1) COLLATE \"C\", "
+      "SERVICE_TYPE_DESC_ENG VARCHAR(50) COLLATE \"C\", SERVICE_TYPE_DESC_FRE VARCHAR(50) COLLATE \"C\", PRIMARY KEY "
+      "(SERVICE_TYPE))");
 }
 
 TEST(LanguageCodeTest, ThreeLettersOrDigitsWithALetterFirst) {

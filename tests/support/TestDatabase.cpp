@@ -42,18 +42,6 @@ Connection& Administrator() {
   return *connection;
 }
 
-void Fill(const ConnectionSettings& settings, bool sample) {
-  Connection connection(settings);
-  connection.Open();
-  DatabaseBuilder::Create(connection, sample ? DatabaseBuilder::Rows::Sample : DatabaseBuilder::Rows::Reference,
-                          {{"FRE", "French"}, {"GER", "German"}});
-  if (!Users::Exists(connection, "admin")) Users::Add(connection, "admin", {});
-  // Few rounds: a test logs on hundreds of times.
-  Users::SetPassword(connection, "admin", PasswordRecord::Make("secret", 1000));
-  for (const QString& function : Users::KnownFunctions())
-    Users::SetRight(connection, "admin", {function, true, true, true});
-}
-
 // SQLite: a file that is made once a process and copied for each case.
 class FileCopies {
  public:
@@ -62,7 +50,7 @@ class FileCopies {
     if (original.isEmpty()) {
       const ConnectionSettings settings = TestDatabase::FreshSettings(folder_.path());
       DatabaseBuilder::MakeMissing(settings);
-      Fill(settings, sample);
+      TestDatabase::Fill(settings, sample);
       original = settings.name;
     }
     const ConnectionSettings copy = TestDatabase::FreshSettings(folder_.path());
@@ -91,7 +79,7 @@ class ServerDatabases {
     }
     Kept made{sample, ServerSettings(NextName()), {}};
     DatabaseBuilder::MakeMissing(made.settings);
-    Fill(made.settings, sample);
+    TestDatabase::Fill(made.settings, sample);
     Connection connection(made.settings);
     connection.Open();
     Keep(connection);
@@ -273,6 +261,18 @@ ConnectionSettings TestDatabase::FreshSettings(const QString& folder) {
   ConnectionSettings settings;
   settings.name = folder + '/' + NextName() + ".db";
   return settings;
+}
+
+void TestDatabase::Fill(const ConnectionSettings& settings, bool sample) {
+  Connection connection(settings);
+  connection.Open();
+  DatabaseBuilder::Create(connection, sample ? DatabaseBuilder::Rows::Sample : DatabaseBuilder::Rows::Reference,
+                          {{"FRE", "French"}, {"GER", "German"}});
+  if (!Users::Exists(connection, "admin")) Users::Add(connection, "admin", {});
+  // Few rounds: a test logs on hundreds of times.
+  Users::SetPassword(connection, "admin", PasswordRecord::Make("secret", 1000));
+  for (const QString& function : Users::KnownFunctions())
+    Users::SetRight(connection, "admin", {function, true, true, true});
 }
 
 void TestDatabase::Remove(const ConnectionSettings& settings) {

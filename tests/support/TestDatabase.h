@@ -30,6 +30,8 @@ class TestDatabase {
   void LendTo(QProcessEnvironment& environment) const;
   // Settings of an empty database that does not exist yet, on the engine of the test.
   static ConnectionSettings FreshSettings(const QString& folder);
+  // The tables and rows of a case in a database that is there and empty.
+  static void Fill(const ConnectionSettings& settings, bool sample);
   // Removes a database that was made from such settings.
   static void Remove(const ConnectionSettings& settings);
   static QString IniSection(const ConnectionSettings& settings);

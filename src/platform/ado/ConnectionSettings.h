@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
+#include <functional>
 
 enum class Engine { Sqlite, PostgreSql, MariaDb, SqlServer };
 
@@ -14,4 +16,6 @@ struct ConnectionSettings {
   QString password;
   QString options;      // further options in the driver's own words, joined by ";"
   QString ownerPrefix;  // as it stands before table names in SQL, closing point included; may be empty
+  // The columns of a table's key, upper case; none where it is not known. Rows that tie stand in their order.
+  std::function<QStringList(const QString& table)> keyOf = {};
 };

@@ -37,6 +37,9 @@ class Dialect {
   // A SELECT that verifies the set-up: its one value must equal "1". Empty where there is nothing to verify.
   virtual QString SessionCheck() const { return {}; }
   virtual QString BeginStatement() const = 0;
+  // Called when the driver has opened, before the statements of the set-up. A reason for the user when the session
+  // cannot be used.
+  virtual QString Opened(QSqlDatabase&) const { return {}; }
   // Run before each statement where the session itself keeps an image of the tables that another client may have made
   // stale. Empty where the server looks after that.
   virtual QString SchemaRefresh() const { return {}; }
@@ -45,6 +48,7 @@ class Dialect {
 
   // One statement in the words of this engine. What stands inside a literal is never touched; carrying a carried text
   // again changes nothing.
+  // Rows come in the same order on every engine, and a pattern of LIKE finds the same ones.
   virtual QString Carry(const QString& statement, const ConnectionSettings& settings) const = 0;
 
   virtual QString DateLiteral(const QDate& date) const;

@@ -4,6 +4,8 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 
+#include "platform/ado/StatementOrder.h"
+#include "platform/ado/StatementPatterns.h"
 #include "platform/ado/StatementWords.h"
 
 bool MariaDbDialect::Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const {
@@ -77,10 +79,15 @@ QString MariaDbDialect::SessionCheck() const {
 QString MariaDbDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
   StatementWords::Tokens tokens = StatementWords::InCommonSql(statement, settings.ownerPrefix);
   StatementWords::UpperTableNames(tokens);
-  // The tables compare letter by letter; a pattern does not. The collation stands at the pattern, where it fits columns
-  // of every character set. This engine knows no pattern without an escape: one that nobody types takes its place.
-  StatementWords::Patterns(tokens, QStringLiteral("LIKE"), QStringLiteral("utf8mb4_unicode_520_ci"),
-                           QStringLiteral("\x1f"));
+  StatementWords::OrderTies(tokens, settings.keyOf);
+  // The letters of UCA 14, letter by letter, and "ß" is "SS". The engine's own patterns of that collation know no
+  // letters beyond the first plane. It knows no pattern without an escape: one that nobody types takes its place.
+  StatementWords::Patterns(
+      tokens, {QStringLiteral("CONVERT(REPLACE(UPPER(LOWER(CONVERT("),
+               QStringLiteral(" USING utf8mb4) COLLATE utf8mb4_uca1400_as_ci)), 'ß', 'SS') USING utf8mb4)"),
+               {},
+               QStringLiteral("utf8mb4_bin"),
+               QStringLiteral("\x1f")});
   // TIMESTAMP would be moved by time zones, end in 2038 and change by itself.
   StatementWords::ColumnType(tokens, "TIMESTAMP", QStringLiteral("DATETIME"));
   return Join(tokens);

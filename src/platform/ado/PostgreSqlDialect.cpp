@@ -3,6 +3,8 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 
+#include "platform/ado/StatementOrder.h"
+#include "platform/ado/StatementPatterns.h"
 #include "platform/ado/StatementWords.h"
 
 bool PostgreSqlDialect::Prepare(QSqlDatabase& database, const ConnectionSettings& settings, QString* reason) const {
@@ -67,9 +69,29 @@ QString PostgreSqlDialect::SessionCheck() const {
       "pg_client_encoding() = 'UTF8' THEN 1 ELSE 0 END");
 }
 
+namespace {
+
+// Letters whose capital has another small form, and that form. "Σ" would become another small letter at the end of a
+// word, "İ" two letters.
+const QString SecondForms = QStringLiteral("İΣ\u00B5ıſ\u0345ςϐϑϕϖϰϱϵᲀᲁᲂᲃᲄᲅᲆᲇᲈẛ\u1FBE");
+const QString FirstForms = QStringLiteral("iσμisισβθφπκρεвдосттъѣꙋṡι");
+
+// The folding of ICU, whatever the database's own locale is: letter by letter, and "ß" is "ss".
+StatementWords::PatternForm LikeForm() {
+  return {QStringLiteral("replace(lower(translate("),
+          QStringLiteral(", '%1', '%2') COLLATE \"und-x-icu\"), 'ß', 'ss')").arg(SecondForms, FirstForms),
+          {},
+          {},
+          QString()};
+}
+
+}  // namespace
+
 QString PostgreSqlDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
   StatementWords::Tokens tokens = StatementWords::InCommonSql(statement, settings.ownerPrefix);
-  StatementWords::Patterns(tokens, QStringLiteral("ILIKE"), {}, {});
+  StatementWords::OrderTies(tokens, settings.keyOf);
+  StatementWords::NullsFirst(tokens);
+  StatementWords::Patterns(tokens, LikeForm());
   return Join(tokens);
 }
 

@@ -35,6 +35,10 @@ void Session::Open() {
     const QString advice = dialect_.OpenAdvice(error, settings_);
     throw AdoError(AdoNumber::Unspecified, WithoutPassword(advice + u'\n' + dialect_.EngineText(error)), OpenSource);
   }
+  if (const QString unusable = dialect_.Opened(database_); !unusable.isEmpty()) {
+    Close();
+    throw AdoError(AdoNumber::Unspecified, unusable, OpenSource);
+  }
   open_ = true;
   SetUp();
 }

@@ -3,6 +3,8 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 
+#include "platform/ado/StatementOrder.h"
+#include "platform/ado/StatementPatterns.h"
 #include "platform/ado/StatementWords.h"
 
 namespace {
@@ -59,9 +61,9 @@ QString SqlServerDialect::OpenAdvice(const QSqlError& error, const ConnectionSet
 }
 
 QStringList SqlServerDialect::SessionSetup(const ConnectionSettings&) const {
-  return {QStringLiteral("SET XACT_ABORT ON"),     QStringLiteral("SET NOCOUNT OFF"),
+  return {QStringLiteral("SET XACT_ABORT ON"), QStringLiteral("SET NOCOUNT OFF"),
           QStringLiteral("SET LOCK_TIMEOUT 5000"), QStringLiteral("SET ANSI_NULLS ON"),
-          QStringLiteral("SET ANSI_PADDING ON"),   QStringLiteral("SET QUOTED_IDENTIFIER ON"),
+          QStringLiteral("SET ANSI_PADDING ON"), QStringLiteral("SET QUOTED_IDENTIFIER ON"),
           QStringLiteral("SET DATEFORMAT ymd")};
 }
 
@@ -79,12 +81,15 @@ void LongTexts(StatementWords::Tokens& tokens) {
 
 }  // namespace
 
-QString SqlServerDialect::Carry(const QString& statement, const ConnectionSettings&) const {
+QString SqlServerDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
   StatementWords::Tokens tokens = Tokenize(statement);
   // VARCHAR holds one code page only, and TIMESTAMP is no time at all but a row version.
   StatementWords::ColumnType(tokens, "VARCHAR", QStringLiteral("NVARCHAR"));
   LongTexts(tokens);
   StatementWords::ColumnType(tokens, "TIMESTAMP", QStringLiteral("DATETIME2(0)"));
+  StatementWords::OrderTies(tokens, settings.keyOf);
+  // The columns compare letter by letter; a pattern does not.
+  StatementWords::Patterns(tokens, {{}, {}, QStringLiteral("Latin1_General_100_CI_AS_KS_WS_SC"), {}, {}});
   return Join(tokens);
 }
 

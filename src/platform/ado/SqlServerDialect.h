@@ -2,8 +2,9 @@
 
 #include "platform/ado/Dialect.h"
 
-// SQL Server through ODBC. The statements of the system are written in its words, so that they go to it as they stand;
-// only the types of columns that are created need other names.
+// SQL Server through ODBC. The statements of the system are written in its words, so that they go to it as they stand:
+// only the types of columns that are created need other names, texts beyond ASCII the sign of national ones, patterns a
+// collation and ties an order.
 class SqlServerDialect : public Dialect {
  public:
   Engine engine() const override { return Engine::SqlServer; }

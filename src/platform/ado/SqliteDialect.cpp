@@ -6,6 +6,8 @@
 #include <QSqlError>
 #include <QUrl>
 
+#include "platform/ado/SqliteLetters.h"
+#include "platform/ado/StatementOrder.h"
 #include "platform/ado/StatementWords.h"
 
 namespace {
@@ -80,8 +82,14 @@ QString SqliteDialect::SessionCheck() const {
       "SELECT (SELECT COUNT(*) FROM sqlite_master) >= 0 AND (SELECT foreign_keys FROM pragma_foreign_keys) = 1");
 }
 
+QString SqliteDialect::Opened(QSqlDatabase& database) const {
+  return SqliteLetters::ReplaceLike(database);
+}
+
 QString SqliteDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
-  return Join(StatementWords::InCommonSql(statement, settings.ownerPrefix));
+  StatementWords::Tokens tokens = StatementWords::InCommonSql(statement, settings.ownerPrefix);
+  StatementWords::OrderTies(tokens, settings.keyOf);
+  return Join(tokens);
 }
 
 Dialect::Failure SqliteDialect::Classify(const QSqlError& error) const {

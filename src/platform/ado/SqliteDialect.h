@@ -2,8 +2,7 @@
 
 #include "platform/ado/Dialect.h"
 
-// The embedded engine: one file, no server, no user. Its text comparison is exact, its LIKE ignores the case of ASCII
-// letters only.
+// The embedded engine: one file, no server, no user.
 class SqliteDialect : public Dialect {
  public:
   Engine engine() const override { return Engine::Sqlite; }
@@ -15,6 +14,7 @@ class SqliteDialect : public Dialect {
   QString OpenAdvice(const QSqlError& error, const ConnectionSettings& settings) const override;
   QStringList SessionSetup(const ConnectionSettings& settings) const override;
   QString SessionCheck() const override;
+  QString Opened(QSqlDatabase& database) const override;
   QString BeginStatement() const override { return QStringLiteral("BEGIN IMMEDIATE"); }
   // Qt's driver counts a statement's columns once; when another client has added a column since the session last
   // looked, the engine prepares the statement anew with more of them while it runs, and the driver writes past its row.

@@ -1,52 +1,14 @@
 #include "platform/ado/StatementWords.h"
 
 #include <algorithm>
-#include <array>
+
+#include "platform/ado/StatementOrder.h"
 
 namespace StatementWords {
 
 namespace {
 
 const SqlToken Space{SqlToken::Blank, QStringLiteral(" ")};
-
-bool IsSymbol(const SqlToken& token, char sign) {
-  return token.kind == SqlToken::Symbol && token.text.at(0) == QLatin1Char(sign);
-}
-
-// A list of what begins a new clause or ends an operand.
-bool EndsOperand(const SqlToken& token) {
-  static constexpr std::array words{"AND",  "OR",   "ORDER", "GROUP",  "HAVING",  "LIMIT", "UNION", "THEN",
-                                    "WHEN", "ELSE", "END",   "ESCAPE", "COLLATE", "LIKE",  "ILIKE"};
-  return std::any_of(words.begin(), words.end(), [&](const char* word) { return Is(token, word); });
-}
-
-bool IsName(const SqlToken& token) {
-  return token.kind == SqlToken::QuotedName || (token.kind == SqlToken::Word && !EndsOperand(token));
-}
-
-void InsertAt(Tokens& tokens, size_t index, std::initializer_list<SqlToken> added) {
-  tokens.insert(tokens.begin() + static_cast<Tokens::difference_type>(index), added);
-}
-
-void Erase(Tokens& tokens, size_t from, size_t end) {
-  tokens.erase(tokens.begin() + static_cast<Tokens::difference_type>(from),
-               tokens.begin() + static_cast<Tokens::difference_type>(end));
-}
-
-// Kept apart from what stands before and behind. Gives the place behind the words.
-size_t InsertWords(Tokens& tokens, size_t index, const QString& words) {
-  Tokens added = Tokenize(words);
-  const size_t end = index + added.size();
-  const auto apart = [](const SqlToken& token) {
-    return token.kind == SqlToken::Blank || token.kind == SqlToken::Symbol || token.kind == SqlToken::Semicolon;
-  };
-  const bool behind = index < tokens.size() && !apart(tokens[index]);
-  const bool before = index > 0 && tokens[index - 1].kind != SqlToken::Blank;
-  if (behind) added.push_back(Space);
-  if (before) added.insert(added.begin(), Space);
-  tokens.insert(tokens.begin() + static_cast<Tokens::difference_type>(index), added.begin(), added.end());
-  return end + (before ? 1 : 0);
-}
 
 // A plain word needs no quotes anywhere.
 bool IsPlainName(const QString& name) {
@@ -61,32 +23,6 @@ SqlToken PlainName(const SqlToken& bracketed) {
   if (IsPlainName(name)) return {SqlToken::Word, name};
   name.replace(QLatin1Char('"'), QLatin1String("\"\""));
   return {SqlToken::QuotedName, u'"' + name + u'"'};
-}
-
-// Index just behind the last token of the operand that begins at `index`.
-size_t EndOfOperand(const Tokens& tokens, size_t index) {
-  size_t end = index;
-  int depth = 0;
-  for (size_t i = index; i < tokens.size(); ++i) {
-    if (tokens[i].kind == SqlToken::Blank) continue;
-    if (tokens[i].kind == SqlToken::Semicolon) break;
-    if (IsSymbol(tokens[i], '(')) ++depth;
-    if (IsSymbol(tokens[i], ')') && --depth < 0) break;
-    if (depth == 0 && (EndsOperand(tokens[i]) || IsSymbol(tokens[i], ','))) break;
-    end = i + 1;
-  }
-  return end;
-}
-
-// Index of the parenthesis that closes the level of `index`, or the place behind the last token of the text.
-size_t EndOfLevel(const Tokens& tokens, size_t index) {
-  int depth = 0;
-  for (size_t i = index; i < tokens.size(); ++i) {
-    if (IsSymbol(tokens[i], '(')) ++depth;
-    if (IsSymbol(tokens[i], ')') && --depth < 0) return i;
-    if (tokens[i].kind == SqlToken::Semicolon && depth == 0) return i;
-  }
-  return tokens.size();
 }
 
 // TOP n of the SELECT at the index, to the end of its level as LIMIT n. False when it has none.
@@ -105,20 +41,6 @@ bool MoveTop(Tokens& tokens, size_t select) {
 }
 
 }  // namespace
-
-bool Is(const SqlToken& token, const char* word) {
-  return token.kind == SqlToken::Word && token.text.compare(QLatin1String(word), Qt::CaseInsensitive) == 0;
-}
-
-size_t NextOf(const Tokens& tokens, size_t index) {
-  ++index;
-  while (index < tokens.size() && tokens[index].kind == SqlToken::Blank) ++index;
-  return index;
-}
-
-size_t FirstOf(const Tokens& tokens) {
-  return tokens.empty() || tokens.front().kind != SqlToken::Blank ? 0 : NextOf(tokens, 0);
-}
 
 Tokens InCommonSql(const QString& statement, const QString& ownerPrefix) {
   Tokens tokens = Tokenize(statement);
@@ -215,25 +137,6 @@ void UpperTableNames(Tokens& tokens) {
   }
 }
 
-void Patterns(Tokens& tokens, const QString& operation, const QString& collation, const QString& escape) {
-  for (size_t i = 0; i < tokens.size(); ++i) {
-    if (!Is(tokens[i], "LIKE") && !Is(tokens[i], "ILIKE")) continue;
-    tokens[i].text = operation;
-    size_t end = EndOfOperand(tokens, NextOf(tokens, i));
-    size_t next = NextOf(tokens, end - 1);
-    if (next < tokens.size() && Is(tokens[next], "COLLATE")) {
-      const size_t name = NextOf(tokens, next);
-      end = name < tokens.size() && IsName(tokens[name]) ? name + 1 : next + 1;
-    } else if (!collation.isEmpty()) {
-      end = InsertWords(tokens, end, QLatin1String("COLLATE ") + collation);
-    }
-    next = NextOf(tokens, end - 1);
-    if (next >= tokens.size() || !Is(tokens[next], "ESCAPE")) {
-      InsertWords(tokens, end, QLatin1String("ESCAPE '") + escape + u'\'');
-    }
-  }
-}
-
 void ColumnType(Tokens& tokens, const char* from, const QString& to) {
   const size_t verb = FirstOf(tokens);
   if (verb >= tokens.size() || (!Is(tokens[verb], "CREATE") && !Is(tokens[verb], "ALTER"))) return;
@@ -248,33 +151,8 @@ void ColumnType(Tokens& tokens, const char* from, const QString& to) {
 }
 
 QStringList TablesOfSelect(const QString& select) {
-  const Tokens tokens = Tokenize(select);
   QStringList tables;
-  int depth = 0;
-  bool expected = false;  // a table's name may follow
-  bool inFrom = false;
-  for (size_t i = FirstOf(tokens); i < tokens.size(); i = NextOf(tokens, i)) {
-    const SqlToken& token = tokens[i];
-    if (IsSymbol(token, '(')) ++depth;
-    if (IsSymbol(token, ')')) --depth;
-    if (depth != 0) continue;
-    if (Is(token, "FROM") || Is(token, "JOIN")) {
-      expected = inFrom = true;
-    } else if (Is(token, "WHERE") || Is(token, "GROUP") || Is(token, "ORDER") || Is(token, "HAVING") ||
-               Is(token, "LIMIT") || Is(token, "UNION")) {
-      expected = inFrom = false;
-    } else if (inFrom && IsSymbol(token, ',')) {
-      expected = true;
-    } else if (expected && token.kind == SqlToken::Word) {
-      const size_t next = NextOf(tokens, i);
-      if (next < tokens.size() && IsSymbol(tokens[next], '.')) {
-        i = next;  // the owner; its table follows
-        continue;
-      }
-      tables += token.text.toUpper();
-      expected = false;
-    }
-  }
+  for (const Source& source : SourcesOf(Tokenize(select))) tables += source.table;
   return tables;
 }
 

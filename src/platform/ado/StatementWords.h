@@ -1,17 +1,10 @@
 #pragma once
 
-#include "platform/ado/SqlTokens.h"
+#include "platform/ado/TokenEdit.h"
 
 // The single steps by which dialects carry a statement of the shared system to their engine. Each works on tokens,
 // leaves what stands inside literals as it is, and changes nothing when it is applied again.
 namespace StatementWords {
-
-using Tokens = std::vector<SqlToken>;
-
-bool Is(const SqlToken& token, const char* word);  // a word, letter case does not count
-// Index of the next token behind `index` that is no blank; tokens.size() when there is none.
-size_t NextOf(const Tokens& tokens, size_t index);
-size_t FirstOf(const Tokens& tokens);
 
 // The tokens of a statement, carried by the next five steps to what all engines but SQL Server understand.
 Tokens InCommonSql(const QString& statement, const QString& ownerPrefix);
@@ -29,9 +22,6 @@ QString WithTop(const QString& select, int n);
 void FullVerbs(Tokens& tokens);
 // Words beginning with ID_ become upper case: the form in which tables were created.
 void UpperTableNames(Tokens& tokens);
-// LIKE becomes `operation`; the pattern takes the collation where one is given, and `escape` in the place of the
-// backslash that engines take for an escape otherwise.
-void Patterns(Tokens& tokens, const QString& operation, const QString& collation, const QString& escape);
 // In CREATE TABLE and ALTER TABLE the column type `from` becomes `to`.
 void ColumnType(Tokens& tokens, const char* from, const QString& to);
 
