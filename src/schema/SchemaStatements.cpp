@@ -96,7 +96,8 @@ QString SchemaStatements::Create(const SchemaTable& table, const QStringList& la
     for (const QString& language : languages) elements += Column(InLanguage(column, language));
   }
   if (!table.primaryKey.isEmpty()) elements += "PRIMARY KEY " + Names(table.primaryKey);
-  for (const QStringList& key : table.uniqueKeys) elements += "UNIQUE " + Names(key);
+  for (const QStringList& key : table.uniqueKeys)
+    if (Condition(table, key).isEmpty()) elements += "UNIQUE " + Names(key);
   for (const SchemaForeignKey& key : table.foreignKeys) {
     elements += "FOREIGN KEY " + Names(key.columns) + " REFERENCES " + owner_ + key.table + ' ' +
                 Names(key.references) + (key.actions.isEmpty() ? QString() : ' ' + key.actions);
@@ -114,8 +115,26 @@ QString SchemaStatements::Index(const SchemaIndex& index) const {
   return "CREATE INDEX " + index.name + " ON " + owner_ + index.table + ' ' + Names(index.columns);
 }
 
+// SQL Server takes NULL for a value that may stand once; a key with such columns is an index of the other rows there.
+QString SchemaStatements::Condition(const SchemaTable& table, const QStringList& key) const {
+  if (engine_ != Engine::SqlServer) return {};
+  QStringList conditions;
+  for (const QString& column : key)
+    if (!table.Find(column)->required) conditions += Name(column) + " IS NOT NULL";
+  return conditions.join(" AND ");
+}
+
 QStringList SchemaStatements::CreateIndexes(const SchemaModel& model) const {
   QStringList statements;
+  for (const SchemaTable& table : model.tables) {
+    int number = 0;
+    for (const QStringList& key : table.uniqueKeys) {
+      const QString condition = Condition(table, key);
+      if (condition.isEmpty()) continue;
+      statements += QStringLiteral("CREATE UNIQUE INDEX UQ_%1_%2 ON ").arg(table.name.mid(3)).arg(++number) + owner_ +
+                    table.name + ' ' + Names(key) + " WHERE " + condition;
+    }
+  }
   for (const SchemaIndex& index : model.indexes) statements += Index(index);
   if (engine_ == Engine::MariaDb) return statements;  // InnoDB makes the others by itself
   for (const SchemaTable& table : model.tables) {

@@ -25,6 +25,7 @@ class SchemaStatements {
   QString Column(const SchemaColumn& column) const;
   QString Check(const SchemaColumn& column) const;
   QString Index(const SchemaIndex& index) const;
+  QString Condition(const SchemaTable& table, const QStringList& key) const;
 
   Engine engine_;
   QString owner_;

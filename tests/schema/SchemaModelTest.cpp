@@ -130,6 +130,22 @@ TEST(SchemaStatementsTest, SqlServerGetsNationalTextAndItsOwnWords) {
             "Latin1_General_100_BIN2");
 }
 
+// A UNIQUE of SQL Server takes one NULL only; those of the other engines any number.
+TEST(SchemaStatementsTest, SqlServerKeepsAKeyWithColumnsThatMayBeNullAsAnIndexOfTheOtherRows) {
+  const SchemaModel& model = SchemaModel::Get();
+  const SchemaStatements statements(Engine::SqlServer, "OSTANA.");
+  EXPECT_FALSE(statements.Create(*model.Find("ID_DEPARTMENT"), {}).contains("UNIQUE"));
+  EXPECT_TRUE(statements.Create(*model.Find("ID_LIBRARY"), {}).contains("UNIQUE (LIBRARY_SYMBOL)"));
+  EXPECT_TRUE(statements.CreateIndexes(model).contains(
+      "CREATE UNIQUE INDEX UQ_DEPARTMENT_1 ON OSTANA.ID_DEPARTMENT (LIBRARY_ID, DEPARTMENT_DESC) WHERE DEPARTMENT_DESC "
+      "IS NOT NULL"));
+  for (const Engine engine : {Engine::Sqlite, Engine::PostgreSql, Engine::MariaDb}) {
+    const SchemaStatements others(engine, {});
+    EXPECT_TRUE(others.Create(*model.Find("ID_DEPARTMENT"), {}).contains("UNIQUE (LIBRARY_ID, DEPARTMENT_DESC)"));
+    EXPECT_TRUE(others.CreateIndexes(model).filter("UNIQUE").isEmpty());
+  }
+}
+
 TEST(SchemaStatementsTest, LanguageColumnsStandBehindAllOthers) {
   const SchemaTable& type = *SchemaModel::Get().Find("ID_SERVICE_TYPE");
   EXPECT_EQ(

@@ -22,6 +22,7 @@
 #include "core/ModuleState.h"
 #include "core/OstanaFunctions.h"
 #include "core/ProcessEnd.h"
+#include "platform/ado/SqlTokens.h"
 #include "platform/controls/CodeComboBox.h"
 #include "platform/controls/Grid.h"
 #include "platform/files/IniFile.h"
@@ -30,6 +31,7 @@
 #include "shell/Screen.h"
 #include "shell/Screens.h"
 #include "shell/WebServiceReading.h"
+#include "support/CarriedText.h"
 #include "support/Folders.h"
 
 namespace {
@@ -117,7 +119,10 @@ void Desk::Setting(const QString& section, const QString& key, const QString& va
 void Desk::Observe() {
   if (observed_) return;
   observed_ = true;
-  gclsOF->Connection().AddObserver([this](const StatementRecord& record) { statements_.append(record.text); });
+  gclsOF->Connection().AddObserver([this](const StatementRecord& record) {
+    statements_.append(record.text);
+    for (const QString& statement : SplitStatements(record.text)) WriteCarried(statement);
+  });
 }
 
 frmTabulon& Desk::Start(const QString& arguments) {

@@ -64,7 +64,11 @@ QStringList SqlServerDialect::SessionSetup(const ConnectionSettings&) const {
   return {QStringLiteral("SET XACT_ABORT ON"), QStringLiteral("SET NOCOUNT OFF"),
           QStringLiteral("SET LOCK_TIMEOUT 5000"), QStringLiteral("SET ANSI_NULLS ON"),
           QStringLiteral("SET ANSI_PADDING ON"), QStringLiteral("SET QUOTED_IDENTIFIER ON"),
-          QStringLiteral("SET DATEFORMAT ymd")};
+          QStringLiteral("SET DATEFORMAT ymd"),
+          // A table with an index of a part of its rows refuses every change without these.
+          QStringLiteral("SET ANSI_WARNINGS ON"), QStringLiteral("SET ARITHABORT ON"),
+          QStringLiteral("SET CONCAT_NULL_YIELDS_NULL ON"), QStringLiteral("SET NUMERIC_ROUNDABORT OFF"),
+          QStringLiteral("SET TRANSACTION ISOLATION LEVEL READ COMMITTED")};
 }
 
 namespace {
@@ -83,6 +87,7 @@ void LongTexts(StatementWords::Tokens& tokens) {
 
 QString SqlServerDialect::Carry(const QString& statement, const ConnectionSettings& settings) const {
   StatementWords::Tokens tokens = Tokenize(statement);
+  StatementWords::NationalLiterals(tokens);
   // VARCHAR holds one code page only, and TIMESTAMP is no time at all but a row version.
   StatementWords::ColumnType(tokens, "VARCHAR", QStringLiteral("NVARCHAR"));
   LongTexts(tokens);

@@ -61,6 +61,18 @@ void PlainLiterals(Tokens& tokens) {
   }
 }
 
+void NationalLiterals(Tokens& tokens) {
+  for (size_t i = 0; i < tokens.size(); ++i) {
+    const QString& text = tokens[i].text;
+    const bool plain = std::all_of(text.begin(), text.end(), [](QChar letter) { return letter.unicode() < 0x80; });
+    if (tokens[i].kind != SqlToken::Literal || plain) continue;
+    tokens[i] = {SqlToken::NationalLiteral, u'N' + text};
+    // LIKE'x' must not run together to one word.
+    if (i > 0 && (tokens[i - 1].kind == SqlToken::Word || tokens[i - 1].kind == SqlToken::Number))
+      InsertAt(tokens, i++, {Space});
+  }
+}
+
 void PlainNames(Tokens& tokens) {
   const auto isWord = [](const SqlToken& token) {
     return token.kind == SqlToken::Word || token.kind == SqlToken::Number;

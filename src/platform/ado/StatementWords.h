@@ -10,6 +10,8 @@ namespace StatementWords {
 Tokens InCommonSql(const QString& statement, const QString& ownerPrefix);
 // N'x' becomes 'x', kept apart from a literal before it.
 void PlainLiterals(Tokens& tokens);
+// 'x' becomes N'x' where it holds a letter beyond ASCII: a server that keeps two kinds of texts would lose it.
+void NationalLiterals(Tokens& tokens);
 // [NAME] becomes NAME, or "a name" where it is no plain word.
 void PlainNames(Tokens& tokens);
 // Drops the owner, given with its closing point, from before names.
