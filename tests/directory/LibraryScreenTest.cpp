@@ -1,4 +1,4 @@
-// What the five library screens share, pressed on each of those that this room holds.
+// What the five library screens share, pressed on each of them.
 #include <QAction>
 #include <QLineEdit>
 #include <QMenu>
@@ -31,6 +31,7 @@ constexpr auto ModifiedWords = "This record has been modified.";
 
 const Case Cases[] = {
     {LibrarySibling::Registration, "frmLibraryRegistration", "txtCity", "PRIME_CITY", ModifiedWords, ModifiedWords},
+    {LibrarySibling::Contact, "frmLibraryContactInfo", "txtPhone", "CONTACT_PHONE", RegisteredWords, nullptr},
     {LibrarySibling::Login, "frmLibraryLoginInfo", "txtPassword", "USER_PASSWORD", RegisteredWords, ModifiedWords},
     {LibrarySibling::Statistics, "frmLibraryStatisticalInfo", "txtFD", "FD_SYMBOL",
      "The Library Statistical Info has been modified for this record.", nullptr},
@@ -95,7 +96,8 @@ TEST_P(LibraryScreenTest, ShowsTheLibraryInHand) {
   EXPECT_EQ(Text("txtLibraryName"), "MAIN LIBRARY");
   EXPECT_EQ(Text("txtContact"), "Ann Reed");
   EXPECT_TRUE(RecordButtonsAre(true));
-  EXPECT_EQ(Find<TextBox>("txtContact")->isReadOnly(), GetParam().self != LibrarySibling::Registration);
+  const bool editable = GetParam().self == LibrarySibling::Registration || GetParam().self == LibrarySibling::Contact;
+  EXPECT_NE(Find<TextBox>("txtContact")->isReadOnly(), editable);
   // Filling the fields was no change.
   Prompt().Expect("Nothing has been changed.", MessageStyle::Stop);
   Click("cmdUpdate");

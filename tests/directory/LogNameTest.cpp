@@ -27,20 +27,20 @@ class LogNameTest : public LibraryDesk, public testing::WithParamInterface<Case>
     return lines.isEmpty() ? QString() : lines.first().section("* ", 1);
   }
 };
-INSTANTIATE_TEST_SUITE_P(Screens, LogNameTest,
-                         testing::Values(Case{"frmLibraryRegistration", "frmAddRequest.cmdSearch_Click",
-                                              "frmLibraryRegistration.cmdBook_Click", "cmdBilling",
-                                              "frmLibraryRegistration.cmdBilling_Click"},
-                                         Case{"frmLibraryLoginInfo", "frmLibraryLoginInfo.cmdSearch_Click",
-                                              "frmLibraryLoginInfo.cmdLogin_Click", "cmdRegistration",
-                                              "frmLibraryBillinInfo.cmdRegistration_Click"},
-                                         Case{"frmLibraryStatisticalInfo", "frmAddRequest.cmdSearch_Click",
-                                              "frmLibraryStatisticalInfo.cmdBook_Click", "cmdRegistration",
-                                              "frmLibraryStatisticalInfo.cmdRegistration_Click"},
-                                         Case{"frmLibraryBillingInfo", "frmAddRequest.cmdSearch_Click",
-                                              "frmLibraryBillingInfo.cmdLogin_Click", "cmdRegistration",
-                                              "frmLibraryBillinInfo.cmdRegistration_Click"}),
-                         [](const testing::TestParamInfo<Case>& info) { return std::string(info.param.form); });
+INSTANTIATE_TEST_SUITE_P(
+    Screens, LogNameTest,
+    testing::Values(
+        Case{"frmLibraryRegistration", "frmAddRequest.cmdSearch_Click", "frmLibraryRegistration.cmdBook_Click",
+             "cmdBilling", "frmLibraryRegistration.cmdBilling_Click"},
+        Case{"frmLibraryContactInfo", "frmLibraryContactInfo.cmdSearch_Click", "frmLibraryContactInfo.cmdBook_Click",
+             "cmdStatistics", "frmLibraryrContactInfo.cmdStatistics_Click"},
+        Case{"frmLibraryLoginInfo", "frmLibraryLoginInfo.cmdSearch_Click", "frmLibraryLoginInfo.cmdLogin_Click",
+             "cmdRegistration", "frmLibraryBillinInfo.cmdRegistration_Click"},
+        Case{"frmLibraryStatisticalInfo", "frmAddRequest.cmdSearch_Click", "frmLibraryStatisticalInfo.cmdBook_Click",
+             "cmdRegistration", "frmLibraryStatisticalInfo.cmdRegistration_Click"},
+        Case{"frmLibraryBillingInfo", "frmAddRequest.cmdSearch_Click", "frmLibraryBillingInfo.cmdLogin_Click",
+             "cmdRegistration", "frmLibraryBillinInfo.cmdRegistration_Click"}),
+    [](const testing::TestParamInfo<Case>& info) { return std::string(info.param.form); });
 
 TEST_P(LogNameTest, Search) {
   OpenLibrary(GetParam().form, North);
